@@ -1,0 +1,27 @@
+#pragma once
+
+namespace zolv {
+
+/// Takes the coefficients of the fittings at their present angles and finds the top speed. Unless the program is
+/// loading, it then raises aero.TopSpeedFound and runs CalcAeroForces.
+/// Reads:  Select_FrontWingAngle, Select_RearWingAngle, vehicle.CurrentCar, aero.FixedSpeedMode, guards.Loading
+/// Writes: aero
+void CalcAeroCoefficients();
+
+/// Finds aero.TopSpeed; in FixedSpeedMode also stores every force at that speed.
+void FindTopSpeed();
+
+/// Works out the forces at the speed in force and the axle loads, and writes the page.
+/// Reads:  Select_AeroSpeed in slider mode, aero, vehicle.CurrentCar, units
+/// Writes: aero, the figures of the aerodynamics page
+void CalcAeroForces();
+
+/// The user moved one of the twin speed sliders: the other follows, and in slider mode the forces.
+void MoveAeroSpeed();
+void MoveAeroSpeedOfTyreTab();
+
+/// The user chose which speed the forces refer to.
+void ChooseSliderSpeed();
+void ChooseFixedSpeed();
+
+}  // namespace zolv

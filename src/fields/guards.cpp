@@ -1,0 +1,7 @@
+#include "fields/guards.h"
+
+namespace zolv {
+
+Guards guards;
+
+}  // namespace zolv

@@ -1,0 +1,18 @@
+#pragma once
+
+namespace zolv {
+
+/// The two guards against chains of events. They guard against events that a procedure's own writes raise, within one
+/// call; there is one thread.
+struct Guards {
+    /// True during the load. Handlers that look at it do their list work and calculate nothing, since the tables are
+    /// not complete yet.
+    bool Loading = false;
+
+    /// True while a recalculation from a text box or a bulk rewrite of boxes runs. Boxes then only pass their value to
+    /// their sliders, and the wing sliders start nothing.
+    bool Busy = false;
+};
+extern Guards guards;
+
+}  // namespace zolv

@@ -1,0 +1,282 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "fields/field.h"
+#include "platform/hook.h"
+#include "plots/canvas.h"
+
+/// The kinds of fields. Each has two ways in: what a user does (Enter, Drag, Pick, Click, Choose) and what the program
+/// does (the Set... calls); the two differ in which events they raise.
+namespace zolv {
+
+class Label : public Field {
+public:
+    Label(Window& owner, std::string name, Look design = {});
+};
+
+struct PanelState {
+    int stack = 0;       // panels of one stack lie on top of each other; 0 lies alone
+    bool front = false;  // on top of its stack
+    Look look = {};
+};
+
+/// A panel, page or frame. Panels of a stack share one place, and one of them is on top.
+class Panel : public Field {
+public:
+    Panel(Window& owner, std::string name, PanelState design = {});
+
+    int Stack() const { return design_.stack; }
+    bool InFront() const { return front_; }
+    void BringToFront();
+    void Reset() override;
+
+private:
+    void SetFront(bool front);
+
+    PanelState design_;
+    bool front_;
+};
+
+class Button : public Field {
+public:
+    Button(Window& owner, std::string name, Look design = {});
+
+    void Click() { OnClick(); }
+
+    Hook OnClick;
+};
+
+/// An entry of a menu. An entry without a parent is a menu of the menu bar, and has no click of its own.
+class MenuEntry : public Field {
+public:
+    MenuEntry(Window& owner, std::string name, std::string parent = {}, std::string shortcut = {});
+
+    const std::string& Parent() const { return parent_; }
+    const std::string& Shortcut() const { return shortcut_; }  // "Ctrl+U"; empty where there is none
+    void Click() { OnClick(); }
+
+    Hook OnClick;
+
+private:
+    std::string parent_;
+    std::string shortcut_;
+};
+
+struct TextBoxState {
+    std::string text = {};
+    std::size_t maxLength = 0;  // characters that a user may type; 0 is no limit
+    bool locked = false;
+    bool multiLine = false;
+    Look look = {};
+};
+
+class TextBox : public Field {
+public:
+    TextBox(Window& owner, std::string name, TextBoxState design = {});
+
+    const std::string& Text() const { return text_; }
+    std::size_t MaxLength() const { return design_.maxLength; }
+    bool MultiLine() const { return design_.multiLine; }
+    bool Locked() const override { return design_.locked; }
+
+    /// The user replaces the whole text: each character passes the key press, and the text is cut at the maximum
+    /// length.
+    void Enter(std::string_view text);
+
+    /// The program writes the text, which stands whole. Raises change if the text differs.
+    void SetText(std::string text);
+
+    /// Where the caret stands, as an offset into the text. A new text puts it back to the start.
+    std::size_t Caret() const { return caret_; }
+    void SetCaret(std::size_t caret);
+
+    void Reset() override;
+
+    Hook OnChange;
+    std::function<char(char)> OnKeyPress;  // the character that is to reach the box in place of the one typed
+
+private:
+    TextBoxState design_;
+    std::string text_;
+    std::size_t caret_ = 0;
+};
+
+struct SliderState {
+    int min = 0;
+    int max = 100;
+    int value = 0;
+    int smallStep = 1;
+    int largeStep = 10;
+    int tick = 1;
+    Look look = {};
+};
+
+/// A slider over whole numbers. What it is given is limited to its range.
+class Slider : public Field {
+public:
+    Slider(Window& owner, std::string name, SliderState design);
+
+    int Value() const { return value_; }
+    int Min() const { return min_; }
+    int Max() const { return max_; }
+    int SmallStep() const { return design_.smallStep; }
+    int LargeStep() const { return design_.largeStep; }
+    int Tick() const { return design_.tick; }
+
+    /// The user drags it: raises scroll and change if the value differs.
+    void Drag(int value);
+
+    /// The program moves it: raises change if the value differs.
+    void SetValue(int value);
+
+    /// A new range; the value moves into it, which is a change like any other. `max` is not below `min`.
+    void SetRange(int min, int max);
+
+    void Reset() override;
+
+    Hook OnScroll;
+    Hook OnChange;
+
+private:
+    bool Move(int value);
+
+    SliderState design_;
+    int min_;
+    int max_;
+    int value_;
+};
+
+struct PickListState {
+    std::vector<std::string> rows = {};
+    int picked = -1;
+    bool locked = false;
+    Look look = {};
+};
+
+/// A list of rows of which one is picked, or none. It cannot be typed into.
+class PickList : public Field {
+public:
+    PickList(Window& owner, std::string name, PickListState design = {});
+
+    const std::vector<std::string>& Rows() const { return rows_; }
+    int Picked() const { return picked_; }  // -1 is none
+    const std::string& Text() const;        // of the picked row; empty for none
+    int Find(std::string_view text) const;  // the first row with that text, -1 if there is none
+    bool Locked() const override { return locked_; }
+    void SetLocked(bool locked);
+
+    /// The user picks a row: raises click, also for the row already picked.
+    void Pick(int row);
+
+    /// The program picks the row with that text: raises click each time. A text that no row has changes nothing.
+    void SetText(std::string_view text) { Pick(Find(text)); }
+
+    void Add(std::string row);
+    void SetRow(int row, std::string_view text);
+    void Clear();  // no rows, none picked; raises nothing
+    void Reset() override;
+
+    Hook OnClick;
+
+protected:
+    PickList(Window& owner, std::string name, FieldKind kind, PickListState design);
+
+private:
+    PickListState design_;
+    std::vector<std::string> rows_;
+    int picked_;
+    bool locked_;
+};
+
+/// A strip of tabs, of which one is in front: a pick list whose rows have tool tips, with the first row picked at
+/// start.
+class TabStrip : public PickList {
+public:
+    /// @param toolTips  of each tab; their number is the number of tabs, whose texts come with the language
+    TabStrip(Window& owner, std::string name, std::vector<std::string> toolTips);
+
+    const std::vector<std::string>& ToolTips() const { return toolTips_; }
+
+private:
+    std::vector<std::string> toolTips_;
+};
+
+struct CheckState {
+    bool checked = false;
+    int group = 0;  // of option buttons: those of one group clear each other
+    Look look = {};
+};
+
+class CheckBox : public Field {
+public:
+    CheckBox(Window& owner, std::string name, CheckState design = {});
+
+    bool Checked() const { return checked_; }
+
+    /// By the user or by the program: raises click if the state changes.
+    void SetChecked(bool checked);
+
+    void Reset() override;
+
+    Hook OnClick;
+
+private:
+    CheckState design_;
+    bool checked_;
+};
+
+class OptionButton : public Field {
+public:
+    OptionButton(Window& owner, std::string name, CheckState design);
+
+    bool Checked() const { return checked_; }
+    int Group() const { return design_.group; }
+
+    /// By the user or by the program: clears the others of its group and raises click. One that is chosen already
+    /// stays so and raises nothing, so that a second press never repeats a hand-over.
+    void Choose();
+
+    void Reset() override;
+
+    Hook OnClick;
+
+private:
+    CheckState design_;
+    bool checked_;
+};
+
+/// A picture from a file.
+class Picture : public Field {
+public:
+    Picture(Window& owner, std::string name, Look design = {});
+
+    const std::string& Path() const { return path_; }
+    void SetPath(std::string path);
+    void Reset() override;
+
+private:
+    std::string path_;
+};
+
+/// A canvas on a page. Its visible flag is what hides and shows the drawing.
+class CanvasField : public Field {
+public:
+    CanvasField(Window& owner, std::string name, double width, double height, Look design = {});
+
+    const Canvas& Drawing() const { return canvas_; }
+
+    /// The canvas for drawing on; the field counts as changed.
+    Canvas& Draw();
+
+    void Reset() override;
+
+private:
+    Canvas canvas_;
+};
+
+}  // namespace zolv

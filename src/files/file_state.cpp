@@ -1,0 +1,7 @@
+#include "files/file_state.h"
+
+namespace zolv {
+
+FileState files;
+
+}  // namespace zolv

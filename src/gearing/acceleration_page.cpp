@@ -1,0 +1,168 @@
+#include "gearing/acceleration_page.h"
+
+#include <array>
+#include <cmath>
+#include <string>
+#include <string_view>
+
+#include "aero/aero_state.h"
+#include "fields/windows.h"
+#include "gearing/acceleration_run.h"
+#include "gearing/acceleration_targets.h"
+#include "gearing/gearing_state.h"
+#include "gearing/string_concat.h"
+#include "language/number_text.h"
+#include "language/texts.h"
+#include "tyres/tyre_state.h"
+#include "units/unit_state.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+namespace {
+
+const AccelTargets& PresentTargets() { return AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)]; }
+
+AccelerationSetup PresentSetup() {
+    const auto mode = static_cast<std::size_t>(gearing.Mode());
+    const CarRecord& car = vehicle.CurrentCar;
+    return {.Car = PresentRollingCar(),
+            .Motor = EngineOf(car),
+            .Curve = gearing.Curve,
+            .Efficiency = car.Efficiency,
+            .Wheelbase = car.Wheelbase,
+            .NumGears = car.NumGears,
+            .DrivetrainType = car.DrivetrainType,
+            .TyreMu = tyres.TyreMu,
+            .Ratios = gearing.GearRatio[mode],
+            .FinalDrive = gearing.FinalDrive[mode],
+            .ShiftRevs = gearing.GearRevs[mode],
+            .LongDistance = PresentTargets().Distances[1]};
+}
+
+/// How one column of the table is written.
+struct ColumnText {
+    AccelColumn column;
+    double factor;
+    int decimals;
+    std::string_view suffix;
+    char separator;
+};
+
+void AddNumber(StringConcat& table, double value, const ColumnText& text) {
+    // "N/A" stands without a suffix.
+    if (!std::isfinite(value)) {
+        table.Add(NumberText(value));
+    } else {
+        table.Use(WriteRounded(table.Room(kRoundedTextSize), value, text.decimals));
+        table.Add(text.suffix);
+    }
+    table.Add({&text.separator, 1});
+}
+
+/// Ten values in nine titled columns: the two loads stand under the last title. Distance is kept but not shown. Row 0
+/// reads 0s though it holds the state after the first step.
+void ShowTable() {
+    const Quantity& force = units.Force;
+    const ColumnText time{{}, kTimeStep, 2, "s", '\t'};
+    const std::array<ColumnText, 9> columns{{
+        {AccelColumn::Speed, units.Speed.Factor, units.Speed.Decimals, units.Speed.Suffix, '\t'},
+        {AccelColumn::Revs, 1, 0, texts.RpmSuffix, '\t'},
+        {AccelColumn::Gear, 1, 0, "", '\t'},
+        {AccelColumn::DrivingForce, force.Factor, force.Decimals, force.Suffix, '\t'},
+        {AccelColumn::Resistance, force.Factor, force.Decimals, force.Suffix, '\t'},
+        {AccelColumn::NetForce, force.Factor, force.Decimals, force.Suffix, '\t'},
+        {AccelColumn::Acceleration, units.Acc.Factor, units.Acc.Decimals, units.Acc.Suffix, '\t'},
+        {AccelColumn::FrontLoad, force.Factor, force.Decimals, force.Suffix, '\t'},
+        {AccelColumn::RearLoad, force.Factor, force.Decimals, force.Suffix, '\r'},
+    }};
+
+    StringConcat table;
+    table.Add(texts.TextColTime + '\t' + texts.TextColSpeed + '\t' + texts.TextColEngineRpm + '\t' + texts.TextColGear +
+              '\t' + texts.TextColDrivingForce + '\t' + texts.TextColResistance + '\t' + texts.TextColNetForce + '\t' +
+              texts.TextColAcceleration + '\t' + texts.TextColWheelLoads + "\r\n");
+    for (int row = 0; row <= gearing.AccelLastRow; ++row) {
+        const AccelRow& values = gearing.AccelRows[static_cast<std::size_t>(row)];
+        AddNumber(table, row * time.factor, time);
+        for (const ColumnText& text : columns) AddNumber(table, values[text.column] * text.factor, text);
+        table.Add("\n");
+    }
+
+    // A rewrite leaves the reader where he was.
+    const std::size_t caret = Zolv.AccelerationData.Caret();
+    Zolv.AccelerationData.SetText(table.GetStr());
+    Zolv.AccelerationData.SetCaret(caret);
+}
+
+/// Times [s] to the speed targets, and time and speed at the distance targets; 0 for a target that was not passed.
+struct AccelResults {
+    std::array<float, 5> speedTimes{};
+    std::array<float, 2> distanceTimes{};
+    std::array<float, 2> distanceSpeeds{};
+};
+
+/// The first row that passes a target counts; there is no interpolation between rows.
+AccelResults FindResults() {
+    const AccelTargets& targets = PresentTargets();
+    AccelResults results;
+    for (int i = 0; i <= gearing.AccelLastRow; ++i) {
+        const AccelRow& row = gearing.AccelRows[static_cast<std::size_t>(i)];
+        const auto time = static_cast<float>(i * kTimeStep);
+        for (std::size_t k = 0; k < targets.Speeds.size(); ++k) {
+            if (results.speedTimes[k] == 0 && row[AccelColumn::Speed] > targets.Speeds[k]) results.speedTimes[k] = time;
+        }
+        for (std::size_t k = 0; k < targets.Distances.size(); ++k) {
+            if (results.distanceTimes[k] != 0 || !(row[AccelColumn::Distance] > targets.Distances[k])) continue;
+            results.distanceTimes[k] = time;
+            results.distanceSpeeds[k] = row[AccelColumn::Speed];
+        }
+    }
+    return results;
+}
+
+void ShowTargetNames() {
+    const AccelTargets& targets = PresentTargets();
+    for (std::size_t k = 0; k < targets.Speeds.size(); ++k) {
+        Zolv.GearingLabel[30 + static_cast<int>(k)].SetCaption("0-" + units.Speed.Text(targets.Speeds[k]) + ':');
+    }
+    // Metres are named by their number, the others by their own names.
+    const auto metres = [&](std::size_t k) { return "0-" + RoundedText(targets.Distances[k], 0) + "m:"; };
+    const std::array<std::array<std::string, 2>, 5> names{{{metres(0), metres(1)},
+                                                           {metres(0), metres(1)},
+                                                           {"Quarter mile ET:", "Mile ET:"},
+                                                           {"\u00BC nautical mile ET:", "Nautical mile ET:"},
+                                                           {"0-1000 feet:", "0-1000 fathoms:"}}};
+    const auto& named = names[static_cast<std::size_t>(units.Speed.Unit)];
+    Zolv.GearingLabel[36].SetCaption(named[0]);
+    Zolv.GearingLabel[37].SetCaption(named[1]);
+}
+
+void ShowFigures(const AccelResults& results, double endSpeed) {
+    for (int k = 0; k < 5; ++k) {
+        const float time = results.speedTimes[static_cast<std::size_t>(k)];
+        // The first target alone has no "N/A".
+        Zolv.AccDataLabel[k].SetCaption(time == 0 && k > 0 ? "N/A" : WithUnit(time, 2, "s"));
+    }
+    const bool ranOutOfRows = gearing.AccelLastRow == kAccelRows - 1;  // the car was still gaining
+    Zolv.AccDataLabel[5].SetColour(ranOutOfRows ? kBlue : kBlack);
+    Zolv.AccDataLabel[5].SetCaption(units.Speed.Text(endSpeed));
+    for (int k = 0; k < 2; ++k) {
+        const auto i = static_cast<std::size_t>(k);
+        Zolv.AccDataLabel[6 + 2 * k].SetCaption(WithUnit(results.distanceTimes[i], 1, "s"));
+        Zolv.AccDataLabel[7 + 2 * k].SetCaption("@ " + units.Speed.Text(results.distanceSpeeds[i]));
+    }
+}
+
+}  // namespace
+
+void RunAcceleration() {
+    const AccelerationResult run = Accelerate(PresentSetup(), gearing.AccelRows);
+    gearing.AccelLastRow = static_cast<std::int16_t>(run.LastRow);
+    aero.FrontWheelForce = run.FrontLoad;
+    aero.RearWheelForce = run.RearLoad;
+
+    ShowTable();
+    ShowTargetNames();
+    ShowFigures(FindResults(), run.Speed);
+}
+
+}  // namespace zolv

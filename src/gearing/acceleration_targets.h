@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+
+namespace zolv {
+
+/// The fixed speeds and distances whose times are shown. They depend on the unit of speed, so that a user of miles per
+/// hour sees 0-60 and the quarter mile. Stored as they stand, not computed.
+struct AccelTargets {
+    std::array<float, 5> Speeds;     // [m/s]
+    std::array<float, 2> Distances;  // [m]; a run may end behind the second
+};
+
+// clang-format off
+inline constexpr std::array<AccelTargets, 5> AccelTargetTable{{
+    {{15,     30,     45,     60,     75},     {500,      1000}},      // m/s
+    {{13.89F, 27.78F, 41.67F, 55.56F, 69.44F}, {500,      1000}},      // km/h
+    {{13.41F, 26.82F, 44.7F,  55.88F, 67.06F}, {402.336F, 1609.34F}},  // mph
+    {{15.43F, 30.87F, 51.44F, 64.31F, 77.17F}, {463,      1852}},      // knots
+    {{15.24F, 30.48F, 45.72F, 60.96F, 76.2F},  {304.8F,   1828.8F}},   // ft/s
+}};
+// clang-format on
+
+}  // namespace zolv

@@ -1,0 +1,7 @@
+#include "language/language_state.h"
+
+namespace zolv {
+
+LanguageState language;
+
+}  // namespace zolv

@@ -1,0 +1,185 @@
+#include "language/number_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace zolv {
+namespace {
+
+constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+constexpr std::uint64_t kWholePowersOfTen[] = {1,       10,        100,        1'000,       10'000,
+                                               100'000, 1'000'000, 10'000'000, 100'000'000, 1'000'000'000};
+
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+constexpr bool IsSkipped(char c) { return c == ' ' || c == '\t' || c == '\n'; }
+
+/// The characters that make up the leading number, without the skipped ones, in the form that std::from_chars reads.
+std::string LeadingNumber(std::string_view text) {
+    enum { kStart, kWhole, kFraction, kExponentMark, kExponentSign, kExponent } at = kStart;
+    std::string number;
+    std::size_t usable = 0;  // an exponent mark without digits behind it is not part of the number
+    for (const char c : text) {
+        if (IsSkipped(c)) continue;
+        if (IsDigit(c)) {
+            if (at == kStart) at = kWhole;
+            if (at == kExponentMark || at == kExponentSign) at = kExponent;
+            number += c;
+            usable = number.size();
+        } else if ((c == '+' || c == '-') && (at == kStart || at == kExponentMark) &&
+                   (at == kExponentMark || number.empty())) {
+            // std::from_chars takes no plus; in front it is dropped, and a blank stands for it so that no second sign
+            // is taken.
+            number += c == '-' ? '-' : (at == kStart ? ' ' : '+');
+            if (at == kExponentMark) at = kExponentSign;
+        } else if (c == '.' && (at == kStart || at == kWhole)) {
+            at = kFraction;
+            number += c;
+        } else if ((c == 'e' || c == 'E' || c == 'd' || c == 'D') && (at == kWhole || at == kFraction) && usable > 0) {
+            at = kExponentMark;
+            number += 'e';
+        } else {
+            break;
+        }
+    }
+    number.resize(usable);
+    if (!number.empty() && number.front() == ' ') number.erase(0, 1);
+    return number;
+}
+
+/// The place of the first digit that counts: 0 for 1 to 9, 2 for hundreds, -1 for tenths. For numbers that no double
+/// holds, whose sign it tells: far above or far below zero.
+long long PowerOfTen(const std::string& number) {
+    const auto mark = std::min(number.find('e'), number.size());
+    const auto point = std::min(number.find('.'), mark);
+    const auto first = std::min(number.find_first_of("123456789"), mark);
+    long long exponent = 0;
+    if (mark < number.size()) {
+        const auto sign = number[mark + 1] == '+' ? 1U : 0U;  // std::from_chars takes no plus
+        const auto error = std::from_chars(&number[mark] + 1 + sign, number.data() + number.size(), exponent).ec;
+        if (error != std::errc()) exponent = number[mark + 1] == '-' ? -1'000'000'000 : 1'000'000'000;
+    }
+    return exponent + static_cast<long long>(point) - static_cast<long long>(first) - (first < point ? 1 : 0);
+}
+
+template <class Whole>
+Whole Saturated(double value) {
+    const double nearest = std::nearbyint(value);
+    if (std::isnan(nearest)) return 0;
+    if (nearest <= static_cast<double>(std::numeric_limits<Whole>::min())) return std::numeric_limits<Whole>::min();
+    if (nearest >= static_cast<double>(std::numeric_limits<Whole>::max())) return std::numeric_limits<Whole>::max();
+    return static_cast<Whole>(nearest);
+}
+
+/// The digits of `value`, two at a time.
+char* WriteWhole(char* out, std::uint64_t value) {
+    char digits[20];
+    char* first = digits + sizeof digits;
+    while (value >= 100) {
+        const auto pair = value % 100;
+        value /= 100;
+        *--first = static_cast<char>('0' + pair % 10);
+        *--first = static_cast<char>('0' + pair / 10);
+    }
+    if (value >= 10) {
+        *--first = static_cast<char>('0' + value % 10);
+        value /= 10;
+    }
+    *--first = static_cast<char>('0' + value);
+    while (first != digits + sizeof digits) *out++ = *first++;
+    return out;
+}
+
+/// `value` in general form with `digits` significant digits, which must be so few that the text needs no rounding of
+/// its own beyond the one to those digits.
+std::string GeneralText(double value, int digits) {
+    if (!std::isfinite(value)) return "N/A";
+    if (value == 0) return "0";  // negative zero too
+    char text[40];
+    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, digits).ptr;
+    for (char* c = text; c != end; ++c) {
+        if (*c == 'e') *c = 'E';
+    }
+    return {text, end};
+}
+
+}  // namespace
+
+double Val(std::string_view text) {
+    const std::string number = LeadingNumber(text);
+    double value = 0;
+    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (error != std::errc::result_out_of_range) return value;
+    if (PowerOfTen(number) < 0) return 0;
+    return number.front() == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
+}
+
+std::int16_t ToInt16(double value) { return Saturated<std::int16_t>(value); }
+
+std::int32_t ToInt32(double value) { return Saturated<std::int32_t>(value); }
+
+double Round(double value, int decimals) {
+    const double scale = kPowersOfTen[decimals];
+    return std::nearbyint(value * scale) / scale;
+}
+
+std::string NumberText(double value) { return GeneralText(value, std::numeric_limits<double>::digits10); }
+
+std::string NumberText(float value) { return GeneralText(static_cast<double>(value), 7); }
+
+std::string NumberText(std::int32_t value) { return std::to_string(value); }
+
+char* WriteRounded(char* out, double value, int decimals) {
+    // Up to here a scaled value is a whole number of at most 15 digits, whose decimal text is exact; and adding and
+    // taking away kHalfway leaves the nearest whole number, half to even, as the adder rounds.
+    constexpr double kExactUpTo = 1e15;
+    constexpr double kHalfway = 6755399441055744.0;  // 1.5 * 2^52
+    const double scaled = value * kPowersOfTen[decimals];
+    if (!(std::fabs(scaled) < kExactUpTo)) {
+        const std::string text = NumberText(Round(value, decimals));
+        return text.copy(out, text.size()) + out;
+    }
+    const auto nearest = static_cast<std::int64_t>((scaled + kHalfway) - kHalfway);
+    if (nearest < 0) *out++ = '-';
+    const auto size = static_cast<std::uint64_t>(nearest < 0 ? -nearest : nearest);
+    if (decimals == 0) return WriteWhole(out, size);
+
+    const std::uint64_t scale = kWholePowersOfTen[decimals];
+    out = WriteWhole(out, size / scale);
+    std::uint64_t fraction = size % scale;
+    if (fraction == 0) return out;
+    *out++ = '.';
+    for (std::uint64_t place = scale / 10; fraction != 0; place /= 10) {
+        *out++ = static_cast<char>('0' + fraction / place);
+        fraction %= place;
+    }
+    return out;
+}
+
+std::string RoundedText(double value, int decimals) {
+    char text[kRoundedTextSize];
+    return {text, WriteRounded(text, value, decimals)};
+}
+
+std::string WithUnit(double value, int decimals, std::string_view unit) {
+    if (!std::isfinite(value)) return NumberText(value);
+    char text[kRoundedTextSize];
+    const char* const end = WriteRounded(text, value, decimals);
+    std::string shown;
+    shown.reserve(static_cast<std::size_t>(end - text) + unit.size());
+    shown.append(text, static_cast<std::size_t>(end - text));
+    shown.append(unit);
+    return shown;
+}
+
+std::string BooleanText(bool value) { return value ? "True" : "False"; }
+
+std::string ExactText(double value) {
+    if (value == 0) return "0";
+    char text[40];
+    return {text, std::to_chars(text, text + sizeof text, value).ptr};
+}
+
+}  // namespace zolv

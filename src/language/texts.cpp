@@ -1,0 +1,7 @@
+#include "language/texts.h"
+
+namespace zolv {
+
+Texts texts;
+
+}  // namespace zolv

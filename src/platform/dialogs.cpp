@@ -1,0 +1,20 @@
+#include "platform/dialogs.h"
+
+namespace zolv {
+namespace {
+
+Dialogs* inUse = nullptr;
+
+}  // namespace
+
+void UseDialogs(Dialogs* dialogs) { inUse = dialogs; }
+
+void ShowMessage(const std::string& text) {
+    if (inUse != nullptr) inUse->Message(text);
+}
+
+std::string AskForFile(const FileRequest& request) {
+    return inUse != nullptr ? inUse->AskForFile(request) : request.presetName;
+}
+
+}  // namespace zolv

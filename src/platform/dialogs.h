@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+namespace zolv {
+
+/// What a file dialog is asked for.
+struct FileRequest {
+    bool forSaving = false;
+    std::string title;
+    std::string filterLabel;       // "Zolv Settings File (*.zolv)"
+    std::string presetName;        // "*.zolv"; also what a cancelled dialog returns
+    std::string defaultExtension;  // without the point; for saving only
+};
+
+/// Message boxes and file dialogs. The windows, the batch program and the tests each have their own.
+class Dialogs {
+public:
+    Dialogs() = default;
+    Dialogs(const Dialogs&) = delete;
+    Dialogs& operator=(const Dialogs&) = delete;
+    virtual ~Dialogs() = default;
+
+    /// Shows one message box and returns when it has been answered.
+    virtual void Message(const std::string& text) = 0;
+
+    /// Asks for a file name; returns the request's presetName when the user cancels.
+    virtual std::string AskForFile(const FileRequest& request) = 0;
+};
+
+/// Makes `dialogs` the ones in use. They must outlive their use; nullptr takes them away again.
+void UseDialogs(Dialogs* dialogs);
+
+/// Through the dialogs in use. With none in use a message is dropped and a file dialog counts as cancelled.
+void ShowMessage(const std::string& text);
+std::string AskForFile(const FileRequest& request);
+
+}  // namespace zolv

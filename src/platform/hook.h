@@ -1,0 +1,30 @@
+#pragma once
+
+#include <concepts>
+#include <functional>
+#include <utility>
+
+namespace zolv {
+
+/// A place where one piece of work can be hung up: the event of a field, or the follow-up of a procedure. What hangs
+/// there runs at once and to its end, inside the call. An empty hook runs nothing.
+/// shell/wiring is the only place that hangs anything up, so that every chain of the program can be read there.
+class Hook {
+public:
+    Hook() = default;
+
+    template <std::invocable Work>
+    Hook& operator=(Work work) {
+        work_ = std::move(work);
+        return *this;
+    }
+
+    void operator()() const {
+        if (work_) work_();
+    }
+
+private:
+    std::function<void()> work_;
+};
+
+}  // namespace zolv

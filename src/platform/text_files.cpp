@@ -1,0 +1,203 @@
+#include "platform/text_files.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <random>
+#include <system_error>
+#include <utility>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace zolv {
+
+PlatformState platform;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+fs::path PathOf(const std::string& utf8) { return fs::path(reinterpret_cast<const char8_t*>(utf8.c_str())); }
+
+std::string ReasonOf(int error) { return std::generic_category().message(error); }
+
+/// An open file that closes itself. Every call sets errno like the system call behind it.
+class OpenFile {
+public:
+#ifdef _WIN32
+    static constexpr int kRead = _O_RDONLY | _O_BINARY;
+    static constexpr int kCreate = _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY;
+    OpenFile(const fs::path& path, int flags) : handle_(::_wopen(path.c_str(), flags, _S_IREAD | _S_IWRITE)) {}
+    long Read(char* to, std::size_t size) { return ::_read(handle_, to, static_cast<unsigned>(size)); }
+    long Write(const char* from, std::size_t size) { return ::_write(handle_, from, static_cast<unsigned>(size)); }
+    bool Sync() { return ::_commit(handle_) == 0; }
+    bool Close() { return ::_close(std::exchange(handle_, -1)) == 0; }
+#else
+    // Without O_NONBLOCK the opening of a pipe would wait for its other end.
+    static constexpr int kRead = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+    static constexpr int kCreate = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+    OpenFile(const fs::path& path, int flags) : handle_(::open(path.c_str(), flags, 0666)) {}
+    long Read(char* to, std::size_t size) { return ::read(handle_, to, size); }
+    long Write(const char* from, std::size_t size) { return ::write(handle_, from, size); }
+    bool Sync() { return ::fsync(handle_) == 0; }
+    bool Close() { return ::close(std::exchange(handle_, -1)) == 0; }
+#endif
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() {
+        if (IsOpen()) Close();
+    }
+    bool IsOpen() const { return handle_ >= 0; }
+
+private:
+    int handle_;
+};
+
+/// Writes and syncs a file that must not exist yet; returns the error, 0 when all is well.
+int WriteNewFile(const fs::path& path, std::string_view text) {
+    OpenFile file(path, OpenFile::kCreate);
+    if (!file.IsOpen()) return errno;
+    while (!text.empty()) {
+        const long written = file.Write(text.data(), text.size());
+        if (written < 0) {
+            if (errno == EINTR) continue;
+            return errno;
+        }
+        text.remove_prefix(static_cast<std::size_t>(written));
+    }
+    if (!file.Sync()) return errno;
+    return file.Close() ? 0 : errno;
+}
+
+/// Makes the renaming itself last. Not every file system can sync a folder; the file's content is safe without it.
+void SyncFolder([[maybe_unused]] const fs::path& folder) {
+#ifndef _WIN32
+    OpenFile file(folder, O_RDONLY | O_CLOEXEC | O_DIRECTORY);
+    if (file.IsOpen()) file.Sync();
+#endif
+}
+
+bool MayWrite([[maybe_unused]] const fs::path& path) {
+#ifdef _WIN32
+    return ::_waccess(path.c_str(), 2) == 0;
+#else
+    return ::access(path.c_str(), W_OK) == 0;
+#endif
+}
+
+}  // namespace
+
+std::string CurrentDirectory() {
+    std::error_code error;
+    const std::u8string folder = fs::current_path(error).u8string();
+    std::string path(folder.begin(), folder.end());
+    constexpr char kSeparator = static_cast<char>(fs::path::preferred_separator);
+    if (path.empty() || path.back() != kSeparator) path += kSeparator;
+    return path;
+}
+
+std::int16_t FileExists(const std::string& path) {
+    if (path.find('\0') != std::string::npos) return 0;
+    std::error_code error;
+    if (!fs::is_regular_file(PathOf(path), error)) return 0;
+    const auto size = fs::file_size(PathOf(path), error);
+    return !error && size > 0 ? 1 : 0;
+}
+
+FileText ReadTextFile(const std::string& path, std::size_t limit) {
+    FileText result;
+    std::error_code error;
+    const fs::file_status status = fs::status(PathOf(path), error);
+    if (!fs::exists(status)) {
+        result.reason = error ? error.message() : ReasonOf(ENOENT);
+        return result;
+    }
+    if (fs::is_directory(status)) {
+        result.reason = ReasonOf(EISDIR);
+        return result;
+    }
+    if (!fs::is_regular_file(status)) {
+        result.reason = "Not a regular file";
+        return result;
+    }
+    OpenFile file(PathOf(path), OpenFile::kRead);
+    if (!file.IsOpen()) {
+        result.reason = ReasonOf(errno);
+        return result;
+    }
+    std::string text;
+    char block[16384];
+    while (true) {
+        const long got = file.Read(block, sizeof block);
+        if (got < 0) {
+            if (errno == EINTR) continue;
+            result.reason = ReasonOf(errno);
+            return result;
+        }
+        if (got == 0) break;
+        text.append(block, static_cast<std::size_t>(got));
+        if (text.size() > limit) {
+            result.reason = "Longer than " + std::to_string(limit) + " bytes";
+            return result;
+        }
+    }
+    if (text.starts_with(kByteOrderMark)) text.erase(0, kByteOrderMark.size());
+    result.text = std::move(text);
+    result.readable = true;
+    return result;
+}
+
+std::string WriteTextFile(const std::string& path, std::string_view text) {
+    if (path.empty() || path.find('\0') != std::string::npos) return ReasonOf(EINVAL);
+    std::error_code error;
+    fs::path target = PathOf(path);
+    if (fs::is_symlink(target, error)) {
+        const fs::path named = fs::weakly_canonical(target, error);
+        if (error) return error.message();
+        target = named;
+    }
+    const fs::file_status old = fs::status(target, error);
+    if (fs::is_directory(old)) return ReasonOf(EISDIR);
+    if (fs::exists(old) && !fs::is_regular_file(old)) return "Not a regular file";
+    // Renaming asks the folder alone for permission; a file that its owner has locked must stay as it is all the same.
+    if (fs::exists(old) && !MayWrite(target)) return ReasonOf(EACCES);
+
+    // Names of one save never meet another's, also when two programs save into one folder.
+    std::random_device random;
+    fs::path temporary = target;
+    temporary += "." + std::to_string(random()) + ".tmp";
+    if (const int failure = WriteNewFile(temporary, text); failure != 0) {
+        if (failure != EEXIST) fs::remove(temporary, error);
+        return ReasonOf(failure);
+    }
+    if (fs::exists(old)) fs::permissions(temporary, old.permissions(), error);
+    fs::rename(temporary, target, error);
+    if (error) {
+        std::error_code ignored;
+        fs::remove(temporary, ignored);
+        return error.message();
+    }
+    SyncFolder(target.has_parent_path() ? target.parent_path() : fs::path("."));
+    return {};
+}
+
+std::vector<std::string_view> SplitLines(std::string_view text) {
+    std::vector<std::string_view> lines;
+    for (auto end = text.find("\r\n"); end != std::string_view::npos; end = text.find("\r\n")) {
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(end + 2);
+    }
+    lines.push_back(text);
+    return lines;
+}
+
+}  // namespace zolv

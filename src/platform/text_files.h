@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zolv {
+
+/// Where the program looks for its own files: the current directory at start, ended by the platform's separator.
+struct PlatformState {
+    std::string AppPath;
+};
+extern PlatformState platform;
+
+/// The current directory followed by the platform's own separator ("\" only where that is the separator).
+std::string CurrentDirectory();
+
+/// 1 for a file that holds something; 0 for an empty one, a missing one, a folder, or one that cannot be measured. An
+/// empty file counts as missing everywhere in the program.
+std::int16_t FileExists(const std::string& path);
+
+struct FileText {
+    bool readable = false;
+    std::string text;    // the whole content, without a UTF-8 byte order mark
+    std::string reason;  // why it cannot be read, as words for a message; empty when readable
+};
+
+/// Reads a file whole. A file of more than `limit` bytes, a folder or a device is refused and not read.
+FileText ReadTextFile(const std::string& path, std::size_t limit);
+
+/// Writes a file so that there is always the old one or the new one and never a part: into a temporary file beside the
+/// target, flushed and synced to disk, then renamed over it. A link is followed, and the file that it names replaced.
+/// @return the reason as words for a message, empty when the file was written
+[[nodiscard]] std::string WriteTextFile(const std::string& path, std::string_view text);
+
+/// Splits at CR LF. A text that ends in CR LF has an empty last line; a line feed alone does not end a line.
+std::vector<std::string_view> SplitLines(std::string_view text);
+
+}  // namespace zolv

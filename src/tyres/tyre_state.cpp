@@ -1,0 +1,7 @@
+#include "tyres/tyre_state.h"
+
+namespace zolv {
+
+TyreState tyres;
+
+}  // namespace zolv

@@ -1,0 +1,23 @@
+#pragma once
+
+namespace zolv {
+
+/// Works out both tyres at the present pressures and axle loads, shows the chosen one and draws it.
+/// It takes the axle loads as it finds them: an acceleration run leaves those of its last step, until the next
+/// CalcAeroForces.
+/// Reads:  Select_PressureF/R, FrontTyreAnal, vehicle, aero.FrontWheelForce/RearWheelForce, units
+/// Writes: tyres, the figures of the tyres page
+void AnalyseTyres();
+
+/// Draws the footprint on the road (CPS) and the tyre seen from the side (SV), from the figures as they stand.
+/// Reads:  ZoomCPS, ZoomSideOn, FrontTyreAnal, tyres, vehicle
+/// Writes: tyres.FrontRimRatio/RearRimRatio, the two canvases
+void DrawTyres();
+
+/// Sets tyres.TyreMu from the type picked in Select_Tyres, found by its name.
+void TakeTyreType();
+
+/// Writes the rows of texts.TyreTypeNames into both lists of tyre types.
+void FillTyreLists();
+
+}  // namespace zolv

@@ -1,0 +1,7 @@
+#include "units/option_state.h"
+
+namespace zolv {
+
+OptionState options;
+
+}  // namespace zolv

@@ -1,0 +1,113 @@
+#include "vehicle/car_selection.h"
+
+#include "fields/guards.h"
+#include "fields/windows.h"
+#include "language/number_text.h"
+#include "vehicle/tyre_geometry.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+namespace {
+
+void SetTyreSizes(const CarRecord& car) {
+    vehicle.FrontUnloadedRadius = UnloadedRadius(car.FTW, car.FTP, car.FWS);
+    vehicle.FrontMaxDeformation = vehicle.FrontUnloadedRadius - RimRadius(car.FWS);
+    vehicle.RearUnloadedRadius = static_cast<float>(UnloadedRadius(car.RTW, car.RTP, car.RWS));
+    vehicle.RearMaxDeformation = static_cast<float>(vehicle.RearUnloadedRadius - RimRadius(car.RWS));
+}
+
+void SetPressureRanges(const CarRecord& car) {
+    const auto setRange = [](Slider& slider, double min, double max) {
+        const int lowest = ToInt32(min);
+        slider.SetRange(lowest, std::max(lowest, ToInt32(max)));
+    };
+    setRange(Zolv.Select_PressureF, car.FMinPressure, car.FMaxPressure);
+    setRange(Zolv.Select_PressureR, car.RMinPressure, car.RMaxPressure);
+}
+
+void ShowReverseRatio(const CarRecord& car) {
+    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) panel->GearR.SetCaption(NumberText(car.Reverse));
+}
+
+/// The rows of gears 3 to 6 on both panels; 1 and 2 are always there.
+void ShowGears(int numGears) {
+    for (int gear = 3; gear <= 6; ++gear) {
+        const bool has = numGears >= gear;
+        for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
+            panel->Input[gear].SetVisible(has);
+            panel->InputSlider[gear].SetVisible(has);
+            panel->Result[gear].SetVisible(has);
+            panel->RPM[gear].SetVisible(has);
+            panel->RAC[gear - 1].SetVisible(has);
+            panel->Torque[gear].SetVisible(has);
+        }
+        Zolv.Label_SPD[gear].SetVisible(has);
+        Zolv.GearingLabel[7 + gear].SetVisible(has);
+        Zolv.GearingLabel[22 + gear].SetVisible(has);
+    }
+}
+
+void ShowReverse(bool has) {
+    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
+        panel->GearR.SetVisible(has);
+        panel->RPMR.SetVisible(has);
+        panel->SpeedR.SetVisible(has);
+        panel->TorqueR.SetVisible(has);
+    }
+    Zolv.GearingLabel[14].SetVisible(has);
+    Zolv.GearingLabel[29].SetVisible(has);
+}
+
+void ShowFittings(const CarRecord& car) {
+    const bool undertray = car.UndertrayType != 0;
+    const bool frontWing = car.FrontWingType != 0;
+    const bool rearWing = car.RearWingType != 0;
+    Zolv.AeroPanel[5].SetVisible(undertray);
+
+    Zolv.AeroPanel[6].SetVisible(frontWing);
+    Zolv.Select_FrontWingAngle.SetVisible(frontWing);
+    Zolv.WingAngleFront.SetVisible(frontWing);
+    Zolv.AeroLabel[1].SetVisible(frontWing);
+
+    Zolv.AeroPanel[7].SetVisible(rearWing);
+    Zolv.Select_RearWingAngle.SetVisible(rearWing);
+    Zolv.WingAngleRear.SetVisible(rearWing);
+    Zolv.AeroLabel[2].SetVisible(rearWing);
+
+    // Without a device for downforce the tyre's load does not depend on a speed that could be set.
+    const bool any = undertray || frontWing || rearWing;
+    Zolv.TyreLabel[0].SetVisible(any);
+    Zolv.AeroSpeed_TyreTab.SetVisible(any);
+    Zolv.Select_AeroSpeed_TyreTab.SetVisible(any);
+}
+
+}  // namespace
+
+void InitCatalogue() {
+    for (std::size_t car = 0; car < kCars; ++car) {
+        vehicle.CarName[car] = Catalogue()[car].name;
+        for (std::size_t field = 0; field < kCarFields; ++field) {
+            vehicle.CarData[field * kCars + car] = Catalogue()[car].figures[field];
+        }
+    }
+    vehicle.PresetsUsed = 0;
+}
+
+void SelectCar() {
+    const std::string& name = Zolv.Select_Car.Text();
+    const int builtIn = vehicle.FindCar(name);
+    const int preset = builtIn < 0 ? vehicle.FindPreset(name) : -1;
+    if (builtIn < 0 && preset < 0) return;  // the list holds only known names
+
+    vehicle.CurrentCar = RecordOf(builtIn >= 0 ? vehicle.FiguresOfCar(builtIn) : vehicle.FiguresOfPreset(preset));
+    const CarRecord& car = vehicle.CurrentCar;
+    SetTyreSizes(car);
+    SetPressureRanges(car);
+    ShowReverseRatio(car);
+    ShowGears(car.NumGears);
+    ShowReverse(car.Reverse != 1);
+    ShowFittings(car);
+    if (!guards.Loading) vehicle.CarChanged();
+}
+
+}  // namespace zolv

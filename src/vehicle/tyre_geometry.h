@@ -1,0 +1,24 @@
+#pragma once
+
+namespace zolv {
+
+/// Inches in a centimetre as this program has them: 0.393900787, not 0.393700787. Every rim size goes through it.
+inline constexpr double kInchesPerCm = 0.393900787;
+
+/// pi as this program has it, with twelve decimals. Every radius and speed rests on it.
+inline constexpr double kPi = 3.141592653589;
+
+/// Radius of a tyre that carries no load: half of the rim and both sidewalls.
+/// @param width_mm  tyre width [mm]
+/// @param profile   sidewall height as a fraction of the width
+/// @param rim_in    rim diameter [in]
+/// @return [m]
+[[nodiscard]] inline double UnloadedRadius(double width_mm, double profile, double rim_in) {
+    // Width in millimetres times profile, over 5, is both sidewalls in centimetres.
+    return (rim_in / kInchesPerCm + (width_mm * profile) / 5) / 100 / 2;
+}
+
+/// Radius of a rim [m] from its diameter [in].
+[[nodiscard]] inline double RimRadius(double rim_in) { return ((rim_in * 0.5) / kInchesPerCm) / 100; }
+
+}  // namespace zolv

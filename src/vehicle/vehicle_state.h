@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "platform/hook.h"
+#include "vehicle/car_record.h"
+#include "vehicle/catalogue.h"
+
+namespace zolv {
+
+inline constexpr int kMaxPresets = 10;
+
+struct VehicleState {
+    // The tables are stored field by field: the values of one field lie next to each other.
+    std::array<float, kCarFields * kCars> CarData{};  // field f of car c is entry f * 19 + c
+    std::array<std::string, kCars> CarName;
+    std::array<float, kCarFields * kMaxPresets> CustomData{};  // field f of preset p is entry f * 10 + p
+    std::array<std::string, kMaxPresets> CustomName;
+    std::int16_t PresetsUsed = 0;
+
+    // The car in use. Only SelectCar writes it.
+    CarRecord CurrentCar;
+    double FrontUnloadedRadius = 0;  // [m]
+    float RearUnloadedRadius = 0;    // [m]
+    double FrontMaxDeformation = 0;  // [m] sidewall height: a tyre squashes no further than to the rim
+    float RearMaxDeformation = 0;    // [m]
+
+    Hook CarChanged;  // another car is in use; not raised during the load
+
+    /// The figures of a built-in car or a preset.
+    [[nodiscard]] CarFigures FiguresOfCar(int car) const;
+    [[nodiscard]] CarFigures FiguresOfPreset(int preset) const;
+    void StorePreset(int preset, const std::string& name, const CarFigures& figures);
+
+    /// Index by exact name, upper and lower case told apart; -1 if there is none.
+    [[nodiscard]] int FindCar(const std::string& name) const;
+    [[nodiscard]] int FindPreset(const std::string& name) const;  // among those in use
+};
+extern VehicleState vehicle;
+
+}  // namespace zolv

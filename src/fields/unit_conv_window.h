@@ -10,10 +10,10 @@ namespace zolv {
 
 /// One row of the converter: a number, its unit, and the same in the metric unit.
 struct ConverterRow {
-    ConverterRow(Window& owner, const std::string& quantity, std::vector<std::string> units, const std::string& metric)
+    ConverterRow(Window& owner, const std::string& quantity, std::vector<std::string> rows, const std::string& metric)
         : Caption(owner, "Label_" + quantity),
           Input(owner, quantity + "Input", {.maxLength = 5}),
-          Select(owner, "Select_" + quantity + "Units", {.rows = std::move(units)}),
+          Select(owner, "Select_" + quantity + "Units", {.rows = std::move(rows)}),
           Output(owner, quantity + "Output", {.caption = "is ? " + metric}) {}
 
     Label Caption;

@@ -38,7 +38,7 @@ public:
                                      [](int i) { return PanelState{.stack = 1, .front = i == 0}; }};
     FieldArray<Panel, 8> OptionsGroup{*this, "OptionsGroup"};
 
-    // Page 0: Units. In the order of units.All.
+    // Page 0: Units. In the order of UnitCatalogue().
     FieldArray<Label, 12> OptionsLabel{*this, "OptionsLabel"};
     std::array<UnitChoice, 12> Units{
         UnitChoice{*this, "Speed"},     UnitChoice{*this, "Distance"}, UnitChoice{*this, "Area"},

@@ -119,6 +119,7 @@ FileText ReadTextFile(const std::string& path, std::size_t limit) {
     const fs::file_status status = fs::status(PathOf(path), error);
     if (!fs::exists(status)) {
         result.reason = error ? error.message() : ReasonOf(ENOENT);
+        result.missing = status.type() == fs::file_type::not_found;
         return result;
     }
     if (fs::is_directory(status)) {
@@ -188,6 +189,14 @@ std::string WriteTextFile(const std::string& path, std::string_view text) {
     }
     SyncFolder(target.has_parent_path() ? target.parent_path() : fs::path("."));
     return {};
+}
+
+std::string CannotRead(const std::string& path, std::string_view reason) {
+    return "Cannot read " + path + ": " + std::string(reason);
+}
+
+std::string CannotWrite(const std::string& path, std::string_view reason) {
+    return "Cannot write " + path + ": " + std::string(reason);
 }
 
 std::vector<std::string_view> SplitLines(std::string_view text) {

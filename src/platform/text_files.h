@@ -23,8 +23,9 @@ std::int16_t FileExists(const std::string& path);
 
 struct FileText {
     bool readable = false;
-    std::string text;    // the whole content, without a UTF-8 byte order mark
-    std::string reason;  // why it cannot be read, as words for a message; empty when readable
+    std::string text;      // the whole content, without a UTF-8 byte order mark
+    std::string reason;    // why it cannot be read, as words for a message; empty when readable
+    bool missing = false;  // there is nothing under that name
 };
 
 /// Reads a file whole. A file of more than `limit` bytes, a folder or a device is refused and not read.
@@ -34,6 +35,10 @@ FileText ReadTextFile(const std::string& path, std::size_t limit);
 /// target, flushed and synced to disk, then renamed over it. A link is followed, and the file that it names replaced.
 /// @return the reason as words for a message, empty when the file was written
 [[nodiscard]] std::string WriteTextFile(const std::string& path, std::string_view text);
+
+/// Messages about a file, with the file and the reason: "Cannot read set-up.zolv: No such file or directory".
+[[nodiscard]] std::string CannotRead(const std::string& path, std::string_view reason);
+[[nodiscard]] std::string CannotWrite(const std::string& path, std::string_view reason);
 
 /// Splits at CR LF. A text that ends in CR LF has an empty last line; a line feed alone does not end a line.
 std::vector<std::string_view> SplitLines(std::string_view text);

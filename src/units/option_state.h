@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/hook.h"
+
 namespace zolv {
 
 /// The user's options beside the units. The values here stand until "Options.ini" overrides them.
@@ -31,6 +33,9 @@ struct OptionState {
     bool AutoRevs = true;         // shift points by gear; otherwise all are CustomRevs
     std::int32_t CustomRevs = 0;  // [rpm]
     bool AccelerationOn = true;   // run the acceleration simulation
+
+    Hook GearingOptionChanged;  // the page that is the input is to be calculated anew
+    Hook PlotOptionChanged;     // the gearing plots are to be drawn anew
 };
 extern OptionState options;
 

@@ -1,0 +1,271 @@
+#include "vehicle/custom_presets.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "fields/windows.h"
+#include "language/number_text.h"
+#include "language/texts.h"
+#include "platform/dialogs.h"
+#include "vehicle/preset_figures.h"
+#include "vehicle/preset_state.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+
+PresetState presets;
+
+namespace {
+
+/// The one base car whose wheels are alike front and rear, so that its panel has no rear tyre.
+constexpr std::string_view kEqualTyresCar = "Pell S";
+
+/// What the boxes of the tyres allow, by base car.
+struct TyreRule {
+    std::string_view baseCar;
+    bool typed;  // whether the boxes can be typed into
+    bool rearShown = true;
+    std::string Texts::*frontCaption = &Texts::TextFrontWheelSize;
+};
+constexpr TyreRule kTyreRules[] = {
+    {kEqualTyresCar, true, false, &Texts::TextWheelSize},
+    {"Ondo T", true},
+    {"Ondo T Boost", true},
+};
+constexpr TyreRule kOtherTyreRule{"", false};
+
+const TyreRule& TyreRuleOf(std::string_view baseCar) {
+    const auto* const rule = std::ranges::find(kTyreRules, baseCar, &TyreRule::baseCar);
+    return rule == std::end(kTyreRules) ? kOtherTyreRule : *rule;
+}
+
+std::array<TextBox*, 3> FrontTyreBoxes() {
+    return {&CustomPresets.New.FTyreWidth, &CustomPresets.New.FTyreProfile, &CustomPresets.New.FWheelSize};
+}
+
+std::array<TextBox*, 3> RearTyreBoxes() {
+    return {&CustomPresets.New.RTyreWidth, &CustomPresets.New.RTyreProfile, &CustomPresets.New.RWheelSize};
+}
+
+void ShowRearTyre(bool shown) {
+    CustomPresets.CUPLabel[15].SetVisible(shown);
+    for (TextBox* box : RearTyreBoxes()) box->SetVisible(shown);
+}
+
+void ApplyTyreRule(const TyreRule& rule) {
+    CustomPresets.CUPLabel[13].SetCaption(texts.*rule.frontCaption);
+    ShowRearTyre(rule.rearShown);
+    for (TextBox* box : FrontTyreBoxes()) box->SetEnabled(rule.typed);
+    if (!rule.rearShown) return;
+    for (TextBox* box : RearTyreBoxes()) box->SetEnabled(rule.typed);
+}
+
+std::string FigureText(const PresetFigure& figure, const CarFigures& figures) {
+    return NumberText(static_cast<float>(figures[IndexOf(figure.field)] * figure.Scale()));
+}
+
+void ShowLists(PresetPanel& panel, const CarFigures& figures) {
+    panel.Drivetrain.Pick(ToInt32(figures[IndexOf(CarField::DrivetrainType)]));
+    panel.Gears.SetText(NumberText(figures[IndexOf(CarField::NumGears)]));
+}
+
+void ShowBaseCar(const CarFigures& figures) {
+    for (const PresetFigure& figure : kPresetFigures) figure.AddBox().SetText(FigureText(figure, figures));
+    // A preset's unsprung mass is a whole number, and this box cannot be typed into.
+    CustomPresets.New.UnsprungMass.SetText(NumberText(ToInt32(figures[IndexOf(CarField::UnsprungMass)])));
+    ShowLists(CustomPresets.New, figures);
+}
+
+void Store(std::int16_t& member, double value) { member = ToInt16(value); }
+void Store(std::int32_t& member, double value) { member = ToInt32(value); }
+void Store(float& member, double value) { member = static_cast<float>(value); }
+
+void ReadFigure(const PresetFigure& figure, const TextBox& box, PresetEntry& entry) {
+    const double value = Val(box.Text()) / figure.Scale();
+    std::visit([&](auto member) { Store(entry.*member, value); }, figure.member);
+}
+
+void StoreFigure(const PresetFigure& figure, const PresetEntry& entry, CarFigures& figures) {
+    figures[IndexOf(figure.field)] =
+        std::visit([&](auto member) { return static_cast<float>(entry.*member); }, figure.member);
+}
+
+void StoreLists(const PresetEntry& entry, CarFigures& figures) {
+    figures[IndexOf(CarField::DrivetrainType)] = entry.CustomDrivetrain;
+    figures[IndexOf(CarField::NumGears)] = entry.CustomGears;
+}
+
+/// @param otherwise  what counts for a text that is none of the three
+std::int16_t DrivetrainOf(const std::string& text, std::int16_t otherwise) {
+    if (text == texts.TextFWD) return 0;
+    if (text == texts.TextRWD) return 1;
+    if (text == texts.TextAWD) return 2;
+    return otherwise;
+}
+
+void ReadAddPanel() {
+    PresetEntry& entry = presets.Entry;
+    for (const PresetFigure& figure : kPresetFigures) ReadFigure(figure, figure.AddBox(), entry);
+    entry.CustomDrivetrain = DrivetrainOf(CustomPresets.New.Drivetrain.Text(), kNoDrivetrain);
+    entry.CustomGears = ToInt16(Val(CustomPresets.New.Gears.Text()));
+    if (CustomPresets.NewCar.Text() == kEqualTyresCar) {
+        entry.CustomRTyreWidth = entry.CustomFTyreWidth;
+        entry.CustomRTyreProfile = entry.CustomFTyreProfile;
+        entry.CustomRWheelSize = entry.CustomFWheelSize;
+    }
+}
+
+void ReadEditPanel() {
+    constexpr std::int16_t kAllWheels = 2;
+    PresetEntry& entry = presets.Entry;
+    for (const PresetFigure& figure : kPresetFigures) {
+        if (figure.box != nullptr) ReadFigure(figure, CustomPresets.Edit.*figure.box, entry);
+    }
+    entry.CustomDrivetrain = DrivetrainOf(CustomPresets.Edit.Drivetrain.Text(), kAllWheels);
+    entry.CustomGears = ToInt16(Val(CustomPresets.Edit.Gears.Text()));
+}
+
+bool IsTaken(const std::string& name) { return vehicle.FindCar(name) >= 0 || vehicle.FindPreset(name) >= 0; }
+
+enum class Checked : bool { WhenAdding, Always };
+
+/// What makes a preset unusable, in the order of the checks.
+struct PresetCheck {
+    bool (*fails)(const PresetEntry&);
+    std::string Texts::*message;
+    Checked checked = Checked::Always;
+};
+
+// The limits of the fractions are singles like the figures: 5% and 95% themselves pass.
+// clang-format off
+constexpr PresetCheck kChecks[] = {
+    {[](const PresetEntry&) { return IsTaken(CustomPresets.NewName.Text()); },      &Texts::TextPresetNameUsed, Checked::WhenAdding},
+    {[](const PresetEntry&) { return vehicle.PresetsUsed >= kMaxPresets; },         &Texts::TextPresetLimit,    Checked::WhenAdding},
+    {[](const PresetEntry&) { return CustomPresets.NewName.Text().empty(); },       &Texts::TextPresetNoName,   Checked::WhenAdding},
+    {[](const PresetEntry&) { return CustomPresets.NewCar.Text().empty(); },        &Texts::TextPresetNoCar,    Checked::WhenAdding},
+    {[](const PresetEntry& p) { return p.CustomPower < 1; },                        &Texts::TextBadPower},
+    {[](const PresetEntry& p) { return p.CustomPowerRPM < 100; },                   &Texts::TextBadPowerRpm},
+    {[](const PresetEntry& p) { return p.CustomTorque < 1; },                       &Texts::TextBadTorque},
+    {[](const PresetEntry& p) { return p.CustomTorqueRPM < 100; },                  &Texts::TextBadTorqueRpm},
+    {[](const PresetEntry& p) { return p.CustomIdleRPM < 100; },                    &Texts::TextBadIdle},
+    {[](const PresetEntry& p) { return p.CustomIdleRPM > p.CustomPowerRPM / 3.0; }, &Texts::TextIdleTooHigh},
+    {[](const PresetEntry& p) { return p.CustomDrivetrain == kNoDrivetrain; },      &Texts::TextNoDrivetrain,   Checked::WhenAdding},
+    {[](const PresetEntry& p) { return p.CustomGears == 0; },                       &Texts::TextNoGears,        Checked::WhenAdding},
+    {[](const PresetEntry& p) { return p.CustomMass < 1; },                         &Texts::TextBadMass},
+    {[](const PresetEntry& p) { return p.CustomUnsprungMass < 1; },                 &Texts::TextBadUnsprungMass},
+    {[](const PresetEntry& p) { return p.CustomDist < 0.05F; },                     &Texts::TextBadWeightDistLow},
+    {[](const PresetEntry& p) { return p.CustomDist > 0.95F; },                     &Texts::TextBadWeightDistHigh},
+    {[](const PresetEntry& p) { return p.CustomCx <= 0; },                          &Texts::TextBadDrag},
+    {[](const PresetEntry& p) { return p.CustomFTyreWidth < 1; },                   &Texts::TextBadFrontTyreWidth},
+    {[](const PresetEntry& p) { return p.CustomFTyreProfile < 0.01F; },             &Texts::TextBadFrontTyreProfile},
+    {[](const PresetEntry& p) { return p.CustomFWheelSize < 1; },                   &Texts::TextBadFrontRim},
+    {[](const PresetEntry& p) { return p.CustomRTyreWidth < 1; },                   &Texts::TextBadRearTyreWidth},
+    {[](const PresetEntry& p) { return p.CustomRTyreProfile < 0.01F; },             &Texts::TextBadRearTyreProfile},
+    {[](const PresetEntry& p) { return p.CustomRWheelSize < 1; },                   &Texts::TextBadRearRim},
+    {[](const PresetEntry& p) { return p.CustomFTrack < 0.5F; },                    &Texts::TextBadFrontTrack},
+    {[](const PresetEntry& p) { return p.CustomRTrack < 0.5F; },                    &Texts::TextBadRearTrack},
+    {[](const PresetEntry& p) { return p.CustomWheelbase < 0.5F; },                 &Texts::TextBadWheelbase},
+};
+// clang-format on
+static_assert(std::size(kChecks) == 26);
+
+/// Whether the entry passes; shows the message of the first check that fails.
+bool PassesChecks(const PresetEntry& entry, bool adding) {
+    for (const PresetCheck& check : kChecks) {
+        if (!adding && check.checked == Checked::WhenAdding) continue;
+        if (check.fails(entry)) {
+            ShowMessage(texts.*check.message);
+            return false;
+        }
+    }
+    return true;
+}
+
+void ShowPresetsUsed() {
+    CustomPresets.PresetsUsed.SetCaption(NumberText(vehicle.PresetsUsed) + " / " + NumberText(kMaxPresets));
+}
+
+/// What the panel does not show comes from the base car.
+CarFigures FiguresOf(const PresetEntry& entry, int baseCar) {
+    CarFigures figures = vehicle.FiguresOfCar(baseCar);
+    for (const PresetFigure& figure : kPresetFigures) StoreFigure(figure, entry, figures);
+    StoreLists(entry, figures);
+    return figures;
+}
+
+}  // namespace
+
+void LoadCustomPresets() {
+    for (const std::string& car : vehicle.CarName) CustomPresets.NewCar.Add(car);
+    ShowPresetsUsed();
+    for (std::size_t preset = 0; preset < static_cast<std::size_t>(vehicle.PresetsUsed); ++preset) {
+        CustomPresets.EditName.Add(vehicle.CustomName[preset]);
+    }
+}
+
+void FillDrivetrainLists() {
+    for (PickList* list : {&CustomPresets.New.Drivetrain, &CustomPresets.Edit.Drivetrain}) {
+        for (const std::string& row : {texts.TextFWD, texts.TextRWD, texts.TextAWD}) list->Add(row);
+    }
+}
+
+void ChooseBaseCar() {
+    const std::string& baseCar = CustomPresets.NewCar.Text();
+    const int car = vehicle.FindCar(baseCar);
+    if (car < 0) return;
+    if (!presets.LoadingPreset) ShowBaseCar(vehicle.FiguresOfCar(car));
+    ApplyTyreRule(TyreRuleOf(baseCar));
+}
+
+void AddPreset() {
+    ReadAddPanel();
+    if (!PassesChecks(presets.Entry, true)) return;
+
+    const std::string name = CustomPresets.NewName.Text();
+    const int baseCar = vehicle.FindCar(CustomPresets.NewCar.Text());
+    vehicle.StorePreset(vehicle.PresetsUsed, name, FiguresOf(presets.Entry, baseCar));
+    Zolv.Select_Car.Add(name);
+    ++vehicle.PresetsUsed;
+    ShowPresetsUsed();
+    CustomPresets.EditName.Add(name);
+    ShowMessage(texts.TextAddedPreset + " " + name);
+}
+
+void ShowPresetForEditing() {
+    const int preset = vehicle.FindPreset(CustomPresets.EditName.Text());
+    if (preset < 0) return;
+    const CarFigures figures = vehicle.FiguresOfPreset(preset);
+    for (const PresetFigure& figure : kPresetFigures) {
+        if (figure.box != nullptr) (CustomPresets.Edit.*figure.box).SetText(FigureText(figure, figures));
+    }
+    ShowLists(CustomPresets.Edit, figures);
+}
+
+void UpdatePreset() {
+    const std::optional<int> preset = ChosenPreset();
+    if (!preset) return;
+    ReadEditPanel();
+    if (!PassesChecks(presets.Entry, false)) return;
+
+    const std::string& name = CustomPresets.EditName.Text();
+    CarFigures figures = vehicle.FiguresOfPreset(*preset);
+    for (const PresetFigure& figure : kPresetFigures) {
+        if (figure.box != nullptr) StoreFigure(figure, presets.Entry, figures);
+    }
+    StoreLists(presets.Entry, figures);
+    vehicle.StorePreset(*preset, name, figures);
+    ShowMessage(texts.TextUpdatedPreset + " " + name);
+}
+
+std::optional<int> ChosenPreset() {
+    const int preset = vehicle.FindPreset(CustomPresets.EditName.Text());
+    if (preset >= 0) return preset;
+    ShowMessage("You must select a custom preset first.");
+    return std::nullopt;
+}
+
+}  // namespace zolv

@@ -1,0 +1,83 @@
+#include "language/language_file.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "fields/windows.h"
+#include "language/caption_table.h"
+#include "language/language_state.h"
+#include "language/texts.h"
+#include "platform/dialogs.h"
+#include "platform/text_files.h"
+#include "units/apply_units.h"
+#include "units/unit_catalogue.h"
+
+namespace zolv {
+namespace {
+
+constexpr std::size_t kLongestFile = 1 << 20;
+
+void Fill(PickList& list, std::span<const std::string> rows) {
+    list.Clear();
+    for (const std::string& row : rows) list.Add(row);
+}
+
+/// The row stays, not its text: it is picked by its new name, so that the list's handler sees that. A list with no
+/// current row comes back on the first.
+void Rebuild(PickList& list, std::span<const std::string> rows) {
+    const int row = std::max(0, list.Picked());
+    Fill(list, rows);
+    list.SetText(rows[static_cast<std::size_t>(row)]);
+}
+
+// A list is rebuilt behind the last of the lines that its rows come from.
+constexpr int kLastTyreType = 68;
+constexpr int kLastGraph = 72;
+constexpr std::array<int, kQuantities> kLastUnit{255, 260, 265, 270, 276, 281, 283, 288, 292, 296, 303, 309};
+
+void RebuildListBehind(int line) {
+    if (line == kLastTyreType) {
+        Fill(Zolv.Select_Tyres2, texts.TyreTypeNames);  // follows the other's click
+        Rebuild(Zolv.Select_Tyres, texts.TyreTypeNames);
+    }
+    if (line == kLastGraph) Rebuild(Zolv.Select_Graphs, texts.GraphNames);
+    const auto unit = std::find(kLastUnit.begin(), kLastUnit.end(), line);
+    if (unit != kLastUnit.end()) RebuildUnitList(static_cast<int>(unit - kLastUnit.begin()));
+}
+
+/// A name that would lead out of the program's folder has no file there.
+bool LeavesFolder(std::string_view name) { return name.find_first_of("/\\") != std::string_view::npos; }
+
+void AssignLines(const std::vector<std::string_view>& lines) {
+    for (const CaptionLine& line : CaptionTable()) {
+        AssignCaption(line, lines[static_cast<std::size_t>(line.number)]);
+        RebuildListBehind(line.number);
+    }
+}
+
+}  // namespace
+
+void ChangeLanguage() {
+    const std::string& name = LanguageSelection.LanguageList.Text();
+    const std::string path = platform.AppPath + "language_" + name + ".txt";
+    if (LeavesFolder(name) || FileExists(path) == 0) {
+        ShowMessage("The language file cannot be found: " + path);
+        return;
+    }
+    const FileText file = ReadTextFile(path, kLongestFile);
+    const std::vector<std::string_view> lines = SplitLines(file.text);
+    if (!file.readable || lines.size() != kCaptionLines) {
+        ShowMessage("Language file does not have the correct number of lines. Loading failed.");
+        return;
+    }
+    AssignLines(lines);
+    language.LanguageChanged();
+}
+
+std::string WriteBuiltInLanguage(const std::string& path) { return WriteTextFile(path, BuiltInLanguage()); }
+
+}  // namespace zolv

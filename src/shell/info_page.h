@@ -1,0 +1,15 @@
+#pragma once
+
+namespace zolv {
+
+/// Describes the car in use in words and numbers, in the units and the language in force.
+/// Reads:  vehicle, units, texts
+/// Writes: the Info_ labels
+void ShowCarInfo();
+
+/// Shows the picture of the car picked in Select_Car: "NAME.jpg" in the program's folder, or "unknown.jpg" where there
+/// is none. With neither there is a message, and the picture stays.
+/// Writes: Info_CarPic
+void ShowCarPicture();
+
+}  // namespace zolv

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "platform/hook.h"
+
 namespace zolv {
 
 /// Front figures are doubles and rear figures 32-bit floats, rounded at each store; the two sides are not identical for
@@ -25,6 +27,10 @@ struct TyreState {
 
     double FrontRimRatio = 0;  // rim radius as a fraction of the unloaded tyre radius
     float RearRimRatio = 0;
+
+    bool CopyingTyreType = false;  // the two lists of tyre types do not call each other back
+
+    Hook TyreTypeTaken;  // another type, with its grip, is in use
 };
 extern TyreState tyres;
 

@@ -1,6 +1,7 @@
 #include "tyres/tyres_page.h"
 
 #include "aero/aero_state.h"
+#include "fields/guards.h"
 #include "fields/windows.h"
 #include "language/number_text.h"
 #include "language/texts.h"
@@ -96,10 +97,19 @@ void AnalyseTyres() {
     DrawTyres();
 }
 
-void TakeTyreType() {
+void PickTyreType() {
+    tyres.CopyingTyreType = true;
+    Zolv.Select_Tyres2.SetText(Zolv.Select_Tyres.Text());
+    tyres.CopyingTyreType = false;
+    if (guards.Loading) return;
     for (std::size_t type = 0; type < texts.TyreTypeNames.size(); ++type) {
         if (Zolv.Select_Tyres.Text() == texts.TyreTypeNames[type]) tyres.TyreMu = tyres.TyreTypeMu[type];
     }
+    tyres.TyreTypeTaken();
+}
+
+void PickTyreTypeOnGearingPage() {
+    if (!tyres.CopyingTyreType) Zolv.Select_Tyres.SetText(Zolv.Select_Tyres2.Text());
 }
 
 void FillTyreLists() {

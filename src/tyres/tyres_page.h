@@ -14,8 +14,10 @@ void AnalyseTyres();
 /// Writes: tyres.FrontRimRatio/RearRimRatio, the two canvases
 void DrawTyres();
 
-/// Sets tyres.TyreMu from the type picked in Select_Tyres, found by its name.
-void TakeTyreType();
+/// A tyre type was picked on the tyres page or on the gearing page: the other list follows. Unless the program is
+/// loading, tyres.TyreMu is then set by the type's name, and the follow-up tyres.TyreTypeTaken raised.
+void PickTyreType();
+void PickTyreTypeOnGearingPage();
 
 /// Writes the rows of texts.TyreTypeNames into both lists of tyre types.
 void FillTyreLists();

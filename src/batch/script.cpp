@@ -1,0 +1,158 @@
+#include "batch/script.h"
+
+#include <algorithm>
+#include <iostream>
+#include <vector>
+
+#include "batch/field_access.h"
+#include "batch/output.h"
+#include "batch/report.h"
+#include "fields/windows.h"
+#include "language/language_file.h"
+#include "platform/nearest_name.h"
+#include "platform/text_files.h"
+#include "plots/svg.h"
+#include "shell/shell_state.h"
+
+namespace zolv {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// Takes the next word of a line and the one blank behind it; what is left is the rest as it stands.
+std::string_view TakeWord(std::string_view& line) {
+    line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+    const std::string_view word = line.substr(0, line.find(' '));
+    line.remove_prefix(word.size());
+    if (!line.empty()) line.remove_prefix(1);
+    return word;
+}
+
+bool IsBlank(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
+
+void ExpectNoMore(std::string_view rest) {
+    if (!IsBlank(rest)) throw ScriptError("more words than the command takes: " + std::string(rest));
+}
+
+Field& TakeField(std::string_view& line, std::string_view& name) {
+    name = TakeWord(line);
+    if (name.empty()) throw ScriptError("the name of a field is missing");
+    return FieldNamed(name);
+}
+
+void RunSet(std::string_view rest) {
+    std::string_view name;
+    Field& field = TakeField(rest, name);
+    SetField(field, rest);
+}
+
+void RunClick(std::string_view rest) {
+    std::string_view name;
+    Field& field = TakeField(rest, name);
+    ExpectNoMore(rest);
+    ClickField(field);
+}
+
+void RunGet(std::string_view rest) {
+    std::string_view name;
+    const Field& field = TakeField(rest, name);
+    const std::string_view property = TakeWord(rest);
+    ExpectNoMore(rest);
+    std::string line(name);
+    if (property.empty()) {
+        line += " = " + OneLine(TextOf(field));
+    } else {
+        line.append(" ").append(property).append(" = ").append(OneLine(PropertyOf(field, property)));
+    }
+    PrintLine(line);
+}
+
+const CanvasField& TakeCanvas(std::string_view& rest, std::string_view& name) {
+    const Field& field = TakeField(rest, name);
+    if (field.Kind() != FieldKind::Canvas) throw ScriptError(std::string(name) + " is not a canvas");
+    return static_cast<const CanvasField&>(field);
+}
+
+void RunCanvas(std::string_view rest) {
+    std::string_view name;
+    const CanvasField& field = TakeCanvas(rest, name);
+    ExpectNoMore(rest);
+    PrintCanvas(name, field);
+}
+
+std::string TakePath(std::string_view rest) {
+    if (IsBlank(rest)) throw ScriptError("the name of a file is missing");
+    return std::string(rest);
+}
+
+void ExpectWritten(const std::string& path, const std::string& reason) {
+    if (!reason.empty()) throw ScriptError(CannotWrite(path, reason));
+}
+
+void RunPicture(std::string_view rest) {
+    std::string_view name;
+    const CanvasField& field = TakeCanvas(rest, name);
+    const std::string path = TakePath(rest);
+    ExpectWritten(path, WriteTextFile(path, SvgOf(field.Drawing())));
+}
+
+void RunWriteLanguage(std::string_view rest) {
+    const std::string path = TakePath(rest);
+    ExpectWritten(path, WriteBuiltInLanguage(path));
+}
+
+void RunReport(std::string_view rest) {
+    ExpectNoMore(rest);
+    PrintReport();
+}
+
+struct Command {
+    const char* name;
+    void (*run)(std::string_view rest);
+};
+constexpr Command kCommands[] = {
+    {"set", RunSet},       {"click", RunClick},     {"get", RunGet},
+    {"canvas", RunCanvas}, {"picture", RunPicture}, {"write-language", RunWriteLanguage},
+    {"report", RunReport},
+};
+constexpr const char* kAnswer = "answer";
+
+[[noreturn]] void FailUnknown(std::string_view word) {
+    std::vector<std::string> names{kAnswer};
+    for (const Command& command : kCommands) names.emplace_back(command.name);
+    throw ScriptError("unknown command " + std::string(word) + "; did you mean " + NearestName(word, names) + "?");
+}
+
+}  // namespace
+
+void Script::RunLine(std::string_view line) {
+    std::string_view rest = line;
+    const std::string_view word = TakeWord(rest);
+    if (word.empty() || word.front() == '#') return;
+    if (word == kAnswer) return dialogs_.Answer(std::string(rest));
+    const auto* const command = std::find_if(std::begin(kCommands), std::end(kCommands),
+                                             [&](const Command& candidate) { return word == candidate.name; });
+    if (command == std::end(kCommands)) FailUnknown(word);
+    command->run(rest);
+}
+
+bool Script::Run(std::istream& input, const std::string& name) {
+    std::string line;
+    for (int number = 1; !shell.Ended && std::getline(input, line); ++number) {
+        std::string_view text = line;
+        if (number == 1 && text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+        if (text.ends_with('\r')) text.remove_suffix(1);
+        try {
+            RunLine(text);
+        } catch (const ScriptError& error) {
+            std::cout.flush();
+            std::cerr << "zolv-batch: " << name << ':' << number << ": " << OneLine(error.what()) << '\n';
+            return false;
+        }
+        // Whoever waits for the answer before he writes the next line gets it now.
+        if (input.rdbuf()->in_avail() <= 0) std::cout.flush();
+    }
+    return true;
+}
+
+}  // namespace zolv

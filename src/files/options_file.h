@@ -1,0 +1,18 @@
+#pragma once
+
+namespace zolv {
+
+/// The options file, "Options.ini" in the program's folder, holds all units and options: 31 lines "Key: value" ended by
+/// CR LF, in a fixed order. The reader goes by line and position and never looks at a key. Units are held by their row.
+
+/// Writes the options. A failed write shows a message and leaves the old file whole.
+/// Reads: units, options
+void SaveOptions();
+
+/// Reads the options and applies them; ends with the follow-up files.OptionsLoaded. A file that is missing or empty
+/// shows TextOptionsMissing. One that cannot be read, lacks lines, or holds a unit or a scale that does not exist shows
+/// a message with the reason. In both cases the options in memory are applied, since a start needs them applied once.
+/// Writes: units, options, the options panel
+void LoadOptions();
+
+}  // namespace zolv

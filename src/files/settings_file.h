@@ -1,0 +1,24 @@
+#pragma once
+
+namespace zolv {
+
+/// A settings file holds one set-up: 19 lines "Key: value", ended by CR LF, in a fixed order. The reader goes by line
+/// and position and never looks at a key. No unit is stored: speeds are in the unit of speed in force.
+
+/// Writes the set-up to files.CurrentFileName. A failed write shows a message and leaves the old file whole.
+/// Reads: Select_Car, pressures, both gearboxes, wing angles
+void SaveSettingsFile();
+
+/// Reads files.OpenFileName and applies it, with guards.Busy set. A car in neither table shows a message and closes the
+/// current file. A file that cannot be read or has too few lines shows a message, and everything stays as it was.
+/// @return whether the file could be read, its car known or not
+bool LoadSettingsFile();
+
+/// The menu entries. FileOpen ends with the follow-up files.SettingsOpened, unless the dialog was cancelled or the file
+/// could not be read.
+void OpenSettings();
+void SaveSettings();
+void SaveSettingsAs();
+void CloseSettings();
+
+}  // namespace zolv

@@ -1,0 +1,83 @@
+#include "shell/start_up.h"
+
+#include "aero/aero_page.h"
+#include "fields/guards.h"
+#include "fields/windows.h"
+#include "files/options_file.h"
+#include "language/language_list.h"
+#include "language/language_state.h"
+#include "language/texts.h"
+#include "platform/text_files.h"
+#include "shell/info_page.h"
+#include "shell/shell_state.h"
+#include "tyres/tyres_page.h"
+#include "units/apply_units.h"
+#include "vehicle/car_selection.h"
+#include "vehicle/custom_presets.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+
+ShellState shell;
+
+namespace {
+
+void FillCarList() {
+    for (const std::string& name : vehicle.CarName) Zolv.Select_Car.Add(name);
+}
+
+void FillGraphList() {
+    for (const std::string& name : texts.GraphNames) Zolv.Select_Graphs.Add(name);
+    Zolv.Select_Graphs.SetText(texts.GraphNames[0]);
+}
+
+/// Everything that is set up while guards.Loading keeps the handlers from calculating on half-built tables. Numbers
+/// need no switch of the user's decimal separator: no number text asks for it.
+void LoadTablesAndLists() {
+    InitCatalogue();
+    platform.AppPath = CurrentDirectory();
+    FillCarList();
+    Zolv.Select_Car.SetText("Pell S");
+    CalcAeroCoefficients();
+    FillUnitLists();
+    FillGraphList();
+    FillTyreLists();
+    Zolv.Select_Tyres.SetText(texts.TyreTypeNames[0]);
+    FillDrivetrainLists();
+    CustomPresets.Load();
+    UnitConv.Load();
+}
+
+/// On the very first run the language window stands in front. Without a language to choose it would only be in the way.
+void OfferFirstLanguageChoice() {
+    if (language.LanguageIndex != 0 || LanguageSelection.LanguageList.Rows().empty()) return;
+    Zolv.SetVisible(false);
+    LanguageSelection.SetVisible(true);
+}
+
+}  // namespace
+
+void LoadZolv() {
+    guards.Loading = true;
+    LoadTablesAndLists();
+    guards.Loading = false;
+    CalcAeroForces();
+    AnalyseTyres();
+    LoadOptions();  // and with them the first full calculation
+    ShowCarPicture();
+    LoadLanguageList();
+    OfferFirstLanguageChoice();
+}
+
+void ShutDown() {
+    if (shell.Ended) return;
+    shell.Ended = true;
+    for (Window* window :
+         {static_cast<Window*>(&LanguageSelection), static_cast<Window*>(&UnitConv),
+          static_cast<Window*>(&CustomPresets), static_cast<Window*>(&OptionsPanel), static_cast<Window*>(&Zolv)}) {
+        window->SetVisible(false);
+    }
+    shell.Ending();
+}
+
+}  // namespace zolv

@@ -1,0 +1,212 @@
+#include "shell/wiring.h"
+
+#include "aero/aero_page.h"
+#include "aero/aero_state.h"
+#include "fields/guards.h"
+#include "fields/windows.h"
+#include "files/file_state.h"
+#include "files/options_file.h"
+#include "files/preset_file.h"
+#include "files/settings_file.h"
+#include "gearing/acceleration_page.h"
+#include "gearing/gearing_inputs.h"
+#include "gearing/gearing_state.h"
+#include "gearing/ratios_page.h"
+#include "gearing/speeds_page.h"
+#include "language/language_file.h"
+#include "language/language_list.h"
+#include "language/language_state.h"
+#include "language/texts.h"
+#include "platform/dialogs.h"
+#include "plots/engine_plot.h"
+#include "plots/gearing_plots.h"
+#include "shell/info_page.h"
+#include "shell/start_up.h"
+#include "shell/unit_converter.h"
+#include "tyres/tyre_drawings.h"
+#include "tyres/tyre_state.h"
+#include "tyres/tyres_page.h"
+#include "units/apply_units.h"
+#include "units/option_state.h"
+#include "units/options_panel.h"
+#include "units/unit_state.h"
+#include "vehicle/car_selection.h"
+#include "vehicle/custom_presets.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+namespace {
+
+/// What follows the procedures. AnalyseTyres comes behind CalcAeroForces, whose axle loads it reads, and before the
+/// gearing, whose rolling radius rests on its stiffness.
+void WireFollowUps() {
+    vehicle.CarChanged = [] {
+        ShowCarInfo();
+        CalcAeroCoefficients();
+        AnalyseTyres();
+        DrawEnginePlot();
+        UpdateSpeeds();
+        UpdateRatios();
+        ShowCarPicture();
+    };
+    aero.TopSpeedFound = Recalculate;
+    tyres.TyreTypeTaken = [] {
+        AnalyseTyres();
+        RunAcceleration();
+        DrawGearingPlots();
+    };
+    gearing.SpeedsFound = DrawGearingPlots;
+    gearing.RatiosFound = DrawGearingPlots;
+    files.SettingsOpened = [] {
+        ShowCarInfo();
+        ShowCarPicture();
+        DrawEnginePlot();
+        CalcAeroCoefficients();  // the file's wing angles come into force
+        AnalyseTyres();
+        Recalculate();
+    };
+}
+
+void WireMenus() {
+    Zolv.FileOpen.OnClick = OpenSettings;
+    Zolv.FileSave.OnClick = SaveSettings;
+    Zolv.FileSaveAs.OnClick = SaveSettingsAs;
+    Zolv.FileClose.OnClick = CloseSettings;
+    Zolv.FileExit.OnClick = ShutDown;
+    Zolv.OnClose = ShutDown;
+    Zolv.ToolsCustom.OnClick = [] { CustomPresets.SetVisible(true); };
+    Zolv.ToolsOptions.OnClick = [] { OptionsPanel.SetVisible(true); };
+    Zolv.ToolsLanguage.OnClick = [] { LanguageSelection.SetVisible(true); };
+    Zolv.HelpUsage.OnClick = [] { ShowMessage(texts.TextManualHint); };
+}
+
+void WireCarAndPages() {
+    Zolv.Select_Car.OnClick = SelectCar;
+    Zolv.Select_Page.OnClick = [] { Zolv.Page[Zolv.Select_Page.Picked()].BringToFront(); };
+    Zolv.Select_Graphs.OnClick = ShowChosenGraph;
+    Zolv.Select_Tyres.OnClick = PickTyreType;
+    Zolv.Select_Tyres2.OnClick = PickTyreTypeOnGearingPage;
+}
+
+void WireGearingPage() {
+    Zolv.Direction1.OnClick = ChooseRatiosPage;
+    Zolv.Direction2.OnClick = ChooseSpeedsPage;
+    for (int gear = 1; gear <= kGears; ++gear) {
+        Zolv.Ratios.Input[gear].OnChange = [gear] { RatioChanged(gear); };
+        Zolv.Ratios.InputSlider[gear].OnChange = [gear] { RatioSliderMoved(gear); };
+        Zolv.Speeds.Input[gear].OnChange = [gear] { SpeedChanged(gear); };
+        Zolv.Speeds.InputSlider[gear].OnChange = [gear] { SpeedSliderMoved(gear); };
+    }
+    Zolv.Ratios.FinalDrive.OnChange = FinalDriveOfRatiosChanged;
+    Zolv.Ratios.FinalDriveSlider.OnChange = FinalDriveSliderOfRatiosMoved;
+    Zolv.Speeds.FinalDrive.OnChange = FinalDriveOfSpeedsChanged;
+    Zolv.Speeds.FinalDriveSlider.OnChange = FinalDriveSliderOfSpeedsMoved;
+    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
+        for (TextBox& box : panel->Input) box.OnKeyPress = CommaToPoint;
+        panel->FinalDrive.OnKeyPress = CommaToPoint;
+    }
+}
+
+void WireTyresPage() {
+    const auto analyseAndRecalculate = [] {
+        AnalyseTyres();
+        Recalculate();
+    };
+    Zolv.Select_PressureF.OnChange = analyseAndRecalculate;
+    Zolv.Select_PressureR.OnChange = analyseAndRecalculate;
+    Zolv.BlowTyres.OnClick = [analyseAndRecalculate] {
+        tyres.BlowTyresOn = Zolv.BlowTyres.Checked();
+        analyseAndRecalculate();
+    };
+    Zolv.FrontTyreAnal.OnClick = AnalyseTyres;
+    Zolv.RearTyreAnal.OnClick = AnalyseTyres;
+    Zolv.ZoomCPS.OnChange = DrawTyres;
+    Zolv.ZoomSideOn.OnChange = DrawTyres;
+}
+
+void WireAeroPage() {
+    const auto moveWing = [] {
+        if (guards.Busy) return;
+        CalcAeroCoefficients();
+        AnalyseTyres();
+    };
+    Zolv.Select_FrontWingAngle.OnChange = moveWing;
+    Zolv.Select_RearWingAngle.OnChange = moveWing;
+
+    // The speed sliders follow each other in code, so that only the user's own move counts. The gearing does not
+    // follow: its axle loads rest on each gear's own speed.
+    const auto analyseAtSliderSpeed = [] {
+        if (!aero.FixedSpeedMode) AnalyseTyres();
+    };
+    Zolv.Select_AeroSpeed.OnScroll = [analyseAtSliderSpeed] {
+        MoveAeroSpeed();
+        analyseAtSliderSpeed();
+    };
+    Zolv.Select_AeroSpeed_TyreTab.OnScroll = [analyseAtSliderSpeed] {
+        MoveAeroSpeedOfTyreTab();
+        analyseAtSliderSpeed();
+    };
+    Zolv.UseSliderSpeed.OnClick = [] {
+        ChooseSliderSpeed();
+        AnalyseTyres();
+        Recalculate();
+    };
+    Zolv.UseFixedSpeed.OnClick = [] {
+        ChooseFixedSpeed();
+        AnalyseTyres();
+        Recalculate();
+    };
+}
+
+/// What a change of unit writes anew.
+void WireUnits() {
+    units.Speed.Picked = [] {
+        CalcAeroForces();
+        Recalculate();
+        ShowCarInfo();
+    };
+    units.Distance.Picked = units.Pressure.Picked = [] {
+        AnalyseTyres();
+        ShowCarInfo();
+    };
+    units.Area.Picked = [] {
+        CalcAeroForces();
+        AnalyseTyres();
+        ShowCarInfo();
+    };
+    units.Mass.Picked = units.P2W.Picked = units.T2W.Picked = ShowCarInfo;
+    units.Force.Picked = [] {
+        CalcAeroForces();
+        ShowCarInfo();
+        RunAcceleration();
+        DrawGearingPlots();
+    };
+    units.Stiffness.Picked = AnalyseTyres;
+    units.Acc.Picked = [] {
+        ShowCarInfo();
+        RunAcceleration();
+    };
+    units.Power.Picked = [] {
+        ShowCarInfo();
+        DrawEnginePlot();
+    };
+    units.Torque.Picked = [] {
+        ShowCarInfo();
+        DrawEnginePlot();
+        Recalculate();
+    };
+}
+
+}  // namespace
+
+void WireEvents() {
+    WireFollowUps();
+    WireMenus();
+    WireCarAndPages();
+    WireGearingPage();
+    WireTyresPage();
+    WireAeroPage();
+    WireUnits();
+}
+
+}  // namespace zolv

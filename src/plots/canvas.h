@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -32,8 +33,34 @@ struct PlotAxis {
     std::string unit;   // "m/s"; empty where the values have none
 };
 
+/// The unit of an axis, from the suffix that stands behind numbers: without its leading blank.
+[[nodiscard]] std::string AxisUnit(std::string_view suffix);
+
+/// Calls draw(offset) for each line of a grid in one direction, with offset = value * scale for the values 0, step,
+/// 2 step and so on, summed up: until a line stands at `end` or beyond, or `limit` lines are drawn, so that a step of
+/// zero or a scale that is no number ends as well.
+template <class DrawLine>
+void WalkGrid(double step, double scale, double end, int limit, DrawLine draw) {
+    double value = 0;
+    double offset = 0;
+    for (int line = 0; line < limit && offset < end; ++line) {
+        offset = value * scale;
+        draw(offset);
+        value += step;
+    }
+}
+
+/// What a curve of a plot is, for a reader.
+struct LegendEntry {
+    std::string name;
+    Rgb colour;
+
+    bool operator==(const LegendEntry&) const = default;
+};
+
 /// A drawing: a white surface and the operations drawn on it since it was last cleared. It is painted, exported and
-/// compared from this record alone.
+/// compared from this record alone. What has no place is not recorded: an operation with a coordinate that is not
+/// finite, as a scale that divides by zero gives, draws nothing.
 class Canvas {
 public:
     Canvas(double width, double height) : width_(width), height_(height) {}
@@ -41,7 +68,7 @@ public:
     double Width() const { return width_; }
     double Height() const { return height_; }
 
-    /// Empties the canvas. The ink and the line width stay as they are.
+    /// Empties the canvas; axes and legend go with the drawing. The ink and the line width stay as they are.
     void Clear();
 
     void SetInk(Rgb ink) { ink_ = ink; }
@@ -49,7 +76,7 @@ public:
 
     void Line(double x1, double y1, double x2, double y2) { Line(x1, y1, x2, y2, ink_); }
     void Line(double x1, double y1, double x2, double y2, Rgb colour) {
-        operations_.push_back({DrawingOperation::Kind::Line, colour, lineWidth_, 0, x1, y1, x2, y2});
+        Record({DrawingOperation::Kind::Line, colour, lineWidth_, 0, x1, y1, x2, y2});
     }
     void FillRectangle(double x1, double y1, double x2, double y2, Rgb colour);
     void FillCircle(double x, double y, double radius, Rgb colour);
@@ -67,9 +94,19 @@ public:
         bool present = false;
     };
     const Axes& PresentAxes() const { return axes_; }
-    void SetAxes(PlotAxis x, PlotAxis y);
+    void SetAxes(PlotAxis x, PlotAxis y);  // axes with a scale of zero or none are not kept
+
+    /// The curves of the present drawing, in drawing order; cleared with it. A drawing of one curve needs none.
+    const std::vector<LegendEntry>& Legend() const { return legend_; }
+    void AddLegend(std::string name, Rgb colour);
 
 private:
+    void Record(const DrawingOperation& operation) {
+        const bool finite = std::isfinite(operation.x1) && std::isfinite(operation.y1) && std::isfinite(operation.x2) &&
+                            std::isfinite(operation.y2);
+        if (finite) operations_.push_back(operation);
+    }
+
     double width_;
     double height_;
     Rgb ink_ = kBlack;
@@ -77,6 +114,7 @@ private:
     std::vector<DrawingOperation> operations_;
     std::vector<std::string> texts_;
     Axes axes_;
+    std::vector<LegendEntry> legend_;
 };
 
 }  // namespace zolv

@@ -5,6 +5,7 @@
 #include "fields/windows.h"
 #include "language/number_text.h"
 #include "language/texts.h"
+#include "tyres/tyre_drawings.h"
 #include "tyres/tyre_model.h"
 #include "tyres/tyre_state.h"
 #include "units/unit_state.h"

@@ -9,11 +9,6 @@ namespace zolv {
 /// Writes: tyres, the figures of the tyres page
 void AnalyseTyres();
 
-/// Draws the footprint on the road (CPS) and the tyre seen from the side (SV), from the figures as they stand.
-/// Reads:  ZoomCPS, ZoomSideOn, FrontTyreAnal, tyres, vehicle
-/// Writes: tyres.FrontRimRatio/RearRimRatio, the two canvases
-void DrawTyres();
-
 /// A tyre type was picked on the tyres page or on the gearing page: the other list follows. Unless the program is
 /// loading, tyres.TyreMu is then set by the type's name, and the follow-up tyres.TyreTypeTaken raised.
 void PickTyreType();

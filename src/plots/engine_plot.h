@@ -1,0 +1,21 @@
+#pragma once
+
+#include <array>
+
+namespace zolv {
+
+/// The curves of the engine plot as offsets from its origin, in canvas units. The straight line below peak torque takes
+/// two points of the torque curve, the cubic above it 16; power has 18 points and 16.
+struct PlotState {
+    std::array<float, 18> TorquePlotX{}, TorquePlotY{};
+    std::array<float, 34> PowerPlotX{}, PowerPlotY{};
+};
+extern PlotState plots;
+
+/// Draws the engine of the car in use, torque and power against engine speed on one numerical axis, and in the same
+/// run fits its curve, which the gearing and the acceleration run go by.
+/// Reads:  vehicle.CurrentCar, units.Power, units.Torque
+/// Writes: gearing.Curve, plots, TorquePowerPlot
+void DrawEnginePlot();
+
+}  // namespace zolv

@@ -1,0 +1,36 @@
+#include "plots/plot_frame.h"
+
+#include <algorithm>
+
+#include "gearing/shift_points.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+
+void DrawGrid(Canvas& plot, const PlotFrame& frame, const AxisReading& x, const AxisReading& y) {
+    constexpr int kGridLines = 101;
+    plot.SetLineWidth(1);
+    WalkGrid(x.step / x.factor, frame.sx, kPlotWidth, kGridLines,
+             [&](double offset) { plot.Line(offset + kLeftMargin, kPlotHeight, offset + kLeftMargin, 0); });
+    WalkGrid(y.step / y.factor, frame.sy, kPlotHeight, kGridLines,
+             [&](double offset) { plot.Line(kLeftMargin, kPlotHeight - offset, kPlotWidth, kPlotHeight - offset); });
+    plot.SetAxes({.origin = kLeftMargin,
+                  .scale = frame.sx / x.factor,
+                  .step = static_cast<double>(x.step),
+                  .end = kPlotWidth,
+                  .unit = AxisUnit(x.suffix)},
+                 {.origin = kPlotHeight,
+                  .scale = -frame.sy / y.factor,
+                  .step = static_cast<double>(y.step),
+                  .end = 0,
+                  .unit = AxisUnit(y.suffix)});
+}
+
+std::size_t TopGear() { return static_cast<std::size_t>(std::clamp<int>(vehicle.CurrentCar.NumGears, 0, kGears)); }
+
+std::string CurveName(const Label& label) {
+    const std::string& caption = label.Caption();
+    return caption.ends_with(':') ? caption.substr(0, caption.size() - 1) : caption;
+}
+
+}  // namespace zolv

@@ -1,0 +1,98 @@
+#include "plots/run_plots.h"
+
+#include <algorithm>
+
+#include "aero/aero_state.h"
+#include "fields/windows.h"
+#include "gearing/gearing_state.h"
+#include "language/texts.h"
+#include "plots/plot_frame.h"
+#include "units/option_state.h"
+#include "units/unit_state.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+namespace {
+
+constexpr std::string_view kSeconds = " s";
+
+/// Canvas units for one second of the run.
+double TimeScale() { return (kPlotWidth - kCurveReserve) / (gearing.AccelLastRow * kTimeStep); }
+
+const AccelRow& RowAt(int row) { return gearing.AccelRows[static_cast<std::size_t>(row)]; }
+
+/// Draws `column` from one row to another.
+void DrawSegment(Canvas& plot, const PlotFrame& frame, int from, int to, AccelColumn column, Rgb colour) {
+    const auto x = [&](int row) { return (row * frame.sx * kTimeStep) + kLeftMargin; };
+    plot.Line(x(from), frame.Y(RowAt(from)[column]), x(to), frame.Y(RowAt(to)[column]), colour);
+}
+
+/// The largest force to be expected [N]: first gear's at peak torque, as far as the tyres can take it, or the load of
+/// an axle where the loads are drawn.
+double LargestForce() {
+    const auto mode = static_cast<std::size_t>(gearing.Mode());
+    const CarRecord& car = vehicle.CurrentCar;
+    const bool rear = car.IsRearDriven();
+    const double radius = rear ? vehicle.RearUnloadedRadius : vehicle.FrontUnloadedRadius;
+    const double load = rear ? aero.RearWheelForce : aero.FrontWheelForce;
+    const double torque =
+        static_cast<double>(car.Torque) * car.Efficiency * gearing.GearRatio[mode][1] * gearing.FinalDrive[mode];
+    double force = torque / (radius * 0.95);
+    if (force > load * 1.6) force = load * 1.6;
+    if (!options.VLoadsOn) return force;
+    const double largerLoad = std::max(aero.FrontWheelForce, aero.RearWheelForce);
+    return force < largerLoad * 1.05 ? largerLoad * 1.05 : force;
+}
+
+struct ForceCurve {
+    AccelColumn column;
+    Rgb colour;
+    std::string Texts::*name;
+    bool isLoad;
+};
+constexpr ForceCurve kForceCurves[] = {
+    {AccelColumn::DrivingForce, kGreen, &Texts::TextColDrivingForce, false},
+    {AccelColumn::Resistance, kRed, &Texts::TextColResistance, false},
+    {AccelColumn::NetForce, kBlue, &Texts::TextColNetForce, false},
+    {AccelColumn::FrontLoad, kMagenta, &Texts::TextFront, true},
+    {AccelColumn::RearLoad, kCyan, &Texts::TextRear, true},
+};
+
+}  // namespace
+
+void DrawTractiveEffortPlot() {
+    constexpr int kStride = 3;
+    if (gearing.AccelLastRow <= 0) return;
+    const PlotFrame frame{.sx = TimeScale(), .sy = kPlotHeight / LargestForce()};
+    Canvas& plot = Zolv.TractiveEffortPlot.Draw();
+    DrawGrid(plot, frame, {.step = options.TractivePlotXScale, .suffix = kSeconds},
+             {options.TractivePlotYScale, units.Force.Factor, units.Force.Suffix});
+
+    plot.SetLineWidth(2);
+    const auto isDrawn = [](const ForceCurve& curve) { return !curve.isLoad || options.VLoadsOn; };
+    for (int row = 0; row < gearing.AccelLastRow - kStride; row += kStride) {
+        for (const ForceCurve& curve : kForceCurves) {
+            if (isDrawn(curve)) DrawSegment(plot, frame, row, row + kStride, curve.column, curve.colour);
+        }
+    }
+    for (const ForceCurve& curve : kForceCurves) {
+        if (isDrawn(curve)) plot.AddLegend(texts.*curve.name, curve.colour);
+    }
+}
+
+void DrawSpeedTimeGraph() {
+    constexpr int kStride = 8;
+    const int last = gearing.AccelLastRow;
+    if (last <= 0) return;
+    const PlotFrame frame{.sx = TimeScale(), .sy = kPlotHeight / (RowAt(last)[AccelColumn::Speed] * 1.1)};
+    Canvas& plot = Zolv.SpeedTimeGraph.Draw();
+    DrawGrid(plot, frame, {.step = options.SpeedGraphXScale, .suffix = kSeconds},
+             {options.SpeedGraphYScale, units.Speed.Factor, units.Speed.Suffix});
+
+    plot.SetLineWidth(2);
+    for (int row = 0; row < last - kStride; row += kStride) {
+        DrawSegment(plot, frame, row, row + kStride, AccelColumn::Speed, kBlack);
+    }
+}
+
+}  // namespace zolv

@@ -1,0 +1,96 @@
+#include "plots/torque_plot.h"
+
+#include <array>
+
+#include "fields/windows.h"
+#include "gearing/engine_curve.h"
+#include "gearing/gearing_state.h"
+#include "language/texts.h"
+#include "plots/plot_frame.h"
+#include "units/option_state.h"
+#include "units/unit_state.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+namespace {
+
+constexpr std::size_t kSamples = 33;
+
+/// A curve as offsets from the origin of the plot, in canvas units.
+struct Curve {
+    std::array<double, kSamples> x, y;
+};
+
+/// The engine as 0, the gears as 1 to 6.
+using Curves = std::array<Curve, kGears + 1>;
+
+/// The engine's own curve reaches further than the wheels' whenever the gearing reduces.
+double LongestRevs(std::size_t mode) {
+    const double engineRevs = vehicle.CurrentCar.PowerRPM * 1.3;
+    const double ratio = gearing.GearRatio[mode][TopGear()];
+    const double finalDrive = gearing.FinalDrive[mode];
+    if (options.EngineTorqueOn && static_cast<float>(finalDrive * ratio) > 1.0F) return engineRevs;
+    return engineRevs / ratio / finalDrive;
+}
+
+PlotFrame PresentFrame(std::size_t mode) {
+    const CarRecord& car = vehicle.CurrentCar;
+    const double highest = static_cast<double>(car.Torque) * gearing.GearRatio[mode][1] * gearing.FinalDrive[mode] *
+                           car.Efficiency * 1.05 * units.Torque.Factor;
+    return {.sx = kPlotWidth / LongestRevs(mode), .sy = kPlotHeight / highest};
+}
+
+/// Torque at one engine speed; at peak torque the cubic.
+double SampleTorque(const Engine& engine, double revs) {
+    return revs < engine.TorqueRPM ? LowerTorque(engine, revs) : gearing.Curve.Cubic(revs);
+}
+
+Curves SampleCurves(const PlotFrame& frame, std::size_t mode) {
+    const Engine engine = EngineOf(vehicle.CurrentCar);
+    const double efficiency = vehicle.CurrentCar.Efficiency;
+    const double finalDrive = gearing.FinalDrive[mode];
+    const double step = (engine.PowerRPM * 1.2 - engine.IdleRPM) / (kSamples - 1);
+    Curves curves;
+    double revs = engine.IdleRPM;  // summed up, not multiplied: the last digits are those of the sum
+    for (std::size_t k = 0; k < kSamples; ++k, revs += step) {
+        const double torque = SampleTorque(engine, revs);
+        curves[0].x[k] = revs * frame.sx;
+        curves[0].y[k] = torque * frame.sy * units.Torque.Factor;
+        for (std::size_t gear = 1; gear <= kGears; ++gear) {
+            const double ratio = gearing.GearRatio[mode][gear];
+            curves[gear].x[k] = revs * frame.sx / ratio / finalDrive;
+            curves[gear].y[k] = torque * frame.sy * efficiency * ratio * finalDrive * units.Torque.Factor;
+        }
+    }
+    return curves;
+}
+
+void DrawCurve(Canvas& plot, const Curve& curve, Rgb colour) {
+    for (std::size_t k = 0; k + 1 < kSamples; ++k) {
+        plot.Line(curve.x[k] + kLeftMargin, kPlotHeight - curve.y[k], curve.x[k + 1] + kLeftMargin,
+                  kPlotHeight - curve.y[k + 1], colour);
+    }
+}
+
+}  // namespace
+
+void DrawTorquePlot() {
+    const auto mode = static_cast<std::size_t>(gearing.Mode());
+    const PlotFrame frame = PresentFrame(mode);
+    Canvas& plot = Zolv.TorquePlot.Draw();
+    // The scale holds the factor of the unit already, so that the data of this plot are in the unit shown.
+    DrawGrid(plot, frame, {.step = options.TorquePlotXScale, .suffix = texts.RpmSuffix},
+             {.step = options.TorquePlotYScale, .suffix = units.Torque.Suffix});
+
+    const Curves curves = SampleCurves(frame, mode);
+    const bool failed = gearing.Curve.CurveFitFailed;
+    for (std::size_t i = options.EngineTorqueOn ? 0 : 1; i <= TopGear(); ++i) {
+        const bool isEngine = i == 0;
+        const Rgb colour = failed ? kRed : isEngine ? kBlue : kBlack;
+        plot.SetLineWidth(isEngine ? 3 : 2);
+        DrawCurve(plot, curves[i], colour);
+        plot.AddLegend(isEngine ? CurveName(Zolv.InfoLabel[6]) : texts.GearNames[i], colour);
+    }
+}
+
+}  // namespace zolv

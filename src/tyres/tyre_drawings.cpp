@@ -1,0 +1,116 @@
+#include "tyres/tyre_drawings.h"
+
+#include <cmath>
+
+#include "fields/windows.h"
+#include "tyres/tyre_state.h"
+#include "units/unit_state.h"
+#include "vehicle/tyre_geometry.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+namespace {
+
+// Canvas units. The frame of the footprint is somewhat smaller than its canvas.
+constexpr double kFootprintWidth = 4250;
+constexpr double kFootprintHeight = 3075;
+constexpr double kUnitsPerMetre = 1900;  // at a zoom of 100
+constexpr double kGridStep = 0.1;        // twice the metres of patch from line to line
+constexpr int kGridLines = 21;           // in each direction
+constexpr double kWheelX = 1530;
+constexpr double kRoadY = 2800;
+constexpr double kSideViewEdge = 3135;
+
+/// What is drawn of one tyre [m].
+struct DrawnTyre {
+    double patchWidth = 0, patchLength = 0;
+    double deformation = 0;
+    double unloadedRadius = 0;
+    double rimRatio = 0;  // rim radius as a fraction of the unloaded radius
+};
+
+DrawnTyre AnalysedTyre() {
+    if (Zolv.FrontTyreAnal.Checked()) {
+        return {tyres.FrontPatchWidth, tyres.FrontPatchLength, tyres.FrontDeformation, vehicle.FrontUnloadedRadius,
+                tyres.FrontRimRatio};
+    }
+    return {tyres.RearPatchWidth, tyres.RearPatchLength, tyres.RearDeformation, vehicle.RearUnloadedRadius,
+            tyres.RearRimRatio};
+}
+
+void SetRimRatios() {
+    const CarRecord& car = vehicle.CurrentCar;
+    tyres.FrontRimRatio = RimRadius(car.FWS) / vehicle.FrontUnloadedRadius;
+    tyres.RearRimRatio = static_cast<float>(RimRadius(car.RWS) / vehicle.RearUnloadedRadius);
+}
+
+/// The grid runs from the centre both ways, two lines at a time.
+void DrawFootprintGrid(Canvas& plot, double scale) {
+    plot.SetLineWidth(1);
+    WalkGrid(kGridStep, scale * 2, kFootprintWidth, kGridLines, [&](double v) {
+        for (const double x : {(kFootprintWidth + v) / 2, (kFootprintWidth - v) / 2}) {
+            plot.Line(x, kFootprintHeight, x, 0);
+        }
+    });
+    WalkGrid(kGridStep, scale * 2, kFootprintHeight, kGridLines, [&](double v) {
+        for (const double y : {(kFootprintHeight + v) / 2, (kFootprintHeight - v) / 2}) {
+            plot.Line(0, y, kFootprintWidth, y);
+        }
+    });
+}
+
+/// @param scale  canvas units for one metre of half the patch: the drawn patch is twice as large as the scale says
+void PublishFootprintAxes(Canvas& plot, double scale) {
+    const double factor = units.Distance.Factor;
+    PlotAxis x{.origin = kFootprintWidth / 2,
+               .scale = scale * 2 / factor,
+               .step = kGridStep / 2 * factor,
+               .end = kFootprintWidth,
+               .unit = AxisUnit(units.Distance.Suffix)};
+    PlotAxis y = x;
+    y.origin = kFootprintHeight / 2;
+    y.scale = -x.scale;
+    y.end = 0;
+    plot.SetAxes(std::move(x), std::move(y));
+}
+
+/// The width of the patch runs across the canvas, its length up and down.
+void DrawFootprint(const DrawnTyre& tyre) {
+    constexpr double kCentreX = kFootprintWidth / 2;
+    constexpr double kCentreY = kFootprintHeight / 2;
+    const double scale = kUnitsPerMetre / (Zolv.ZoomCPS.Value() / 100.0);
+    const double halfWidth = scale * tyre.patchWidth;
+    const double halfLength = scale * tyre.patchLength;
+    Canvas& plot = Zolv.CPS.Draw();
+    plot.Clear();
+    DrawFootprintGrid(plot, scale);
+    PublishFootprintAxes(plot, scale);
+    plot.FillRectangle(kCentreX - halfWidth, kCentreY - halfLength, kCentreX + halfWidth, kCentreY + halfLength,
+                       kBlack);
+}
+
+/// The wheel stands lower by the deformation, drawn to the tyre's scale in whole units, and everything below the road
+/// is cut away, so that the tyre shows its flat.
+void DrawSideView(const DrawnTyre& tyre) {
+    const double radius = Zolv.ZoomSideOn.Value() * 10;
+    const double centre = kRoadY + (std::floor(tyre.deformation * (radius / tyre.unloadedRadius)) - radius);
+    Canvas& plot = Zolv.SV.Draw();
+    plot.Clear();
+    plot.FillCircle(kWheelX, centre, radius, kBlack);
+    plot.FillCircle(kWheelX, centre, radius * tyre.rimRatio, kWhite);
+    plot.FillRectangle(0, kRoadY, kSideViewEdge, kSideViewEdge, kWhite);
+    plot.SetLineWidth(3);
+    plot.Line(0, kRoadY, kSideViewEdge, kRoadY, kRed);
+    plot.SetLineWidth(1);
+}
+
+}  // namespace
+
+void DrawTyres() {
+    SetRimRatios();
+    const DrawnTyre tyre = AnalysedTyre();
+    DrawFootprint(tyre);
+    DrawSideView(tyre);
+}
+
+}  // namespace zolv

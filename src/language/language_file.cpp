@@ -15,6 +15,7 @@
 #include "platform/text_files.h"
 #include "units/apply_units.h"
 #include "units/unit_catalogue.h"
+#include "vehicle/custom_presets.h"
 
 namespace zolv {
 namespace {
@@ -35,11 +36,13 @@ void Rebuild(PickList& list, std::span<const std::string> rows) {
 }
 
 // A list is rebuilt behind the last of the lines that its rows come from.
+constexpr int kLastDrivetrain = 41;
 constexpr int kLastTyreType = 68;
 constexpr int kLastGraph = 72;
 constexpr std::array<int, kQuantities> kLastUnit{255, 260, 265, 270, 276, 281, 283, 288, 292, 296, 303, 309};
 
 void RebuildListBehind(int line) {
+    if (line == kLastDrivetrain) FillDrivetrainLists();  // a preset's drivetrain is told by these texts
     if (line == kLastTyreType) {
         Fill(Zolv.Select_Tyres2, texts.TyreTypeNames);  // follows the other's click
         Rebuild(Zolv.Select_Tyres, texts.TyreTypeNames);

@@ -8,11 +8,13 @@
 #include "language/caption_table.h"
 #include "language/language_state.h"
 #include "platform/text_files.h"
+#include "plots/engine_plot.h"
 #include "shell/shell_state.h"
 #include "shell/wiring.h"
 #include "tyres/tyre_state.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
+#include "vehicle/preset_state.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
@@ -24,9 +26,11 @@ void FreshStart() {
     units = {};
     options = {};
     vehicle = {};
+    presets = {};
     tyres = {};
     aero = {};
     gearing = {};
+    plots = {};
     files = {};
     language = {};
     shell = {};

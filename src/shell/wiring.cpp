@@ -29,6 +29,7 @@
 #include "units/apply_units.h"
 #include "units/option_state.h"
 #include "units/options_panel.h"
+#include "units/unit_catalogue.h"
 #include "units/unit_state.h"
 #include "vehicle/car_selection.h"
 #include "vehicle/custom_presets.h"
@@ -57,6 +58,18 @@ void WireFollowUps() {
     };
     gearing.SpeedsFound = DrawGearingPlots;
     gearing.RatiosFound = DrawGearingPlots;
+    options.GearingOptionChanged = Recalculate;
+    options.PlotOptionChanged = DrawGearingPlots;
+    files.OptionsLoaded = [] {
+        ShowCarInfo();
+        CalcAeroForces();
+        AnalyseTyres();
+        Recalculate();
+    };
+    language.LanguageChanged = [] {
+        ShowCarInfo();
+        Recalculate();
+    };
     files.SettingsOpened = [] {
         ShowCarInfo();
         ShowCarPicture();
@@ -197,6 +210,68 @@ void WireUnits() {
     };
 }
 
+void WireOptionsPanel() {
+    OptionsPanel.Select_Options.OnClick = [] {
+        OptionsPanel.OptionsPage[OptionsPanel.Select_Options.Picked()].BringToFront();
+    };
+    for (int quantity = 0; quantity < kQuantities; ++quantity) {
+        OptionsPanel.Units[static_cast<std::size_t>(quantity)].Select.OnClick = [quantity] { PickUnit(quantity); };
+    }
+    for (const PlotFlag& flag : PlotFlags()) flag.box.OnClick = [&flag] { SwitchPlotFlag(flag); };
+    for (const PlotScale& scale : PlotScales()) scale.slider.OnChange = [&scale] { MovePlotScale(scale); };
+    OptionsPanel.RevsP.OnClick = ChoosePeakPowerRevs;
+    OptionsPanel.RevsR.OnClick = ChooseRedlineRevs;
+    OptionsPanel.RevLimitEnable.OnClick = SwitchRevLimit;
+    OptionsPanel.RC_Auto.OnClick = ChooseAutoRevs;
+    OptionsPanel.RC_Fixed.OnClick = ChooseFixedRevs;
+    OptionsPanel.RC_FixedVal.OnChange = ChangeFixedRevs;
+    OptionsPanel.AccelerationTestingEnable.OnClick = SwitchAcceleration;
+    OptionsPanel.OptionsLoad.OnClick = LoadOptions;
+    OptionsPanel.OptionsSave.OnClick = SaveOptions;
+}
+
+void WireCustomPresets() {
+    CustomPresets.OnLoad = LoadCustomPresets;
+    CustomPresets.NewCar.OnClick = ChooseBaseCar;
+    CustomPresets.AddCar.OnClick = AddPreset;
+    CustomPresets.CP_Load.OnClick = LoadPresetFrom;
+    CustomPresets.EditName.OnClick = ShowPresetForEditing;
+    CustomPresets.EditUpdate.OnClick = UpdatePreset;
+    CustomPresets.CP_Save.OnClick = SavePresetAs;
+    CustomPresets.LoadUnitConv.OnClick = [] { UnitConv.SetVisible(true); };
+}
+
+void WireUnitConverter() {
+    UnitConv.OnLoad = ConvertTyre;
+    for (ConverterRow* row : {&UnitConv.Distance, &UnitConv.Mass, &UnitConv.Power, &UnitConv.Torque}) {
+        row->Input.OnChange = row->Select.OnClick = [row] { ConvertUnits(*row); };
+    }
+    for (TextBox* box : {&UnitConv.TyreWidthInput, &UnitConv.TyreHeightInput, &UnitConv.RimSizeInput}) {
+        box->OnChange = ConvertTyre;
+    }
+}
+
+void WireLanguageSelection() {
+    LanguageSelection.LanguageList.OnClick = ChangeLanguage;
+    LanguageSelection.SaveLanguage.OnClick = [] {
+        SaveLanguageChoice();
+        LanguageSelection.SetVisible(false);
+        Zolv.SetVisible(true);
+    };
+    // On a first run the main window waits behind this one.
+    LanguageSelection.OnClose = [] {
+        LanguageSelection.SetVisible(false);
+        Zolv.SetVisible(true);
+    };
+}
+
+/// Secondary windows are hidden and keep their fields.
+void WireClosing() {
+    OptionsPanel.OnClose = OptionsPanel.CloseOptions.OnClick = [] { OptionsPanel.SetVisible(false); };
+    CustomPresets.OnClose = CustomPresets.CloseCustom.OnClick = [] { CustomPresets.SetVisible(false); };
+    UnitConv.OnClose = UnitConv.CloseConv.OnClick = [] { UnitConv.SetVisible(false); };
+}
+
 }  // namespace
 
 void WireEvents() {
@@ -207,6 +282,11 @@ void WireEvents() {
     WireTyresPage();
     WireAeroPage();
     WireUnits();
+    WireOptionsPanel();
+    WireCustomPresets();
+    WireUnitConverter();
+    WireLanguageSelection();
+    WireClosing();
 }
 
 }  // namespace zolv

@@ -209,7 +209,10 @@ void LoadCustomPresets() {
 
 void FillDrivetrainLists() {
     for (PickList* list : {&CustomPresets.New.Drivetrain, &CustomPresets.Edit.Drivetrain}) {
-        for (const std::string& row : {texts.TextFWD, texts.TextRWD, texts.TextAWD}) list->Add(row);
+        const int row = list->Picked();
+        list->Clear();
+        for (const std::string& name : {texts.TextFWD, texts.TextRWD, texts.TextAWD}) list->Add(name);
+        list->Pick(row);
     }
 }
 

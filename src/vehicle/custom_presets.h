@@ -9,7 +9,7 @@ namespace zolv {
 /// Writes: NewCar, EditName, PresetsUsed
 void LoadCustomPresets();
 
-/// Adds the three kinds of drivetrain to the lists of both panels, in the language in force.
+/// Puts the three kinds of drivetrain into the lists of both panels, in the language in force. A list keeps its row.
 /// Writes: NewDrivetrain, EditDrivetrain
 void FillDrivetrainLists();
 
@@ -30,7 +30,8 @@ void AddPreset();
 void ShowPresetForEditing();
 
 /// Stores the figures on the edit panel in the preset picked there, or says what is wrong with them. What the panel
-/// does not show stays; so does the car in use, which takes the figures at its next selection. Reads:  the edit panel
+/// does not show stays; so does the car in use, which takes the figures at its next selection.
+/// Reads:  the edit panel
 /// Writes: presets.Entry, vehicle.CustomData
 void UpdatePreset();
 

@@ -1,0 +1,322 @@
+#include "vehicle/custom_presets.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/preset_window.h"
+
+namespace zolv {
+namespace {
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+constexpr const char* kAdded = "Added custom preset: Mine";
+
+class CustomPresetsTest : public testing::Test, protected PresetWindow {};
+
+TEST_F(CustomPresetsTest, LoadListsTheCarsAndTheKindsOfDrivetrain) {
+    EXPECT_EQ(CustomPresets.NewCar.Rows().size(), 19U);
+    EXPECT_EQ(CustomPresets.NewCar.Rows().back(), "Corvane R");
+    EXPECT_EQ(CustomPresets.PresetsUsed.Caption(), "0 / 10");
+    for (const PickList* list : {&CustomPresets.New.Drivetrain, &CustomPresets.Edit.Drivetrain}) {
+        EXPECT_THAT(list->Rows(), ElementsAre("Front Wheel Drive", "Rear Wheel Drive", "All Wheel Drive"));
+    }
+}
+
+// From the catalogue by hand: fractions as per cent, 60.123 kg of unsprung mass as a whole number.
+TEST_F(CustomPresetsTest, BaseCarFillsThePanelButForTheName) {
+    CustomPresets.NewName.Enter("Mine");
+    CustomPresets.NewCar.SetText("Ondo T");
+    EXPECT_THAT(
+        AddPanel(),
+        ElementsAre("NewName = Mine", "NewCar = Ondo T", "NewPower = 104.5", "NewPowerRPM = 6017", "NewTorque = 186.4",
+                    "NewTorqueRPM = 4531", "NewIdleRPM = 1000", "NewDrivetrain = Rear Wheel Drive", "NewGears = 5",
+                    "NewMass = 1244", "NewUnsprungMass = 60", "NewDist = 50.5", "NewCx = 0.38", "NewFTyreWidth = 185",
+                    "NewFTyreProfile = 55", "NewFWheelSize = 16", "NewRTyreWidth = 220", "NewRTyreProfile = 50",
+                    "NewRWheelSize = 16", "NewFTrack = 1.56", "NewRTrack = 1.55", "NewWheelbase = 2.453",
+                    "NewDrivetrainEff = 82", "NewFrontalArea = 1.84"));
+}
+
+struct TyreCase {
+    const char* baseCar;
+    bool frontTyped, rearShown, rearTyped;
+    const char* frontCaption;
+};
+
+class BaseCarTyres : public testing::TestWithParam<TyreCase>, protected PresetWindow {};
+
+// Each car is chosen behind one with the opposite rules, by hand and by a file.
+TEST_P(BaseCarTyres, Allow) {
+    const TyreCase& row = GetParam();
+    const PresetPanel& panel = CustomPresets.New;
+    for (const bool byFile : {false, true}) {
+        CustomPresets.NewCar.SetText(row.frontTyped ? "Corvane" : "Pell S");
+        presets.LoadingPreset = byFile;
+        CustomPresets.NewCar.SetText(row.baseCar);
+        for (const TextBox* box : {&panel.FTyreWidth, &panel.FTyreProfile, &panel.FWheelSize}) {
+            EXPECT_EQ(box->Enabled(), row.frontTyped) << box->Name();
+        }
+        for (const TextBox* box : {&panel.RTyreWidth, &panel.RTyreProfile, &panel.RWheelSize}) {
+            EXPECT_EQ(box->Visible(), row.rearShown) << box->Name();
+            if (row.rearShown) {
+                EXPECT_EQ(box->Enabled(), row.rearTyped) << box->Name();
+            }
+        }
+        EXPECT_EQ(CustomPresets.CUPLabel[13].Caption(), row.frontCaption);
+        EXPECT_EQ(CustomPresets.CUPLabel[15].Visible(), row.rearShown);
+        EXPECT_EQ(panel.Power.Text() == "269", byFile && row.frontTyped)
+            << "the figures of Corvane stand behind a file";
+        presets.LoadingPreset = false;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(ByName, BaseCarTyres,
+                         testing::Values(TyreCase{"Pell S", true, false, true, "Wheel/Tyre Size:"},
+                                         TyreCase{"Ondo T", true, true, true, "Front Wheel/Tyre Size:"},
+                                         TyreCase{"Ondo T Boost", true, true, true, "Front Wheel/Tyre Size:"},
+                                         TyreCase{"Pell R", false, true, false, "Front Wheel/Tyre Size:"},
+                                         TyreCase{"Ondo R", false, true, false, "Front Wheel/Tyre Size:"}));
+
+/// A check, and the least that gets past it; on a panel where all is wrong they come up in their order.
+struct CheckStep {
+    const char* message;
+    void (*repair)(PresetPanel&);
+    bool onlyWhenAdding = false;
+};
+
+/// Behind a file: a base car without its figures.
+void PickCarWithoutFigures(PresetPanel&) {
+    presets.LoadingPreset = true;
+    CustomPresets.NewCar.SetText("Corvane");
+    presets.LoadingPreset = false;
+}
+
+const CheckStep kCheckSteps[] = {
+    {"You cannot give your preset a name that has already been used.",
+     [](PresetPanel&) { CustomPresets.NewName.SetText(""); }, true},
+    {"You can only add up to 10 custom presets.", [](PresetPanel&) { vehicle.PresetsUsed = 1; }, true},
+    {"You must enter a name for your preset.", [](PresetPanel&) { CustomPresets.NewName.Enter("Mine"); }, true},
+    {"You must select a car for the preset to be based upon.", PickCarWithoutFigures, true},
+    {"You did not enter a valid power figure. It must be at least 1kW.", [](PresetPanel& p) { p.Power.Enter("1"); }},
+    {"You did not enter a valid engine speed for peak power. It must be at least 100rpm.",
+     [](PresetPanel& p) { p.PowerRPM.Enter("100"); }},
+    {"You did not enter a valid torque figure. It must be at least 1Nm.", [](PresetPanel& p) { p.Torque.Enter("1"); }},
+    {"You did not enter a valid engine speed for peak torque. It must be at least 100rpm.",
+     [](PresetPanel& p) { p.TorqueRPM.Enter("100"); }},
+    {"The engine idle speed must be at least 100rpm.", [](PresetPanel& p) { p.IdleRPM.Enter("100"); }},
+    {"The engine idle speed cannot be more than one third of the engine speed for peak power.",
+     [](PresetPanel& p) { p.PowerRPM.Enter("300"); }},
+    {"You must select a drivetrain.", [](PresetPanel& p) { p.Drivetrain.SetText("Front Wheel Drive"); }, true},
+    {"You must select the number of gears.", [](PresetPanel& p) { p.Gears.SetText("2"); }, true},
+    {"You did not enter a valid mass. It must be at least 1kg.", [](PresetPanel& p) { p.Mass.Enter("1"); }},
+    {"You did not enter a valid unsprung mass. It must be at least 1kg.",
+     [](PresetPanel& p) { p.UnsprungMass.Enter("1"); }},
+    {"You did not enter a valid weight distribution. It must be at least 5%.",
+     [](PresetPanel& p) { p.Dist.Enter("95.1"); }},
+    {"You did not enter a valid weight distribution. It must be not be more than 95%",
+     [](PresetPanel& p) { p.Dist.Enter("95"); }},
+    {"You did not enter a coefficient of drag. It must be positive.", [](PresetPanel& p) { p.Cx.Enter("0.001"); }},
+    {"You did not enter a valid front tyre width. It must be at least 1mm.",
+     [](PresetPanel& p) { p.FTyreWidth.Enter("1"); }},
+    {"You did not enter a valid front tyre profile. It must be at least 1%.",
+     [](PresetPanel& p) { p.FTyreProfile.Enter("1"); }},
+    {"You did not enter a valid front rim size. It must be at least 1 inch.",
+     [](PresetPanel& p) { p.FWheelSize.Enter("1"); }},
+    {"You did not enter a valid rear tyre width. It must be at least 1mm.",
+     [](PresetPanel& p) { p.RTyreWidth.Enter("1"); }},
+    {"You did not enter a valid rear tyre profile. It must be at least 1%.",
+     [](PresetPanel& p) { p.RTyreProfile.Enter("1"); }},
+    {"You did not enter a valid rear rim size. It must be at least 1 inch.",
+     [](PresetPanel& p) { p.RWheelSize.Enter("1"); }},
+    {"You did not enter a valid front track width. It must be at least 0.5m.",
+     [](PresetPanel& p) { p.FTrack.Enter("0.5"); }},
+    {"You did not enter a valid rear track width. It must be at least 0.5m.",
+     [](PresetPanel& p) { p.RTrack.Enter("0.5"); }},
+    {"You did not enter a valid wheelbase. It must be at least 0.5m.",
+     [](PresetPanel& p) { p.Wheelbase.Enter("0.5"); }},
+};
+
+TEST_F(CustomPresetsTest, AddingChecksInOrderAndStoresNothingBefore) {
+    vehicle.PresetsUsed = 10;
+    vehicle.CustomName.fill("Another");
+    CustomPresets.NewName.Enter("Pell S");
+    for (const CheckStep& step : kCheckSteps) {
+        AddPreset();
+        ASSERT_EQ(TakeMessage(), step.message);
+        step.repair(CustomPresets.New);
+    }
+    EXPECT_TRUE(CustomPresets.EditName.Rows().empty());
+    AddPreset();
+    EXPECT_EQ(TakeMessage(), kAdded);
+    EXPECT_EQ(CustomPresets.PresetsUsed.Caption(), "2 / 10");
+}
+
+TEST_F(CustomPresetsTest, UpdatingChecksFiguresInOrderAndStoresNothingBefore) {
+    Add("Mine", "Corvane");
+    CustomPresets.EditName.SetText("Mine");
+    const auto stored = vehicle.CustomData;
+    for (Field* field : CustomPresets.Fields()) {
+        if (field->Kind() == FieldKind::TextBox && field->Name().starts_with("Edit")) field->Reset();
+    }
+    for (const CheckStep& step : kCheckSteps) {
+        if (step.onlyWhenAdding) continue;
+        UpdatePreset();
+        ASSERT_EQ(TakeMessage(), step.message);
+        step.repair(CustomPresets.Edit);
+    }
+    EXPECT_EQ(vehicle.CustomData, stored);
+    UpdatePreset();
+    EXPECT_EQ(TakeMessage(), "Updated custom preset: Mine");
+    EXPECT_NE(vehicle.CustomData, stored);
+}
+
+struct LimitCase {
+    const char* name;
+    TextBox PresetPanel::*box;
+    const char* text;
+    const char* message;
+};
+
+class PresetLimit : public testing::TestWithParam<LimitCase>, protected PresetWindow {};
+
+// On a panel filled with Corvane, whose peak power comes at 7588 rpm: a third is 2529.3.
+TEST_P(PresetLimit, Holds) {
+    CustomPresets.NewName.Enter("Mine");
+    CustomPresets.NewCar.SetText("Corvane");
+    (CustomPresets.New.*GetParam().box).Enter(GetParam().text);
+    AddPreset();
+    EXPECT_EQ(TakeMessage(), GetParam().message);
+}
+
+constexpr const char* kDistTooLow = "You did not enter a valid weight distribution. It must be at least 5%.";
+constexpr const char* kBadDrag = "You did not enter a coefficient of drag. It must be positive.";
+constexpr const char* kIdleTooHigh =
+    "The engine idle speed cannot be more than one third of the engine speed for peak power.";
+
+INSTANTIATE_TEST_SUITE_P(OfAFigure, PresetLimit,
+                         testing::Values(LimitCase{"FivePerCentPasses", &PresetPanel::Dist, "5", kAdded},
+                                         LimitCase{"UnderFivePerCentFails", &PresetPanel::Dist, "4.9", kDistTooLow},
+                                         LimitCase{"DragMayBeTiny", &PresetPanel::Cx, "1e-9", kAdded},
+                                         LimitCase{"DragBelowZeroFails", &PresetPanel::Cx, "-.1", kBadDrag},
+                                         LimitCase{"CommaEndsTheNumber", &PresetPanel::Cx, "0,35", kBadDrag},
+                                         LimitCase{"ThirdIsNotRounded", &PresetPanel::IdleRPM, "2529", kAdded},
+                                         LimitCase{"IdleOverAThirdFails", &PresetPanel::IdleRPM, "2530", kIdleTooHigh},
+                                         LimitCase{"PowerIsRoundedHalfToEven", &PresetPanel::Power, "0.5",
+                                                   "You did not enter a valid power figure. It must be at least 1kW."},
+                                         LimitCase{"PowerIsRoundedFirst", &PresetPanel::Power, "0.51", kAdded},
+                                         LimitCase{"WholeNumbersSaturate", &PresetPanel::PowerRPM, "1e99", kAdded},
+                                         LimitCase{
+                                             "ProfileUnderOnePerCentFails", &PresetPanel::FTyreProfile, ".99",
+                                             "You did not enter a valid front tyre profile. It must be at least 1%."}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+// Behind Ondo T by hand: 104.5 and 186.4 rounded half to even, the rest as the catalogue has it.
+TEST_F(CustomPresetsTest, AddingStoresWholeNumbersAndTheHiddenFiguresOfTheBaseCar) {
+    Add("Mine", "Ondo T");
+    const CarFigures expected{104,   6017, 186,   4531, 1000, 1,   5,     1244,   0.505F, 0.38F, 185,
+                              0.55F, 16,   1.56F, 220,  0.5F, 16,  1.55F, 2.453F, 60,     0.82F, 3.6F,
+                              1.84F, 0,    122,   364,  112,  334, 0,     0,      0};
+    EXPECT_THAT(vehicle.FiguresOfPreset(0), ElementsAreArray(expected));
+    EXPECT_EQ(vehicle.CustomName[0], "Mine");
+    EXPECT_EQ(CustomPresets.PresetsUsed.Caption(), "1 / 10");
+    EXPECT_THAT(CustomPresets.EditName.Rows(), ElementsAre("Mine"));
+    EXPECT_THAT(Zolv.Select_Car.Rows(), ElementsAre("Mine"));
+    EXPECT_EQ(vehicle.CurrentCar.Power, 0) << "the car in use stays";
+
+    Add("Winged", "Series Lo");
+    const CarFigures second = vehicle.FiguresOfPreset(1);
+    EXPECT_THAT(std::vector<float>(second.begin() + 21, second.end()),
+                ElementsAre(4, 1.6F, 0, 71, 213, 58, 176, 2, 2, 2));
+    EXPECT_THAT(vehicle.FiguresOfPreset(0), ElementsAreArray(expected)) << "the first stays as it is";
+}
+
+TEST_F(CustomPresetsTest, PellSTakesItsRearTyreFromTheFront) {
+    CustomPresets.NewName.Enter("Mine");
+    CustomPresets.NewCar.SetText("Pell S");
+    PresetPanel& panel = CustomPresets.New;
+    panel.FTyreWidth.Enter("195");
+    panel.FTyreProfile.Enter("45");
+    panel.FWheelSize.Enter("17");
+    for (TextBox* box : {&panel.RTyreWidth, &panel.RTyreProfile, &panel.RWheelSize}) box->SetText("0");
+    AddPreset();
+    EXPECT_EQ(TakeMessage(), kAdded);
+    const CarFigures stored = vehicle.FiguresOfPreset(0);
+    EXPECT_THAT(std::vector<float>(stored.begin() + 14, stored.begin() + 17), ElementsAre(195, 0.45F, 17));
+}
+
+TEST_F(CustomPresetsTest, NamesOfAnyScriptStandUntrimmed) {
+    const std::string name = " \u8D5B\u8F66 \u0413\u043E\u043D\u043A\u0430 caf\u00E9 1234567890 abcde\u00DF";
+    Add(name, "Corvane");  // 32 characters: the box takes them all
+    EXPECT_EQ(vehicle.CustomName[0], name);
+
+    CustomPresets.NewName.Enter(name.substr(1));
+    AddPreset();
+    EXPECT_EQ(TakeMessage(), "Added custom preset: " + name.substr(1)) << "a name with a blank in front is another";
+    CustomPresets.NewName.Enter(name);
+    AddPreset();
+    EXPECT_EQ(TakeMessage(), "You cannot give your preset a name that has already been used.");
+}
+
+TEST_F(CustomPresetsTest, DrivetrainIsTakenByTheWordsInForce) {
+    CustomPresets.NewName.Enter("Mine");
+    CustomPresets.NewCar.SetText("Corvane");
+    texts.TextRWD = "Heckantrieb";  // a language was loaded behind the list
+    AddPreset();
+    EXPECT_EQ(TakeMessage(), "You must select a drivetrain.");
+}
+
+TEST_F(CustomPresetsTest, EditingShowsAndStoresWhatThePanelHas) {
+    Add("First", "Series Lo");
+    Add("Mine", "Sable T");
+    CarFigures expected = vehicle.FiguresOfPreset(1);
+    CustomPresets.EditName.SetText("Mine");
+    PresetPanel& panel = CustomPresets.Edit;
+    EXPECT_EQ(panel.Power.Text(), "181");
+    EXPECT_EQ(panel.Dist.Text(), "54.3");
+    EXPECT_EQ(panel.RTyreProfile.Text(), "40");
+    EXPECT_EQ(panel.UnsprungMass.Text(), "61");
+    EXPECT_EQ(panel.Drivetrain.Text(), "All Wheel Drive");
+    EXPECT_EQ(panel.Gears.Text(), "5");
+
+    panel.Power.Enter("250.5");
+    panel.Gears.SetText("6");
+    panel.Drivetrain.SetText("Front Wheel Drive");
+    panel.RTyreWidth.Enter("2e2");
+    panel.UnsprungMass.Enter("70");
+    UpdatePreset();
+    EXPECT_EQ(TakeMessage(), "Updated custom preset: Mine");
+    expected[0] = 250;
+    expected[5] = 0;
+    expected[6] = 6;
+    expected[14] = 200;
+    expected[19] = 70;
+    EXPECT_THAT(vehicle.FiguresOfPreset(1), ElementsAreArray(expected));
+    EXPECT_EQ(vehicle.FiguresOfPreset(0)[0], 335) << "the other preset stays";
+    EXPECT_EQ(CustomPresets.PresetsUsed.Caption(), "2 / 10");
+}
+
+TEST_F(CustomPresetsTest, UpdatingNeedsAPreset) {
+    Add("Mine", "Corvane");
+    const auto stored = vehicle.CustomData;
+    UpdatePreset();
+    EXPECT_NE(TakeMessage(), "");
+    EXPECT_EQ(vehicle.CustomData, stored);
+}
+
+TEST_F(CustomPresetsTest, ThereIsRoomForTen) {
+    for (const char digit : std::string("0123456789")) Add(std::string("Mine ") + digit, "Gnat 5");
+    for (const auto& [name, message] :
+         {std::pair("Eleven", "You can only add up to 10 custom presets."),
+          std::pair("Mine 9", "You cannot give your preset a name that has already been used.")}) {
+        CustomPresets.NewName.Enter(name);
+        AddPreset();
+        EXPECT_EQ(TakeMessage(), message);
+    }
+    EXPECT_EQ(CustomPresets.EditName.Rows().size(), 10U);
+}
+
+}  // namespace
+}  // namespace zolv

@@ -1,0 +1,184 @@
+#include "support/zolv_test.h"
+
+#include <cctype>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include "language/number_text.h"
+#include "language/texts.h"
+#include "platform/text_files.h"
+#include "shell/fresh_start.h"
+#include "shell/start_up.h"
+
+namespace zolv {
+namespace {
+
+Field* OnlyFieldNamed(std::string_view name) {
+    const std::vector<Field*> found = FindFields(name);
+    EXPECT_EQ(found.size(), 1U) << "fields named " << name;
+    return found.size() == 1 ? found.front() : nullptr;
+}
+
+std::string TextOf(const Field& field) {
+    switch (field.Kind()) {
+        case FieldKind::TextBox: return static_cast<const TextBox&>(field).Text();
+        case FieldKind::Slider: return NumberText(static_cast<const Slider&>(field).Value());
+        case FieldKind::PickList:
+        case FieldKind::TabStrip: return static_cast<const PickList&>(field).Text();
+        case FieldKind::CheckBox: return static_cast<const CheckBox&>(field).Checked() ? "on" : "off";
+        case FieldKind::OptionButton: return static_cast<const OptionButton&>(field).Checked() ? "on" : "off";
+        case FieldKind::Picture: return static_cast<const Picture&>(field).Path();
+        default: return field.Caption();
+    }
+}
+
+/// What a field holds beside its text.
+std::string StateOf(const Field& field) {
+    std::string state = field.Visible() ? "" : " hidden";
+    if (!field.Enabled()) state += " disabled";
+    if (field.Locked()) state += " locked";
+    if (const auto& colour = field.Colour(); colour.has_value()) {
+        for (const int part : {colour->red, colour->green, colour->blue}) state += ' ' + std::to_string(part);
+    }
+    if (!field.ToolTip().empty()) state += " (" + field.ToolTip() + ')';
+    if (field.Kind() == FieldKind::Slider) {
+        const auto& slider = static_cast<const Slider&>(field);
+        state += " of " + std::to_string(slider.Min()) + " to " + std::to_string(slider.Max());
+    } else if (field.Kind() == FieldKind::PickList) {
+        for (const std::string& row : static_cast<const PickList&>(field).Rows()) state += '|' + row;
+    }
+    return state;
+}
+
+std::string TextOf(const Canvas& drawing) {
+    std::string text;
+    for (const DrawingOperation& operation : drawing.Operations()) {
+        text += '\n';
+        for (const double number : {operation.x1, operation.y1, operation.x2, operation.y2}) {
+            text += std::to_string(number) + ' ';
+        }
+        if (operation.kind == DrawingOperation::Kind::Text) text += drawing.TextOf(operation);
+    }
+    return text;
+}
+
+/// Whether one of the words of a text is a number that is none. "Info" is a word of its own.
+bool SaysNotANumber(const std::string& text) {
+    std::string word;
+    for (const char c : text + ' ') {
+        if (std::isalpha(static_cast<unsigned char>(c)) != 0) {
+            word += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+            continue;
+        }
+        if (word == "nan" || word == "inf" || word == "infinity" || word == "ind") return true;
+        word.clear();
+    }
+    return false;
+}
+
+}  // namespace
+
+std::string RecordingDialogs::AskForFile(const FileRequest& request) {
+    requests.push_back(request);
+    if (answers.empty()) return request.presetName;
+    std::string answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+TemporaryFolder::TemporaryFolder() : before_(std::filesystem::current_path()) {
+    std::string name = (std::filesystem::temp_directory_path() / "zolv-test-XXXXXX").string();
+    if (::mkdtemp(name.data()) == nullptr) std::abort();
+    path_ = std::filesystem::canonical(name);
+    std::filesystem::current_path(path_);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::current_path(before_, ignored);
+    std::filesystem::remove_all(path_, ignored);
+}
+
+ZolvTest::ZolvTest() {
+    UseDialogs(&dialogs_);
+    FreshStart();
+    WriteContent("unknown.jpg", "a picture");
+}
+
+ZolvTest::~ZolvTest() { UseDialogs(nullptr); }
+
+void ZolvTest::TearDown() {
+    for (const std::string& message : dialogs_.messages) ADD_FAILURE() << "A message that nobody expected: " << message;
+    for (const std::string& answer : dialogs_.answers) ADD_FAILURE() << "No dialog took the answer " << answer;
+}
+
+void ZolvTest::Start() {
+    LoadZolv();
+    if (FileExists("Options.ini") == 0) ExpectMessage(texts.TextOptionsMissing);
+    if (FileExists("languages.lst") == 0) ExpectMessage(testing::HasSubstr("language list does not exist"));
+}
+
+std::string ZolvTest::TakeMessage() {
+    if (dialogs_.messages.empty()) {
+        ADD_FAILURE() << "No message came";
+        return {};
+    }
+    std::string message = dialogs_.messages.front();
+    dialogs_.messages.pop_front();
+    return message;
+}
+
+std::string Shown(std::string_view name) {
+    const Field* field = OnlyFieldNamed(name);
+    return field != nullptr ? TextOf(*field) : std::string();
+}
+
+void Set(std::string_view name, std::string_view value) {
+    Field* field = OnlyFieldNamed(name);
+    if (field == nullptr) return;
+    switch (field->Kind()) {
+        case FieldKind::TextBox: static_cast<TextBox*>(field)->Enter(value); break;
+        case FieldKind::Slider: static_cast<Slider*>(field)->Drag(ToInt32(Val(value))); break;
+        case FieldKind::PickList:
+        case FieldKind::TabStrip: {
+            auto& list = static_cast<PickList&>(*field);
+            EXPECT_GE(list.Find(value), 0) << name << " has no row " << value;
+            list.SetText(value);
+            break;
+        }
+        case FieldKind::CheckBox: static_cast<CheckBox*>(field)->SetChecked(value == "on"); break;
+        case FieldKind::OptionButton: static_cast<OptionButton*>(field)->Choose(); break;
+        default: ADD_FAILURE() << name << " takes no " << value;
+    }
+}
+
+std::vector<std::string> EverythingShown() {
+    std::vector<std::string> shown;
+    for (const Window* window : AllWindows()) {
+        for (const Field* field : window->Fields()) {
+            std::string text = window->Name() + '.' + field->Name() + " = " + TextOf(*field) + StateOf(*field);
+            if (field->Kind() == FieldKind::Canvas) text += TextOf(static_cast<const CanvasField&>(*field).Drawing());
+            shown.push_back(std::move(text));
+        }
+    }
+    return shown;
+}
+
+void ExpectOnlyNumbers() {
+    for (const std::string& text : EverythingShown()) EXPECT_FALSE(SaysNotANumber(text)) << text;
+}
+
+std::string ContentOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file.is_open()) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void WriteContent(const std::string& path, std::string_view content) {
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+    EXPECT_TRUE(file.good()) << path;
+}
+
+}  // namespace zolv

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "fields/windows.h"
+#include "platform/dialogs.h"
+
+/// What the tests of the whole program share: a program that stands fresh in a folder of its own, with dialogs that
+/// record what they are asked.
+namespace zolv {
+
+/// Dialogs that keep every message and request, and answer file dialogs from a queue.
+class RecordingDialogs : public Dialogs {
+public:
+    void Message(const std::string& text) override { messages.push_back(text); }
+    std::string AskForFile(const FileRequest& request) override;
+
+    std::deque<std::string> messages;   // not looked at yet
+    std::deque<std::string> answers;    // of the next file dialogs; without one a dialog counts as cancelled
+    std::vector<FileRequest> requests;  // of all file dialogs
+};
+
+/// A folder of its own under the system's one for temporary files, as the current directory while it lives.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder();
+
+    const std::filesystem::path& Path() const { return path_; }
+
+private:
+    std::filesystem::path before_;
+    std::filesystem::path path_;
+};
+
+/// Each test begins with a fresh start. A message that it did not expect, or an answer that no dialog took, fails it.
+class ZolvTest : public testing::Test {
+protected:
+    ZolvTest();
+    ~ZolvTest() override;
+    void TearDown() override;
+
+    /// The load of the program in the test's folder. What the folder lacks is said in messages at every such start;
+    /// those count as expected. The folder has the picture of an unknown car, so that no choice of car gives one.
+    void Start();
+
+    /// The oldest message that has not been looked at yet. Without one the test fails.
+    std::string TakeMessage();
+    void ExpectMessage(const testing::Matcher<std::string>& text) { EXPECT_THAT(TakeMessage(), text); }
+
+    /// The next file dialog is answered so.
+    void Answer(const std::string& path) { dialogs_.answers.push_back(path); }
+    const std::vector<FileRequest>& Requests() const { return dialogs_.requests; }
+
+    /// A path in the test's folder.
+    std::string InFolder(const std::string& name) const { return (folder_.Path() / name).string(); }
+
+private:
+    TemporaryFolder folder_;
+    RecordingDialogs dialogs_;
+};
+
+/// What the field of that name shows: the text of a box or of the picked row, the number of a slider, "on" or "off",
+/// the caption of anything else. The test fails if there is no such field.
+std::string Shown(std::string_view name);
+
+/// What a user does at the field of that name, with the text as he would read it. The test fails if there is no such
+/// field, or nothing that takes it.
+void Set(std::string_view name, std::string_view value);
+
+/// What every field of every window says and how it looks, with the numbers of all drawings: "Zolv.RPM1 = 7084 rpm".
+std::vector<std::string> EverythingShown();
+
+/// No field says nan or inf in any form, and no drawing has a coordinate that is not finite.
+void ExpectOnlyNumbers();
+
+/// A file's whole content; the test fails if it cannot be read.
+std::string ContentOf(const std::string& path);
+void WriteContent(const std::string& path, std::string_view content);
+
+}  // namespace zolv

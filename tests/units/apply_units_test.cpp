@@ -1,0 +1,193 @@
+#include "units/apply_units.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "fields/guards.h"
+#include "fields/windows.h"
+#include "support/zolv_test.h"
+#include "units/option_state.h"
+#include "units/options_panel.h"
+#include "units/unit_catalogue.h"
+#include "units/unit_state.h"
+
+namespace zolv {
+namespace {
+
+enum SpeedUnit { kMs, kKmh, kMph, kKn, kFps };
+
+std::vector<std::string> SpeedBoxes() {
+    std::vector<std::string> boxes;
+    for (const TextBox& box : Zolv.Speeds.Input) boxes.push_back(box.Text());
+    return boxes;
+}
+
+void PickSpeed(SpeedUnit unit) { OptionsPanel.Units[0].Select.Pick(unit); }
+
+class ApplyUnits : public ZolvTest {
+protected:
+    void SetUp() override { Start(); }
+};
+
+TEST_F(ApplyUnits, EveryRowOfEveryQuantityIsTakenAndFollowedOnce) {
+    for (std::size_t i = 0; i < kQuantities; ++i) {
+        const QuantityUnits& quantity = UnitCatalogue()[i];
+        Quantity& state = units.*quantity.state;
+        UnitChoice& choice = OptionsPanel.Units[i];
+        int followed = 0;
+        state.Picked = [&] { ++followed; };
+        ASSERT_EQ(choice.Select.Rows().size(), quantity.rows.size());
+        for (int row = static_cast<int>(quantity.rows.size()) - 1; row >= 0; --row) {
+            choice.Select.Pick(row);
+            const UnitRow& unit = quantity.rows[static_cast<std::size_t>(row)];
+            EXPECT_EQ(state.Unit, row) << choice.Select.Name();
+            EXPECT_EQ(state.Suffix, unit.suffix);
+            EXPECT_EQ(choice.Caption.Caption(), unit.caption);
+        }
+        EXPECT_EQ(followed, static_cast<int>(quantity.rows.size())) << choice.Select.Name();
+    }
+}
+
+TEST_F(ApplyUnits, NothingIsTakenDuringTheLoad) {
+    guards.Loading = true;
+    OptionsPanel.Units[1].Select.Pick(3);
+    options.RedlineOn = true;
+    ApplyOptions();
+    EXPECT_EQ(units.Distance.Unit, 0);
+    EXPECT_EQ(OptionsPanel.Units[1].Caption.Caption(), "m");
+    EXPECT_FALSE(OptionsPanel.EnableRedline.Checked());
+}
+
+// By hand: 16 m/s are 57.6 km/h, whose slider makes 58 of it; 115 km/h are 71.46 mph, of
+// which the box takes 71.5 and the slider 72.
+TEST_F(ApplyUnits, SpeedBoxesAreConvertedAndTakeTheWholeNumbersOfTheirSliders) {
+    PickSpeed(kKmh);
+    EXPECT_EQ(SpeedBoxes(), (std::vector<std::string>{"58", "83", "115", "140", "180", "216"}));
+    EXPECT_EQ(Zolv.Label_SPD[6].Caption(), " km/h");
+    EXPECT_EQ(OptionsPanel.SpeedPlotX.Units.Caption(), " km/h");
+    PickSpeed(kMph);
+    EXPECT_EQ(SpeedBoxes(), (std::vector<std::string>{"36", "52", "72", "87", "112", "134"}));
+    PickSpeed(kMph);
+    EXPECT_EQ(SpeedBoxes(), (std::vector<std::string>{"36", "52", "72", "87", "112", "134"}));
+}
+
+// 1 mph is 0.868976 kn: the slider stays at 1, so that the box keeps its decimal.
+TEST_F(ApplyUnits, ABoxWhoseSliderStaysKeepsItsDecimal) {
+    PickSpeed(kMph);
+    Zolv.Speeds.Input[1].Enter("1");
+    PickSpeed(kKn);
+    EXPECT_EQ(Zolv.Speeds.Input[1].Text(), "0.9");
+}
+
+/// The fastest gear at the end of the old unit's range, picked in the list or put in force by an options file.
+struct RangeCase {
+    const char* name;
+    SpeedUnit from;
+    const char* top;
+    SpeedUnit to;
+    bool fromFile;
+    const char* whileFollowed;  // the box while the refresh steps run
+    const char* after;
+};
+
+class SpeedRange : public ApplyUnits, public testing::WithParamInterface<RangeCase> {};
+
+TEST_P(SpeedRange, IsWidenedBeforeTheConversionAndNarrowedAfterTheRefresh) {
+    const RangeCase& row = GetParam();
+    PickSpeed(row.from);
+    Zolv.Speeds.Input[6].Enter(row.top);
+    std::string seen;
+    bool busy = true;
+    units.Speed.Picked = [&] {
+        seen = Zolv.Speeds.Input[6].Text();
+        busy = guards.Busy;
+    };
+    if (row.fromFile) {
+        units.Speed.Unit = row.to;
+        ApplyOptions();
+    } else {
+        PickSpeed(row.to);
+    }
+    EXPECT_EQ(seen, row.whileFollowed);
+    EXPECT_FALSE(busy);
+    EXPECT_EQ(Zolv.Speeds.Input[6].Text(), row.after);
+    EXPECT_EQ(Zolv.Speeds.InputSlider[6].Max(), SpeedSliderMaximum(row.to));
+}
+
+// By hand: 720 km/h are 656.17 ft/s, and 388.77 kn, which the slider's whole number takes beyond the knots' range.
+INSTANTIATE_TEST_SUITE_P(ByHand, SpeedRange,
+                         testing::Values(RangeCase{"KmhToFps", kKmh, "720", kFps, false, "656", "656"},
+                                         RangeCase{"KmhToKn", kKmh, "720", kKn, false, "389", "388"},
+                                         RangeCase{"MsToKn", kMs, "200", kKn, false, "388", "388"},
+                                         RangeCase{"MsToMph", kMs, "200", kMph, false, "447", "447"},
+                                         RangeCase{"FpsToKmh", kFps, "656", kKmh, false, "720", "720"},
+                                         RangeCase{"MphToFps", kMph, "447", kFps, false, "656", "656"},
+                                         RangeCase{"FileFromKmhToFps", kKmh, "720", kFps, true, "656", "656"},
+                                         RangeCase{"FileFromKmhToMph", kKmh, "720", kMph, true, "720", "447"},
+                                         RangeCase{"FileFromMsToKmh", kMs, "60", kKmh, true, "60", "60"}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(ApplyUnits, ANewLanguageKeepsTheUnitUnderItsNewName) {
+    OptionsPanel.Units[4].Select.Pick(2);
+    units.Mass.UnitNames = {"Kilogramm", "Tonnen", "Pfund", "Slug", "Short Tons", "Long Tons", ""};
+    RebuildUnitList(4);
+    EXPECT_EQ(OptionsPanel.Units[4].Select.Rows().size(), 6U);
+    EXPECT_EQ(OptionsPanel.Units[4].Select.Text(), "Pfund");
+    EXPECT_EQ(units.Mass.Unit, 2);
+}
+
+/// An option with a control that is only ever moved away from its state at start.
+struct OneWayCase {
+    const char* name;
+    OptionFlag flag;
+    bool atStart;
+    bool (*moved)();
+};
+
+class OneWay : public ApplyUnits, public testing::WithParamInterface<OneWayCase> {
+protected:
+    static void Apply(bool on) {
+        std::visit([&](auto member) { options.*member = on; }, GetParam().flag);
+        ApplyOptions();
+    }
+    static bool On() {
+        return std::visit([](auto member) { return options.*member == true; }, GetParam().flag);
+    }
+};
+
+TEST_P(OneWay, TheControlIsMovedButNotBack) {
+    const OneWayCase& row = GetParam();
+    ApplyOptions();
+    EXPECT_FALSE(row.moved());
+    Apply(!row.atStart);
+    EXPECT_TRUE(row.moved());
+    EXPECT_EQ(On(), !row.atStart);
+    Apply(row.atStart);
+    EXPECT_TRUE(row.moved());
+    EXPECT_EQ(On(), row.atStart);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Options, OneWay,
+    testing::Values(
+        OneWayCase{"PowerLine", &OptionState::PowerLineOn, true,
+                   [] { return !OptionsPanel.EnablePowerLine.Checked(); }},
+        OneWayCase{"TorqueLine", &OptionState::TorqueLineOn, false,
+                   [] { return OptionsPanel.EnableTorqueLine.Checked(); }},
+        OneWayCase{"Redline", &OptionState::RedlineOn, false, [] { return OptionsPanel.EnableRedline.Checked(); }},
+        OneWayCase{"AltGraph", &OptionState::AltGraphStyle, false,
+                   [] { return OptionsPanel.EnableAltGraph.Checked(); }},
+        OneWayCase{"EngineTorque", &OptionState::EngineTorqueOn, false,
+                   [] { return OptionsPanel.EnableEngineTorque.Checked(); }},
+        OneWayCase{"VLoads", &OptionState::VLoadsOn, false, [] { return OptionsPanel.EnableVLoads.Checked(); }},
+        OneWayCase{"RevsMax", &OptionState::RevsMaxMode, false, [] { return OptionsPanel.RevsP.Checked(); }},
+        OneWayCase{"RevLimit", &OptionState::RevLimitOn, false, [] { return OptionsPanel.RevLimitEnable.Checked(); }},
+        OneWayCase{"AutoRevs", &OptionState::AutoRevs, true, [] { return OptionsPanel.RC_Fixed.Checked(); }},
+        OneWayCase{"Acceleration", &OptionState::AccelerationOn, true,
+                   [] { return !OptionsPanel.AccelerationTestingEnable.Checked(); }}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace zolv

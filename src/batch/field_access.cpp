@@ -21,6 +21,9 @@ std::string FullName(const Field& field) {
     return field.Kind() == FieldKind::Window ? field.Name() : field.Owner().Name() + '.' + field.Name();
 }
 
+/// A value in a message, so that its blanks can be seen.
+std::string Quoted(std::string_view value) { return '"' + std::string(value) + '"'; }
+
 void ExpectUsable(const Field& field) {
     if (!field.Enabled()) throw ScriptError(field.Name() + " is disabled");
     if (field.Locked()) throw ScriptError(field.Name() + " is locked");
@@ -28,31 +31,38 @@ void ExpectUsable(const Field& field) {
 
 /// Whether the whole text is one number, so that a mistyped one is told and not taken for 0.
 bool IsNumber(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return false;
-    text.remove_prefix(first);
-    text = text.substr(0, text.find_last_not_of(" \t") + 1);
-    if (text.front() == '+' || text.front() == '-') text.remove_prefix(1);
-    const bool digits = std::any_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-    return digits && text.find_first_not_of("0123456789.") == std::string_view::npos &&
-           std::count(text.begin(), text.end(), '.') <= 1;
+    const auto skip = [&](std::string_view characters) {
+        const std::size_t count = std::min(text.find_first_not_of(characters), text.size());
+        text.remove_prefix(count);
+        return count;
+    };
+    constexpr std::string_view kDigits = "0123456789";
+    skip(" \t");
+    if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
+    std::size_t digits = skip(kDigits);
+    if (text.starts_with('.')) {
+        text.remove_prefix(1);
+        digits += skip(kDigits);
+    }
+    skip(" \t");
+    return digits > 0 && text.empty();
 }
 
 void DragSlider(Slider& slider, std::string_view value) {
-    if (!IsNumber(value)) throw ScriptError(slider.Name() + " takes a whole number, not " + std::string(value));
+    if (!IsNumber(value)) throw ScriptError(slider.Name() + " takes a whole number, not " + Quoted(value));
     slider.Drag(ToInt32(Val(value)));
 }
 
 void PickRow(PickList& list, std::string_view text) {
     const int row = list.Find(text);
     if (row >= 0) return list.Pick(row);
-    std::string message = list.Name() + " has no row " + std::string(text);
-    if (!list.Rows().empty()) message += "; did you mean " + NearestName(text, list.Rows()) + '?';
+    std::string message = list.Name() + " has no row " + Quoted(text);
+    if (!list.Rows().empty()) message += "; did you mean " + Quoted(NearestName(text, list.Rows())) + '?';
     throw ScriptError(message);
 }
 
 void Check(CheckBox& box, std::string_view value) {
-    if (value != "on" && value != "off") throw ScriptError(box.Name() + " takes on or off, not " + std::string(value));
+    if (value != "on" && value != "off") throw ScriptError(box.Name() + " takes on or off, not " + Quoted(value));
     box.SetChecked(value == "on");
 }
 

@@ -1,7 +1,9 @@
 // zolv-batch: the whole program behind its named fields, driven by a script in place of a mouse.
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,7 +20,7 @@ constexpr const char* kUsage =
     "usage: zolv-batch [--help | --version] [SCRIPT ...]\n"
     "\n"
     "Runs Tarmaq Zolv without a window, in the current directory. Each SCRIPT, or\n"
-    "standard input without one, holds one command a line:\n"
+    "standard input without one or for -, holds one command a line:\n"
     "\n"
     "  set FIELD VALUE        what a user does at that control\n"
     "  click FIELD            presses a button, an option button or a menu entry\n"
@@ -34,44 +36,31 @@ constexpr const char* kUsage =
     "A line that starts with # is a comment. A line that cannot be used ends the run\n"
     "with status 2.\n";
 
-bool RunScripts(zolv::Script& script, const std::vector<const char*>& names) {
-    if (names.empty()) return script.Run(std::cin, "-");
-    for (const char* name : names) {
-        std::ifstream file(name, std::ios::binary);
-        // A folder opens, too, and fails only when it is read.
-        if (!file || (file.peek() == std::ifstream::traits_type::eof() && !file.eof())) {
-            std::cout.flush();
-            std::cerr << "zolv-batch: " << name << ": cannot be read\n";
-            return false;
-        }
-        file.clear();
-        if (!script.Run(file, name)) return false;
-    }
-    return true;
+constexpr std::string_view kStandardInput = "-";
+
+bool Fail(std::string_view message) {
+    std::cout.flush();
+    std::cerr << "zolv-batch: " << message << '\n';
+    return false;
 }
 
-}  // namespace
+bool RunFile(zolv::Script& script, const std::string& name) {
+    std::ifstream file(name, std::ios::binary);
+    if (!file) return Fail(name + ": cannot be opened");
+    // A folder opens, too, and fails only when it is read; an empty script is a script.
+    if (file.peek() == std::ifstream::traits_type::eof() && !file.eof()) return Fail(name + ": cannot be read");
+    file.clear();
+    return script.Run(file, name);
+}
 
-int main(int argc, char** argv) {
-    std::ios::sync_with_stdio(false);
-    std::vector<const char*> names;
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view argument = argv[i];
-        if (argument == "--help") {
-            std::cout << kUsage;
-            return 0;
-        }
-        if (argument == "--version") {
-            std::cout << "zolv-batch 2.5.3\n";
-            return 0;
-        }
-        if (argument.size() > 1 && argument.front() == '-') {
-            std::cerr << "zolv-batch: unknown option " << argument << "; --help tells the ones there are\n";
-            return kUnusable;
-        }
-        names.push_back(argv[i]);
-    }
+bool RunScripts(zolv::Script& script, const std::vector<std::string>& names) {
+    return std::all_of(names.begin(), names.end(), [&](const std::string& name) {
+        return name == kStandardInput ? script.Run(std::cin, name) : RunFile(script, name);
+    });
+}
 
+/// The whole run, from the load to the shutdown.
+bool RunZolv(const std::vector<std::string>& names) {
     zolv::ScriptDialogs dialogs;
     zolv::UseDialogs(&dialogs);
     zolv::FreshStart();
@@ -80,6 +69,31 @@ int main(int argc, char** argv) {
     const bool usable = RunScripts(script, names);
     if (usable) zolv::ShutDown();
     zolv::UseDialogs(nullptr);
-    std::cout.flush();
-    return usable ? 0 : kUnusable;
+    // On a full disk, or behind a reader that has gone, answers are lost; whoever looks at the status must learn it.
+    return std::cout.flush() ? usable : Fail("standard output cannot be written");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    std::vector<std::string> names;
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument == "--help") {
+            std::cout << kUsage;
+            return 0;
+        }
+        if (argument == "--version") {
+            std::cout << "zolv-batch 2.5.3\n";
+            return 0;
+        }
+        if (argument != kStandardInput && argument.starts_with('-')) {
+            Fail("unknown option " + argument + "; --help tells the ones there are");
+            return kUnusable;
+        }
+        names.push_back(argument);
+    }
+    if (names.empty()) names.emplace_back(kStandardInput);
+    return RunZolv(names) ? 0 : kUnusable;
 }

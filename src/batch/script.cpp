@@ -19,16 +19,18 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
+constexpr std::string_view kBlanks = " \t";
+
 /// Takes the next word of a line and the one blank behind it; what is left is the rest as it stands.
 std::string_view TakeWord(std::string_view& line) {
-    line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-    const std::string_view word = line.substr(0, line.find(' '));
+    line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
+    const std::string_view word = line.substr(0, line.find_first_of(kBlanks));
     line.remove_prefix(word.size());
     if (!line.empty()) line.remove_prefix(1);
     return word;
 }
 
-bool IsBlank(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
+bool IsBlank(std::string_view text) { return text.find_first_not_of(kBlanks) == std::string_view::npos; }
 
 void ExpectNoMore(std::string_view rest) {
     if (!IsBlank(rest)) throw ScriptError("more words than the command takes: " + std::string(rest));
@@ -120,7 +122,7 @@ constexpr const char* kAnswer = "answer";
 [[noreturn]] void FailUnknown(std::string_view word) {
     std::vector<std::string> names{kAnswer};
     for (const Command& command : kCommands) names.emplace_back(command.name);
-    throw ScriptError("unknown command " + std::string(word) + "; did you mean " + NearestName(word, names) + "?");
+    throw ScriptError("unknown command " + std::string(word) + "; did you mean " + NearestName(word, names) + '?');
 }
 
 }  // namespace
@@ -129,7 +131,7 @@ void Script::RunLine(std::string_view line) {
     std::string_view rest = line;
     const std::string_view word = TakeWord(rest);
     if (word.empty() || word.front() == '#') return;
-    if (word == kAnswer) return dialogs_.Answer(std::string(rest));
+    if (word == kAnswer) return dialogs_.Answer(IsBlank(rest) ? std::string() : std::string(rest));
     const auto* const command = std::find_if(std::begin(kCommands), std::end(kCommands),
                                              [&](const Command& candidate) { return word == candidate.name; });
     if (command == std::end(kCommands)) FailUnknown(word);

@@ -138,9 +138,8 @@ void Set(const OptionFlag& flag, const Line& target, std::string_view line) {
 
 /// Why the file cannot be used; empty if it can.
 std::string FaultOf(const std::vector<std::string_view>& lines) {
-    const std::size_t count = lines.size() - (lines.back().empty() ? 1 : 0);
-    if (count < kLines.size()) {
-        return NumberText(static_cast<int>(count)) + " of the " + NumberText(static_cast<int>(kLines.size())) +
+    if (lines.size() < kLines.size()) {
+        return NumberText(static_cast<int>(lines.size())) + " of the " + NumberText(static_cast<int>(kLines.size())) +
                " lines of an options file, which end in CR LF";
     }
     for (std::size_t i = 0; i < kLines.size(); ++i) {
@@ -157,7 +156,7 @@ std::string ReadOptions() {
     const FileText file = ReadTextFile(path, kLongestFile);
     if (file.missing || (file.readable && file.text.empty())) return texts.TextOptionsMissing;
     if (!file.readable) return CannotRead(path, file.reason);
-    const std::vector<std::string_view> lines = SplitLines(file.text);
+    const std::vector<std::string_view> lines = EndedLines(file.text);
     const std::string fault = FaultOf(lines);
     if (!fault.empty()) return CannotRead(path, fault);
     for (std::size_t i = 0; i < kLines.size(); ++i) {

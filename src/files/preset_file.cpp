@@ -107,8 +107,6 @@ void ShowBaseCarOf(const Lines& lines) {
 }
 
 /// Lines that a text holds; an end of line behind the last one begins no other.
-std::size_t CountOf(const Lines& lines) { return lines.size() - (lines.back().empty() ? 1 : 0); }
-
 FileRequest RequestFor(bool saving) {
     return {.forSaving = saving,
             .title = saving ? texts.TextSavePreset : texts.TextLoadPreset,
@@ -141,8 +139,8 @@ void LoadPresetFile() {
         ShowMessage(CannotRead(files.PresetFileName, file.reason));
         return;
     }
-    const Lines lines = SplitLines(file.text);
-    if (CountOf(lines) < kLines) {
+    const Lines lines = EndedLines(file.text);
+    if (lines.size() < kLines) {
         ShowMessage(CannotRead(files.PresetFileName, "Not a preset file, which has 29 lines ended by CR LF"));
         return;
     }

@@ -108,7 +108,7 @@ bool LoadSettingsFile() {
         ShowMessage(CannotRead(files.OpenFileName, file.reason));
         return false;
     }
-    const std::vector<std::string_view> lines = SplitLines(file.text);
+    const std::vector<std::string_view> lines = EndedLines(file.text);
     if (lines.size() < kLineCount) {
         ShowMessage(CannotRead(files.OpenFileName, "Not a settings file, which has 19 lines ended by CR LF"));
         return false;

@@ -20,12 +20,6 @@ constexpr std::string_view kNumberKey = "Language: ";
 
 std::string ListPath() { return platform.AppPath + "languages.lst"; }
 
-/// The file's lines, without the text behind the last line end if that is empty.
-std::vector<std::string_view> WithoutEnd(std::vector<std::string_view> lines) {
-    if (lines.back().empty()) lines.pop_back();
-    return lines;
-}
-
 /// Reads the file; after a message the result is not readable.
 /// @param lost  what cannot be done without the list
 FileText ReadList(const std::string& lost) {
@@ -35,7 +29,7 @@ FileText ReadList(const std::string& lost) {
         return {};
     }
     FileText file = ReadTextFile(path, kLongestList);
-    if (file.readable && WithoutEnd(SplitLines(file.text)).size() < 2) {
+    if (file.readable && EndedLines(file.text).size() < 2) {
         file.readable = false;
         file.reason = "Not a language list, whose lines from the second on name a language each and end in CR LF";
     }
@@ -57,7 +51,7 @@ void LoadLanguageList() {
         LanguageSelection.SetVisible(false);
         return;
     }
-    const std::vector<std::string_view> lines = WithoutEnd(SplitLines(file.text));
+    const std::vector<std::string_view> lines = EndedLines(file.text);
     PickList& list = LanguageSelection.LanguageList;
     list.Clear();
     language.LanguageIndex = StoredNumber(lines[0]);

@@ -209,4 +209,10 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
     return lines;
 }
 
+std::vector<std::string_view> EndedLines(std::string_view text) {
+    std::vector<std::string_view> lines = SplitLines(text);
+    if (lines.back().empty()) lines.pop_back();
+    return lines;
+}
+
 }  // namespace zolv

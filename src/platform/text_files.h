@@ -43,4 +43,7 @@ FileText ReadTextFile(const std::string& path, std::size_t limit);
 /// Splits at CR LF. A text that ends in CR LF has an empty last line; a line feed alone does not end a line.
 std::vector<std::string_view> SplitLines(std::string_view text);
 
+/// The same without the empty line behind a last CR LF: the lines of a file whose every line ends in CR LF.
+std::vector<std::string_view> EndedLines(std::string_view text);
+
 }  // namespace zolv

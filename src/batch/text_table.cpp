@@ -22,7 +22,7 @@ std::vector<std::string> TextTable::Lines(std::size_t indent) const {
         for (std::size_t i = 0; i < row.size(); ++i) {
             const std::string padding(widths[i] - CharactersIn(row[i]), ' ');
             if (i > 0) line.append(kGap, ' ');
-            line += i == 0 ? row[i] + padding : padding + row[i];
+            line += i == 0 || values_ == Values::Left ? row[i] + padding : padding + row[i];
         }
         line.erase(line.find_last_not_of(' ') + 1);
         lines.push_back(std::move(line));

@@ -1,21 +1,27 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zolv {
 
-/// A table of text in columns as wide as their widest cell. The first column stands left, the others right, so that
-/// numbers with their units line up.
+/// A table of text in columns as wide as their widest cell. The first column stands left; the others stand right, so
+/// that numbers with their units line up, or left where they are of many kinds.
 class TextTable {
 public:
+    enum class Values : std::uint8_t { Left, Right };
+
+    explicit TextTable(Values values = Values::Right) : values_(values) {}
+
     void Add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
 
     /// The lines, each indented by `indent` blanks and without blanks at its end.
     [[nodiscard]] std::vector<std::string> Lines(std::size_t indent) const;
 
 private:
+    Values values_;
     std::vector<std::vector<std::string>> rows_;
 };
 

@@ -26,11 +26,11 @@ struct DrawingOperation {
 /// One axis of a plot, so that a window can put numbers on it and read values under the mouse:
 /// canvas coordinate = origin + scale * value, with the value in the unit that the user reads.
 struct PlotAxis {
-    double origin = 0;  // canvas coordinate of the value zero
-    double scale = 0;   // canvas units for one unit of the value; negative on a y axis, which grows downward
-    double step = 0;    // from grid line to grid line, in the unit; 0 where there is no grid
-    double end = 0;     // canvas coordinate of the axis's far end
-    std::string unit;   // "m/s"; empty where the values have none
+    double origin = 0;      // canvas coordinate of the value zero
+    double scale = 0;       // canvas units for one unit of the value; negative on a y axis, which grows downward
+    double step = 0;        // from grid line to grid line, in the unit; 0 where there is no grid
+    double end = 0;         // canvas coordinate of the axis's far end
+    std::string unit = {};  // "m/s"; empty where the values have none
 };
 
 /// The unit of an axis, from the suffix that stands behind numbers: without its leading blank.

@@ -1,0 +1,318 @@
+#include "desktop/binding.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTextCursor>
+#include <QValidator>
+
+#include "desktop/canvas_view.h"
+#include "desktop/picture_view.h"
+#include "desktop/texts_of_qt.h"
+#include "desktop/theme.h"
+#include "desktop/value_label.h"
+
+namespace zolv {
+namespace {
+
+/// Keeps the user from typing past a box's maximum length, and cuts what he pastes; a longer text of the program
+/// stands.
+class LengthLimit : public QValidator {
+public:
+    LengthLimit(const TextBox& field, QLineEdit& edit) : QValidator(&edit), field_(field), edit_(edit) {}
+
+    State validate(QString& input, int& position) const override {
+        const auto limit = static_cast<qsizetype>(field_.MaxLength());
+        if (limit == 0 || input.size() <= limit || input.size() <= edit_.text().size()) return Acceptable;
+        if (input.size() == edit_.text().size() + 1) return Invalid;  // a key
+        input.truncate(limit);
+        position = std::min(position, static_cast<int>(limit));
+        return Acceptable;
+    }
+
+private:
+    const TextBox& field_;
+    QLineEdit& edit_;
+};
+
+void PaintRows(const PickList& field, QComboBox& box) {
+    const auto& rows = field.Rows();
+    bool same = box.count() == static_cast<int>(rows.size());
+    for (int i = 0; same && i < box.count(); ++i) same = FromQt(box.itemText(i)) == rows[static_cast<std::size_t>(i)];
+    if (same) return;
+    box.clear();
+    for (const std::string& row : rows) box.addItem(ToQt(row));
+}
+
+/// The caret keeps its place in the text around it.
+void PaintText(const TextBox& field, QLineEdit& edit) {
+    const QString text = ToQt(field.Text());
+    if (edit.text() == text) return;
+    const int caret = edit.cursorPosition();
+    edit.setText(text);
+    edit.setCursorPosition(std::min(caret, static_cast<int>(text.size())));
+}
+
+void PaintText(const TextBox& field, QPlainTextEdit& edit) {
+    if (!edit.isVisible()) return;  // a hidden table costs nothing; showing it paints it
+    QString text = ToQt(field.Text());
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    if (edit.toPlainText() == text) return;
+    const int caret = edit.textCursor().position();
+    edit.setPlainText(text);
+    QTextCursor cursor = edit.textCursor();
+    cursor.setPosition(std::min(caret, static_cast<int>(text.size())));
+    edit.setTextCursor(cursor);
+}
+
+}  // namespace
+
+void Binding::Name(QObject& object, const Field& field) { object.setObjectName(ToQt(field.Name())); }
+
+void Binding::NameByCaption(QWidget& widget, const Field& field, const Field* caption) {
+    const Field& words = caption != nullptr ? *caption : field;
+    OnChanged(words, [&widget, &words] { widget.setAccessibleName(PlainCaption(words.Caption())); });
+}
+
+void Binding::PaintLook(const Field& field, QWidget& widget) {
+    // A widget in a layout takes no room while its field is hidden.
+    widget.setVisible(field.Visible());
+    widget.setEnabled(field.Enabled() && !field.Locked());
+    widget.setToolTip(ToQt(field.ToolTip()));
+}
+
+void Binding::OnChanged(const Field& field, std::function<void()> paint) {
+    paint();
+    painters_[&field].push_back(std::move(paint));
+}
+
+void Binding::PaintChanged() {
+    for (Window* window : AllWindows()) {
+        for (const Field* field : window->TakeChanged()) {
+            const auto painters = painters_.find(field);
+            if (painters == painters_.end()) continue;
+            for (const auto& paint : painters->second) paint();
+        }
+    }
+}
+
+void Binding::IgnoreWheelWithoutFocus(QWidget& widget) {
+    widget.setFocusPolicy(Qt::StrongFocus);
+    widget.installEventFilter(this);
+}
+
+bool Binding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel) {
+        const auto* const widget = qobject_cast<QWidget*>(watched);
+        if (widget != nullptr && !widget->hasFocus()) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Binding::Bind(Label& field, QLabel& label) {
+    Name(label, field);
+    label.setTextFormat(Qt::PlainText);
+    OnChanged(field, [&] {
+        label.setText(PlainCaption(field.Caption()));
+        label.setAccessibleName(label.text());
+        PaintLook(field, label);
+    });
+}
+
+void Binding::Bind(Label& field, ValueLabel& label) {
+    Name(label, field);
+    OnChanged(field, [&] {
+        label.setText(ToQt(field.Caption()));
+        label.SetState(field.Colour());
+        label.setAccessibleName(label.text());
+        PaintLook(field, label);
+    });
+}
+
+void Binding::Bind(Panel& field, QGroupBox& box) {
+    Name(box, field);
+    OnChanged(field, [&] {
+        box.setTitle(ToQt(field.Caption()));
+        box.setAccessibleName(PlainCaption(field.Caption()));
+        PaintLook(field, box);
+    });
+}
+
+void Binding::Bind(Panel& field, QWidget& page) {
+    Name(page, field);
+    NameByCaption(page, field, nullptr);
+}
+
+void Binding::BindPress(const Field& field, QAbstractButton& button) {
+    Name(button, field);
+    OnChanged(field, [&] {
+        button.setText(ToQt(field.Caption()));
+        button.setAccessibleName(PlainCaption(field.Caption()));
+        PaintLook(field, button);
+    });
+}
+
+void Binding::Bind(Button& field, QPushButton& button) {
+    BindPress(field, button);
+    QObject::connect(&button, &QPushButton::clicked, this, [this, &field] { Act([&] { field.Click(); }); });
+}
+
+void Binding::Bind(MenuEntry& field, QAction& action) {
+    Name(action, field);
+    if (!field.Shortcut().empty()) action.setShortcut(QKeySequence(ToQt(field.Shortcut())));
+    OnChanged(field, [&] {
+        action.setText(ToQt(field.Caption()));
+        action.setEnabled(field.Enabled());
+        action.setVisible(field.Visible());
+    });
+    QObject::connect(&action, &QAction::triggered, this, [this, &field] { Act([&] { field.Click(); }); });
+}
+
+void Binding::Bind(TextBox& field, QLineEdit& edit, const Field* caption) {
+    Name(edit, field);
+    NameByCaption(edit, field, caption);
+    edit.setValidator(new LengthLimit(field, edit));
+    edit.setReadOnly(field.Locked());
+    OnChanged(field, [&] {
+        PaintText(field, edit);
+        QPalette colours;
+        if (field.Colour()) {
+            const QPalette ground = edit.parentWidget() ? edit.parentWidget()->palette() : edit.palette();
+            colours.setColor(QPalette::Text, TextColour(field.Colour(), ground));
+        }
+        edit.setPalette(colours);
+        PaintLook(field, edit);
+    });
+    QObject::connect(&edit, &QLineEdit::textEdited, this, [this, &field, &edit](const QString& text) {
+        Act([&] { field.Enter(FromQt(text)); });
+        PaintText(field, edit);  // also where the field kept what it had
+    });
+}
+
+void Binding::Bind(TextBox& field, QPlainTextEdit& edit, const Field* caption) {
+    Name(edit, field);
+    NameByCaption(edit, field, caption);
+    edit.setReadOnly(true);
+    OnChanged(field, [&] {
+        edit.setVisible(field.Visible());
+        PaintText(field, edit);
+    });
+}
+
+void Binding::Bind(Slider& field, QSlider& slider, const Field* caption) {
+    Name(slider, field);
+    NameByCaption(slider, field, caption);
+    IgnoreWheelWithoutFocus(slider);
+    slider.setOrientation(Qt::Horizontal);
+    OnChanged(field, [&] {
+        const QSignalBlocker quiet(slider);
+        slider.setRange(field.Min(), field.Max());
+        slider.setSingleStep(field.SmallStep());
+        slider.setPageStep(field.LargeStep());
+        slider.setTickInterval(field.Tick());
+        slider.setValue(field.Value());
+        PaintLook(field, slider);
+    });
+    QObject::connect(&slider, &QSlider::valueChanged, this,
+                     [this, &field](int value) { Act([&] { field.Drag(value); }); });
+}
+
+void Binding::Bind(PickList& field, QComboBox& box, const Field* caption) {
+    Name(box, field);
+    NameByCaption(box, field, caption);
+    IgnoreWheelWithoutFocus(box);
+    OnChanged(field, [&] {
+        const QSignalBlocker quiet(box);
+        PaintRows(field, box);
+        box.setCurrentIndex(field.Picked());
+        PaintLook(field, box);
+    });
+    QObject::connect(&box, &QComboBox::activated, this, [this, &field](int row) { Act([&] { field.Pick(row); }); });
+}
+
+void Binding::Bind(TabStrip& field, QTabBar& bar) {
+    Name(bar, field);
+    OnChanged(field, [&] {
+        const QSignalBlocker quiet(bar);
+        const auto& rows = field.Rows();
+        while (bar.count() < static_cast<int>(rows.size())) bar.addTab(QString());
+        for (int i = 0; i < bar.count(); ++i) {
+            bar.setTabText(i, ToQt(rows[static_cast<std::size_t>(i)]));
+            bar.setTabToolTip(i, ToQt(field.ToolTips()[static_cast<std::size_t>(i)]));
+        }
+        bar.setCurrentIndex(field.Picked());
+    });
+    QObject::connect(&bar, &QTabBar::currentChanged, this, [this, &field](int row) { Act([&] { field.Pick(row); }); });
+}
+
+void Binding::Bind(CheckBox& field, QCheckBox& box) {
+    BindPress(field, box);
+    OnChanged(field, [&] {
+        const QSignalBlocker quiet(box);
+        box.setChecked(field.Checked());
+    });
+    QObject::connect(&box, &QCheckBox::clicked, this,
+                     [this, &field](bool checked) { Act([&] { field.SetChecked(checked); }); });
+}
+
+void Binding::Bind(OptionButton& field, QRadioButton& button) {
+    BindPress(field, button);
+    OnChanged(field, [&] {
+        const QSignalBlocker quiet(button);
+        button.setChecked(field.Checked());
+    });
+    QObject::connect(&button, &QRadioButton::clicked, this, [this, &field] { Act([&] { field.Choose(); }); });
+}
+
+void Binding::Bind(Picture& field, PictureView& view) {
+    Name(view, field);
+    OnChanged(field, [&] {
+        view.SetPath(ToQt(field.Path()));
+        PaintLook(field, view);
+    });
+}
+
+void Binding::Bind(CanvasField& field, CanvasView& view) {
+    Name(view, field);
+    OnChanged(field, [&] {
+        view.setAccessibleName(ToQt(field.ToolTip()));
+        PaintLook(field, view);
+        view.update();
+    });
+}
+
+void Binding::Bind(Window& field, QWidget& widget) {
+    Name(widget, field);
+    OnChanged(field, [&] {
+        widget.setWindowTitle(PlainCaption(field.Title()));
+        if (field.Visible() == widget.isVisible()) return;
+        widget.setVisible(field.Visible());
+        if (field.Visible()) widget.raise();
+    });
+}
+
+void Binding::BindStack(QStackedWidget& stack, const std::vector<Panel*>& panels) {
+    for (int i = 0; i < static_cast<int>(panels.size()); ++i) {
+        const Panel* const panel = panels[static_cast<std::size_t>(i)];
+        OnChanged(*panel, [&stack, panel, i] {
+            if (panel->InFront()) stack.setCurrentIndex(i);
+        });
+    }
+}
+
+}  // namespace zolv

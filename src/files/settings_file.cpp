@@ -1,6 +1,7 @@
 #include "files/settings_file.h"
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -72,6 +73,11 @@ void Apply(const Line& target, std::string_view line) {
     }
 }
 
+std::string TooFewLines(std::size_t count) {
+    return NumberText(static_cast<std::int32_t>(count)) + " of the " +
+           NumberText(static_cast<std::int32_t>(kLineCount)) + " lines of a settings file, which end in CR LF";
+}
+
 void SetCurrentFile(const std::string& name) {
     files.CurrentFileName = name;
     std::string title(kProgramName);
@@ -110,7 +116,7 @@ bool LoadSettingsFile() {
     }
     const std::vector<std::string_view> lines = EndedLines(file.text);
     if (lines.size() < kLineCount) {
-        ShowMessage(CannotRead(files.OpenFileName, "Not a settings file, which has 19 lines ended by CR LF"));
+        ShowMessage(CannotRead(files.OpenFileName, TooFewLines(lines.size())));
         return false;
     }
     const std::string name(From(lines[0], kNameKey.size()));

@@ -1,5 +1,7 @@
 #include "units/unit_catalogue.h"
 
+#include <algorithm>
+
 #include "language/number_text.h"
 
 namespace zolv {
@@ -151,6 +153,18 @@ void SelectUnit(UnitState& state, int index, int row) {
     shown.Suffix = unit.suffix;
     shown.Decimals = unit.decimals;
     shown.Factor = unit.factor;
+}
+
+std::vector<std::string> TextsInAllUnits(Quantity UnitState::*quantity, double base) {
+    const auto entry = std::find_if(kCatalogue.begin(), kCatalogue.end(),
+                                    [&](const QuantityUnits& row) { return row.state == quantity; });
+    std::vector<std::string> texts;
+    for (int row = 0; row < static_cast<int>(entry->rows.size()); ++row) {
+        const UnitRow& unit = entry->rows[static_cast<std::size_t>(row)];
+        const double value = quantity == &UnitState::P2W ? PowerToWeight(row, base, 1) : base * unit.factor;
+        texts.push_back(WithUnit(value, unit.decimals, unit.suffix));
+    }
+    return texts;
 }
 
 int SpeedSliderMaximum(int speedUnit) { return kSpeedSliderMaxima[speedUnit]; }

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "units/unit_state.h"
 
@@ -19,6 +21,10 @@ const std::array<QuantityUnits, kQuantities>& UnitCatalogue();
 
 /// Makes `row` the unit of the quantity at `index` of the catalogue: index, suffix, decimals and factor in one.
 void SelectUnit(UnitState& state, int index, int row);
+
+/// The text of a base value in each unit of a quantity, in the order of its rows.
+/// @param base  in the quantity's base unit; kW/kg for power to weight
+std::vector<std::string> TextsInAllUnits(Quantity UnitState::*quantity, double base);
 
 /// The maximum of the speed sliders in each unit of speed: 200 m/s everywhere.
 int SpeedSliderMaximum(int speedUnit);

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QString>
+#include <span>
+#include <vector>
+
+#include "desktop/binding.h"
+#include "units/unit_state.h"
+
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLayout;
+class QWidget;
+
+/// What the pages are put together from. Each part is made, bound and placed in one call; its parent is the widget that
+/// its layout belongs to, so that a layout must have been set on its widget before parts are added to it. (A widget
+/// without a parent would show up as a window of its own as soon as it is bound.)
+namespace zolv {
+
+/// Texts of one column: a figure, and the widest texts that it can hold in any unit. See ValueLabel::ReserveFor.
+using WidestOf = std::vector<QString>;
+
+/// The text of a base value in each unit of a quantity: `WidestTexts(&UnitState::Speed, 188.8)`.
+/// @param base  one as wide as the field ever gets, sign included; kW/kg for power to weight
+WidestOf WidestTexts(Quantity UnitState::*kind, double base);
+
+/// Two values of a quantity in one text, `between` in the middle, in each of its units.
+WidestOf WidestTexts(Quantity UnitState::*kind, double first, const QString& between, double second);
+
+/// Words, bound to their field.
+QLabel* MakeWords(Binding& binding, Label& field, QWidget* parent);
+
+/// Words in bold, for the title of a column or a drawing.
+QLabel* MakeTitle(Binding& binding, Label& field, QWidget* parent);
+
+/// A figure, right-aligned, with room for `widest`.
+ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const WidestOf& widest = {});
+
+/// A frame with a caption in which the fields of a panel stand; its margins are those of a group.
+QGroupBox* MakeGroup(Binding& binding, Panel& field, QWidget* parent);
+
+/// A group's grid of rows, to be filled with the calls below. Rows are close together, as in a table.
+QGridLayout* MakeRows(QWidget* owner);
+
+/// A name and its figure.
+struct FigureRow {
+    Label& words;
+    Label& figure;
+    WidestOf widest = {};
+};
+
+/// Adds lines of name and figure below what `grid` holds: names in column 0, which takes the room, figures in column 1
+/// at the right edge.
+void AddFigureRows(Binding& binding, QGridLayout& grid, const std::vector<FigureRow>& rows);
+
+/// A name, a slider and the value that it stands for.
+struct SliderRow {
+    Label& words;
+    Slider& slider;
+    Label& value;
+    WidestOf widest = {};
+};
+
+/// Adds a line of name, slider and value below what `grid` holds, in columns 0 to 2; the slider takes the room.
+void AddSliderRow(Binding& binding, QGridLayout& grid, const SliderRow& row);
+
+/// The row below the last one that `grid` uses; 0 in an empty grid, which Qt counts as one row.
+int NextRow(const QGridLayout& grid);
+
+}  // namespace zolv

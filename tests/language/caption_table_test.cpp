@@ -1,0 +1,93 @@
+#include "language/caption_table.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <map>
+#include <regex>
+#include <string>
+#include <vector>
+
+#include "fields/windows.h"
+#include "shell/fresh_start.h"
+
+namespace zolv {
+namespace {
+
+using testing::IsEmpty;
+
+bool NamesField(const Target& target) {
+    return target.kind == Target::Kind::Caption || target.kind == Target::Kind::ToolTip ||
+           target.kind == Target::Kind::Tab;
+}
+
+template <class Work>
+void ForEachFieldTarget(Work work) {
+    for (const CaptionLine& line : CaptionTable()) {
+        for (const Target& target : line.targets) {
+            if (NamesField(target)) work(line, target);
+        }
+    }
+}
+
+TEST(CaptionTable, EachTargetIsOneField) {
+    ForEachFieldTarget([](const CaptionLine& line, const Target& target) {
+        const std::vector<Field*> fields = FindFields(target.field);
+        ASSERT_EQ(fields.size(), 1U) << "line " << line.number << ": " << target.field;
+        if (target.kind != Target::Kind::Tab) return;
+        const auto* const strip = dynamic_cast<const TabStrip*>(fields.front());
+        ASSERT_NE(strip, nullptr) << target.field;
+        EXPECT_LT(target.row, static_cast<int>(strip->Rows().size())) << target.field;
+    });
+}
+
+TEST(CaptionTable, NoTargetHasTwoLines) {
+    std::map<std::string, int> lines;
+    ForEachFieldTarget([&](const CaptionLine& line, const Target& target) {
+        const std::string key = std::string(target.field) + (target.kind == Target::Kind::ToolTip ? " tip " : " ") +
+                                std::to_string(target.row);
+        const auto [entry, isNew] = lines.emplace(key, line.number);
+        EXPECT_TRUE(isNew) << key << " has the lines " << entry->second << " and " << line.number;
+    });
+}
+
+// Words that are the same in every language, or that the program writes in its own time.
+constexpr const char* kWithoutLine =
+    "Zolv|"                                  // the title, with the name of the open file
+    "CustomPresets|Zolv_version|AboutZolv|"  // a title that stays; a number; several lines at once
+    "AeroLabel\\((12|13|15|24|25|29|30|34|35)\\)|CUPLabel\\((12|29)\\)|GearingLabel\\(35\\)|"  // Cd, ClA ..., v-max
+    "Label_SPD[1-6]|Label_[A-Za-z0-9]+Units|"                                                  // units
+    "(Distance|Mass|Power|Torque)Output|InputSlash|InputR";
+
+bool HasWords(const Field& field) {
+    switch (field.Kind()) {
+        case FieldKind::Button:
+        case FieldKind::MenuEntry:
+        case FieldKind::CheckBox:
+        case FieldKind::OptionButton:
+        case FieldKind::Window: return true;
+        default: return !field.Caption().empty();
+    }
+}
+
+TEST(CaptionTable, EachFieldWithWordsHasALine) {
+    FreshStart();
+    const std::regex withoutLine(kWithoutLine);
+    std::vector<std::string> forgotten;
+    for (Window* window : AllWindows()) {
+        std::vector<Field*> fields = window->Fields();
+        fields.push_back(window);
+        for (const Field* field : fields) {
+            if (!HasWords(*field) || std::regex_match(field->Name(), withoutLine)) continue;
+            bool found = false;
+            ForEachFieldTarget([&](const CaptionLine&, const Target& target) {
+                found = found || (target.kind == Target::Kind::Caption && target.field == field->Name());
+            });
+            if (!found) forgotten.push_back(window->Name() + '.' + field->Name());
+        }
+    }
+    EXPECT_THAT(forgotten, IsEmpty());
+}
+
+}  // namespace
+}  // namespace zolv

@@ -1,0 +1,209 @@
+#include "language/language_file.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "fields/windows.h"
+#include "language/caption_table.h"
+#include "platform/text_files.h"
+#include "support/zolv_test.h"
+#include "tyres/tyre_state.h"
+
+namespace zolv {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+/// A language whose line n reads "Ln".
+std::string MadeUp(int lines = 339, const char* lineEnd = "\r\n") {
+    std::string text = "L0";
+    for (int n = 1; n < lines; ++n) text += lineEnd + ("L" + std::to_string(n));
+    return text;
+}
+
+std::string PathOf(const std::string& language) { return platform.AppPath + "language_" + language + ".txt"; }
+
+class LanguageFile : public ZolvTest {
+protected:
+    LanguageFile() { Start(); }
+
+    void Load(const std::string& language) {
+        LanguageSelection.LanguageList.Clear();
+        LanguageSelection.LanguageList.Add(language);
+        LanguageSelection.LanguageList.Pick(0);
+    }
+    void LoadText(const std::string& text) {
+        WriteContent(PathOf("Test"), text);
+        Load("Test");
+    }
+};
+
+/// What a target holds now.
+std::string TextOf(const Target& target) {
+    const auto row = static_cast<std::size_t>(target.row);
+    switch (target.kind) {
+        case Target::Kind::None: return {};
+        case Target::Kind::Caption: return FindFields(target.field).front()->Caption();
+        case Target::Kind::ToolTip: return FindFields(target.field).front()->ToolTip();
+        case Target::Kind::Tab: return dynamic_cast<TabStrip&>(*FindFields(target.field).front()).Rows()[row];
+        case Target::Kind::Text: return texts.*target.text;
+        case Target::Kind::TyreTypeName: return Zolv.Select_Tyres2.Rows()[row];
+        case Target::Kind::SlickNames: return Zolv.Select_Tyres.Rows()[row].substr(0, 3);  // less " R1"
+        case Target::Kind::GraphName: return Zolv.Select_Graphs.Rows()[row];
+        case Target::Kind::GearName: return texts.GearNames[row];
+        case Target::Kind::UnitName: return (units.*target.quantity).UnitNames[row];
+        case Target::Kind::AboutParagraph: return texts.AboutParagraphs[row];
+    }
+    return {};
+}
+
+TEST_F(LanguageFile, EachLineReachesAllItsTargets) {
+    LoadText(MadeUp());
+    for (const CaptionLine& line : CaptionTable()) {
+        for (const Target& target : line.targets) {
+            // The list of speeds, rebuilt later, has put the unit's short name there.
+            if (target.kind == Target::Kind::None || target.field == "SpeedPlot_XUnits") continue;
+            EXPECT_EQ(TextOf(target), std::string(target.before) + "L" + std::to_string(line.number)) << target.field;
+        }
+    }
+}
+
+TEST_F(LanguageFile, LinesWithAnAdditionAndTextsBuiltFromLines) {
+    LoadText(MadeUp());
+    EXPECT_EQ(Zolv.AboutZolv.Caption(), "L46\r\nL47\r\n\r\nL48\r\n\r\nL49\r\n\r\nL50\r\n\r\nL51");
+    EXPECT_EQ(CustomPresets.Label_Perc[2].Caption(), "% L189");
+    EXPECT_EQ(OptionsPanel.Title(), "L15");
+    EXPECT_EQ(OptionsPanel.SpeedPlotX.Units.Caption(), " m/s");
+    EXPECT_THAT(Zolv.Select_Tyres.Rows(),
+                ElementsAre("L64", "L65", "L66", "L67", "L68 R1", "L68 R2", "L68 R3", "L68 R4"));
+    EXPECT_EQ(Zolv.Info_DT.Caption(), "L39");
+    EXPECT_EQ(Zolv.Info_WD.Caption(), "56.1% L31 /\r\n43.9% L32");
+    EXPECT_THAT(Zolv.Ratios.RPM[1].Caption(), EndsWith(" L89"));
+    EXPECT_THAT(Zolv.AccelerationData.Text(), StartsWith("L96\tL77"));
+}
+
+TEST_F(LanguageFile, EachUnitListHasItsOwnLines) {
+    LoadText(MadeUp());
+    constexpr int kFirst[] = {251, 256, 261, 266, 271, 277, 282, 284, 289, 293, 297, 304, 310};
+    for (std::size_t quantity = 0; quantity < 12; ++quantity) {
+        std::vector<std::string> rows;
+        for (int n = kFirst[quantity]; n < kFirst[quantity + 1]; ++n) rows.push_back("L" + std::to_string(n));
+        EXPECT_EQ(OptionsPanel.Units[quantity].Select.Rows(), rows);
+        EXPECT_EQ(OptionsPanel.Units[quantity].Select.Picked(), 0);
+    }
+}
+
+TEST_F(LanguageFile, ListsKeepTheirRows) {
+    Zolv.Select_Tyres.Pick(6);
+    Zolv.Select_Graphs.Pick(1);
+    OptionsPanel.Units[0].Select.Pick(2);
+    OptionsPanel.Units[11].Select.Pick(5);
+    const std::string speed = Zolv.Speeds.Input[3].Text();
+    LoadText(MadeUp());
+    EXPECT_EQ(Zolv.Select_Tyres.Text(), "L68 R3");
+    EXPECT_EQ(Zolv.Select_Tyres2.Text(), "L68 R3");
+    EXPECT_EQ(tyres.TyreMu, 1.55F);
+    EXPECT_EQ(Zolv.Select_Graphs.Text(), "L71");
+    EXPECT_TRUE(Zolv.SpeedTimeGraph.Visible());
+    EXPECT_EQ(OptionsPanel.Units[0].Select.Text(), "L253");
+    EXPECT_EQ(units.Speed.Unit, 2);
+    EXPECT_EQ(Zolv.Speeds.Input[3].Text(), speed);
+    EXPECT_EQ(OptionsPanel.SpeedPlotX.Units.Caption(), " mph");
+    EXPECT_EQ(OptionsPanel.Units[11].Select.Text(), "L309");
+    EXPECT_EQ(units.T2W.Unit, 5);
+}
+
+TEST_F(LanguageFile, ListWithoutCurrentRowComesBackOnTheFirst) {
+    Zolv.Select_Tyres.Clear();
+    Zolv.Select_Graphs.Clear();
+    LoadText(MadeUp());
+    EXPECT_EQ(Zolv.Select_Tyres.Picked(), 0);
+    EXPECT_EQ(Zolv.Select_Graphs.Picked(), 0);
+}
+
+TEST_F(LanguageFile, WordsAreTakenAsTheyStand) {
+    std::string text = "\xEF\xBB\xBF" + MadeUp();
+    text.replace(text.find("L3\r\n"), 2, "  \xC3\x96&ffnen &&& & \t");
+    text.replace(text.find("L8\r\n"), 2, "");
+    text.erase(text.rfind("L338"));  // 338 lines, and the last line end makes an empty one
+    LoadText(text);
+    EXPECT_EQ(LanguageSelection.LanguageNow.Caption(), "L0");
+    EXPECT_EQ(Zolv.FileOpen.Caption(), "  \xC3\x96&ffnen &&& & \t");
+    EXPECT_EQ(Zolv.FileSave.Caption(), "");
+    EXPECT_EQ(OptionsPanel.OptionsSave.Caption(), "");
+}
+
+constexpr const char* kNotFound = "The language file cannot be found: ";
+constexpr const char* kLineCount = "Language file does not have the correct number of lines. Loading failed.";
+
+struct RefusedCase {
+    const char* name;
+    const char* language;
+    std::function<void(const std::string& path)> make;
+    const char* message;  // kNotFound has the path behind it
+};
+
+void PrintTo(const RefusedCase& row, std::ostream* out) { *out << row.name; }
+
+class RefusedLanguage : public LanguageFile, public testing::WithParamInterface<RefusedCase> {};
+
+TEST_P(RefusedLanguage, SaysWhyAndChangesNothing) {
+    const RefusedCase& row = GetParam();
+    const std::string path = PathOf(row.language);
+    row.make(path);
+    Load(row.language);
+    ExpectMessage(row.message == kNotFound ? kNotFound + path : row.message);
+    EXPECT_EQ(LanguageSelection.LanguageNow.Caption(), "English");
+    EXPECT_EQ(Zolv.Select_Tyres.Rows()[0], "Road Super");
+    EXPECT_EQ(texts.TextOptionsMissing, "Error: Options.ini does not exist.");
+}
+
+const RefusedCase kRefused[] = {
+    {"Missing", "Gone", [](const std::string&) {}, kNotFound},
+    {"Empty", "Test", [](const std::string& path) { WriteContent(path, ""); }, kNotFound},
+    {"AFolder", "Test", [](const std::string& path) { fs::create_directory(path); }, kNotFound},
+    {"InAnotherFolder", "a/b",
+     [](const std::string& path) {
+         fs::create_directory(platform.AppPath + "language_a");
+         WriteContent(path, MadeUp());
+     },
+     kNotFound},
+    {"OneLineLess", "Test", [](const std::string& path) { WriteContent(path, MadeUp(338)); }, kLineCount},
+    {"OneLineMore", "Test", [](const std::string& path) { WriteContent(path, MadeUp() + "\r\n"); }, kLineCount},
+    {"LineFeedsAlone", "Test", [](const std::string& path) { WriteContent(path, MadeUp(339, "\n")); }, kLineCount},
+    {"TooLong", "Test", [](const std::string& path) { WriteContent(path, MadeUp() + std::string(1 << 20, 'x')); },
+     kLineCount},
+};
+INSTANTIATE_TEST_SUITE_P(Files, RefusedLanguage, testing::ValuesIn(kRefused),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(LanguageFile, BuiltInLanguageIsWrittenWholeAndLoadsAgain) {
+    ASSERT_EQ(WriteBuiltInLanguage(PathOf("English")), "");
+    const std::string text = ContentOf(PathOf("English"));
+    EXPECT_EQ(SplitLines(text).size(), 339U);
+    EXPECT_THAT(text, StartsWith("English\r\n"));
+    EXPECT_THAT(text, EndsWith("\r\nSave Options"));
+
+    Load("English");
+    const std::vector<std::string> english = EverythingShown();
+    LoadText(MadeUp());
+    EXPECT_NE(EverythingShown(), english);
+    Load("English");
+    EXPECT_EQ(EverythingShown(), english);
+}
+
+TEST_F(LanguageFile, WritingNowhereHasAReason) {
+    EXPECT_THAT(WriteBuiltInLanguage(platform.AppPath + "no such folder/English.txt"), HasSubstr("No such file"));
+}
+
+}  // namespace
+}  // namespace zolv

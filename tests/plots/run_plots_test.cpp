@@ -60,7 +60,6 @@ TEST_F(RunPlots, SpeedAtEveryEighthRow) {
 
 TEST_F(RunPlots, AxesAreInSecondsAndInTheUnitShown) {
     Run(20);
-    SelectUnit(units, 0, 1);  // km/h
     SelectUnit(units, 5, 1);  // kN
     DrawGearingPlots();
     const Canvas::Axes& force = Zolv.TractiveEffortPlot.Drawing().PresentAxes();
@@ -68,9 +67,6 @@ TEST_F(RunPlots, AxesAreInSecondsAndInTheUnitShown) {
     EXPECT_EQ(force.x.unit, "s");
     EXPECT_NEAR(force.y.scale, -3224.0625, 1e-6);
     EXPECT_EQ(force.y.unit, "kN");
-    const Canvas::Axes& speed = Zolv.SpeedTimeGraph.Drawing().PresentAxes();
-    EXPECT_NEAR(speed.y.scale, -61.704545 / 3.6, 1e-6);
-    EXPECT_EQ(speed.y.unit, "km/h");
 }
 
 struct ForceCase {
@@ -101,9 +97,7 @@ INSTANTIATE_TEST_SUITE_P(ByHand, LargestForce,
                                          ForceCase{"RearDriven", 1, 1000, 1500, false, 1684.211},
                                          ForceCase{"AllDrivenCountsAsFront", 2, 1000, 1500, false, 842.105},
                                          ForceCase{"FrontTyresGiveWay", 0, 400, 1500, false, 640},
-                                         ForceCase{"RearTyresGiveWay", 1, 1000, 500, false, 800},
                                          ForceCase{"LargerLoadBehind", 0, 1000, 1500, true, 1575},
-                                         ForceCase{"LargerLoadInFront", 0, 2000, 1500, true, 2100},
                                          ForceCase{"ForceAboveTheLoads", 1, 1000, 1500, true, 1684.211}),
                          [](const auto& row) { return std::string(row.param.name); });
 
@@ -149,7 +143,6 @@ TEST_P(GraphPage, ShowsItsOwnAndSurvivesARedraw) {
     for (const bool redrawn : {false, true}) {
         if (redrawn) DrawGearingPlots();
         EXPECT_EQ(Zolv.SpeedPlot.Visible(), page.speedAndTorque) << redrawn;
-        EXPECT_EQ(Zolv.TorquePlot.Visible(), page.speedAndTorque) << redrawn;
         EXPECT_EQ(Zolv.TractiveEffortPlot.Visible(), page.run) << redrawn;
         EXPECT_EQ(Zolv.SpeedTimeGraph.Visible(), page.run) << redrawn;
         EXPECT_EQ(Zolv.AccelerationData.Visible(), page.table) << redrawn;

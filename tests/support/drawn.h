@@ -4,6 +4,7 @@
 #include <cmath>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "language/number_text.h"
@@ -15,15 +16,11 @@ namespace zolv {
 /// worked out by hand: "line 0,0 10,2.5 red 3", "rect 0,0 10,10 white", "circle 0,0 5 black".
 inline std::vector<std::string> Drawn(const std::vector<DrawingOperation>& operations) {
     const auto name = [](Rgb colour) -> std::string {
-        const struct {
-            Rgb colour;
-            const char* name;
-        } names[] = {{kBlack, "black"}, {kWhite, "white"},     {kRed, "red"},  {kGreen, "green"},
-                     {kBlue, "blue"},   {kMagenta, "magenta"}, {kCyan, "cyan"}};
-        for (const auto& known : names) {
-            if (known.colour == colour) return known.name;
-        }
-        return "another colour";
+        const std::pair<Rgb, const char*> names[] = {{kBlack, "black"}, {kWhite, "white"}, {kRed, "red"},
+                                                     {kGreen, "green"}, {kBlue, "blue"},   {kMagenta, "magenta"},
+                                                     {kCyan, "cyan"}};
+        const auto* const known = std::ranges::find(names, colour, &std::pair<Rgb, const char*>::first);
+        return known == std::end(names) ? "another colour" : known->second;
     };
     const auto pair = [](double x, double y) { return RoundedText(x, 3) + ',' + RoundedText(y, 3); };
     std::vector<std::string> drawn;

@@ -48,7 +48,6 @@ TEST_F(TyreDrawings, FootprintOfTheFrontTyre) {
     EXPECT_EQ(drawn[2], "line 2600,3075 2600,0 black 1");
     EXPECT_EQ(drawn[3], "line 1650,3075 1650,0 black 1");
     EXPECT_EQ(drawn[11], "line -250,3075 -250,0 black 1");
-    EXPECT_EQ(drawn[14], "line 0,2012.5 4250,2012.5 black 1");
     EXPECT_EQ(drawn[21], "line 0,-362.5 4250,-362.5 black 1");
     EXPECT_EQ(drawn[22], "rect 1365,1062.5 2885,2012.5 black");
 }

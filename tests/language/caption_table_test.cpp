@@ -55,11 +55,18 @@ TEST(CaptionTable, NoTargetHasTwoLines) {
 constexpr const char* kWithoutLine =
     "Zolv|"                                  // the title, with the name of the open file
     "CustomPresets|Zolv_version|AboutZolv|"  // a title that stays; a number; several lines at once
-    "AeroLabel\\((12|13|15|24|25|29|30|34|35)\\)|CUPLabel\\((12|29)\\)|GearingLabel\\(35\\)|"  // Cd, ClA ..., v-max
-    "Label_SPD[1-6]|Label_[A-Za-z0-9]+Units|"                                                  // units
+    "AeroLabel\\((12|13|15|24|25|29|30|34|35)\\)|CUPLabel\\((12|29)\\)|GearingLabel\\(3[0-7]\\)|"  // Cd, ClA ..., v-max
+    "Label_SPD[1-6]|Label_[A-Za-z0-9]+Units|"                                                      // units
     "(Distance|Mass|Power|Torque)Output|InputSlash|InputR";
 
+/// Captions beside a control and titles of a group: they have words also before they get their line.
+constexpr const char* kNamesOthers =
+    "(Info|Gearing|Tyre|Aero|CUP|Options|Language)Label\\(\\d+\\)|(Info|Aero)Panel\\(\\d\\)|OptionsGroup\\(\\d\\)|"
+    "ConvertFrame\\(\\d\\)|Frame_.*|Label_(XScale|YScale|rpm|Perc|Car|Mass|Power|Torque|Distance).*|Show.*|Calc.*";
+
 bool HasWords(const Field& field) {
+    static const std::regex namesOthers(kNamesOthers);
+    if (std::regex_match(field.Name(), namesOthers)) return true;
     switch (field.Kind()) {
         case FieldKind::Button:
         case FieldKind::MenuEntry:

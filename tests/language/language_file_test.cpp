@@ -10,6 +10,7 @@
 
 #include "fields/windows.h"
 #include "language/caption_table.h"
+#include "language/language_state.h"
 #include "platform/text_files.h"
 #include "support/zolv_test.h"
 #include "tyres/tyre_state.h"
@@ -120,6 +121,13 @@ TEST_F(LanguageFile, ListsKeepTheirRows) {
     EXPECT_EQ(OptionsPanel.SpeedPlotX.Units.Caption(), " mph");
     EXPECT_EQ(OptionsPanel.Units[11].Select.Text(), "L309");
     EXPECT_EQ(units.T2W.Unit, 5);
+}
+
+TEST_F(LanguageFile, FollowUpComesOnceWithAllLinesInPlace) {
+    std::vector<std::string> seen;
+    language.LanguageChanged = [&] { seen.push_back(OptionsPanel.OptionsSave.Caption()); };
+    LoadText(MadeUp());
+    EXPECT_THAT(seen, ElementsAre("L338"));
 }
 
 TEST_F(LanguageFile, ListWithoutCurrentRowComesBackOnTheFirst) {

@@ -110,6 +110,10 @@ const InfoCase kCars[] = {
       {"Info_PRF", "1.22-3.64 bar"},
       {"Info_PRR", "1.12-3.34 bar"},
       {"Info_Efficiency", "82%"}}},
+    {"RimsByTheInchOfLengths",  // 482.355 mm; 482.6 by the inch of the ruler
+     "Ondo R",
+     {{kDistance, 2}},
+     {{"Info_RimF", "482 mm"}, {"Info_RimR", "457 mm"}, {"Info_TWF", "335 mm"}}},
 };
 INSTANTIATE_TEST_SUITE_P(ByHand, Info, testing::ValuesIn(kCars),
                          [](const auto& row) { return std::string(row.param.name); });

@@ -161,10 +161,11 @@ std::string WriteTextFile(const std::string& path, std::string_view text) {
     if (path.empty() || path.find('\0') != std::string::npos) return ReasonOf(EINVAL);
     std::error_code error;
     fs::path target = PathOf(path);
-    if (fs::is_symlink(target, error)) {
-        const fs::path named = fs::weakly_canonical(target, error);
-        if (error) return error.message();
-        target = named;
+    // Link by link, so that a link to a file that is yet to be made is followed as well.
+    for (int links = 0; fs::is_symlink(target, error); ++links) {
+        constexpr int kMostLinks = 40;
+        if (links == kMostLinks) return ReasonOf(ELOOP);
+        target = target.parent_path() / fs::read_symlink(target, error);
     }
     const fs::file_status old = fs::status(target, error);
     if (fs::is_directory(old)) return ReasonOf(EISDIR);

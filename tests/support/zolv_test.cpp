@@ -10,6 +10,7 @@
 #include "platform/text_files.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
+#include "vehicle/vehicle_state.h"
 
 namespace zolv {
 namespace {
@@ -151,6 +152,17 @@ void Set(std::string_view name, std::string_view value) {
         case FieldKind::OptionButton: static_cast<OptionButton*>(field)->Choose(); break;
         default: ADD_FAILURE() << name << " takes no " << value;
     }
+}
+
+void UseCustomCar(const std::string& base, const std::vector<ChangedFigure>& changes) {
+    CarFigures figures = vehicle.FiguresOfCar(vehicle.FindCar(base));
+    for (const ChangedFigure& change : changes) {
+        figures[static_cast<std::size_t>(change.field)] = static_cast<float>(change.value);
+    }
+    const std::string name = "Custom " + std::to_string(vehicle.PresetsUsed);
+    vehicle.StorePreset(vehicle.PresetsUsed++, name, figures);
+    Zolv.Select_Car.Add(name);
+    Zolv.Select_Car.SetText(name);
 }
 
 std::vector<std::string> EverythingShown() {

@@ -11,6 +11,7 @@
 
 #include "fields/windows.h"
 #include "platform/dialogs.h"
+#include "vehicle/car_record.h"
 
 /// What the tests of the whole program share: a program that stands fresh in a folder of its own, with dialogs that
 /// record what they are asked.
@@ -76,6 +77,13 @@ std::string Shown(std::string_view name);
 /// What a user does at the field of that name, with the text as he would read it. The test fails if there is no such
 /// field, or nothing that takes it.
 void Set(std::string_view name, std::string_view value);
+
+/// Takes a car of one's own into use, as a preset: a built-in one with some of its figures changed.
+struct ChangedFigure {
+    CarField field;
+    double value;
+};
+void UseCustomCar(const std::string& base, const std::vector<ChangedFigure>& changes);
 
 /// What every field of every window says and how it looks, with the numbers of all drawings: "Zolv.RPM1 = 7084 rpm".
 std::vector<std::string> EverythingShown();

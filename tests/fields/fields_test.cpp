@@ -1,0 +1,266 @@
+#include <gmock/gmock.h>
+
+#include <set>
+
+#include "fields/field_row.h"
+#include "shell/fresh_start.h"
+#include "support/zolv_test.h"
+
+namespace zolv {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+/// A window with one field of each kind, or a few, that notes the events it hears.
+class Form : public Window {
+public:
+    Form() : Window("Form", "A form", true) {
+        Box.OnChange = [this] { events.push_back("change " + Box.Text()); };
+        Bar.OnScroll = [this] { events.push_back("scroll " + std::to_string(Bar.Value())); };
+        Bar.OnChange = [this] { events.push_back("change " + std::to_string(Bar.Value())); };
+        List.OnClick = [this] { events.push_back("click " + List.Text()); };
+        Check.OnClick = [this] { events.emplace_back(Check.Checked() ? "on" : "off"); };
+        for (OptionButton* button : {&Left, &Right, &Other}) {
+            button->OnClick = [this, button] { events.push_back("chose " + button->Name()); };
+        }
+    }
+
+    std::vector<std::string> events;
+    std::vector<std::string> TakeEvents() { return std::exchange(events, {}); }
+
+    Label Text{*this, "Text", {.caption = "text"}};
+    TextBox Box{*this, "Box", {.text = "1", .maxLength = 5}};
+    Slider Bar{*this, "Bar", {.min = 10, .max = 20, .value = 15}};
+    PickList List{*this, "List", {.rows = {"a", "b", "b"}, .picked = 0}};
+    CheckBox Check{*this, "Check"};
+    OptionButton Left{*this, "Left", {.checked = true, .group = 1}};
+    OptionButton Right{*this, "Right", {.group = 1}};
+    OptionButton Other{*this, "Other", {.checked = true, .group = 2}};
+    FieldArray<Panel, 2> Sheet{*this, "Sheet", [](int i) { return PanelState{.stack = 1, .front = i == 0}; }};
+    Panel Alone{*this, "Alone", {.stack = 2, .front = true}};
+    Picture Photo{*this, "Photo"};
+    CanvasField Plot{*this, "Plot", 100, 50};
+};
+
+class Fields : public testing::Test {
+protected:
+    Form form;
+};
+
+TEST_F(Fields, ABoxRaisesChangeOnlyWhenItsTextDiffers) {
+    form.Box.SetText("1");
+    EXPECT_THAT(form.TakeEvents(), IsEmpty());
+    form.Box.SetText("1.0");
+    form.Box.Enter("1.0");
+    EXPECT_THAT(form.TakeEvents(), ElementsAre("change 1.0"));
+}
+
+TEST_F(Fields, TheMaximumLengthLimitsTheUserAlone) {
+    form.Box.Enter("123456789");
+    EXPECT_EQ(form.Box.Text(), "12345");
+    form.Box.SetText("123456789");
+    EXPECT_EQ(form.Box.Text(), "123456789");
+    form.Box.Enter("äöü€ß!");  // characters, not bytes
+    EXPECT_EQ(form.Box.Text(), "äöü€ß");
+}
+
+TEST_F(Fields, AKeyPressChangesWhatIsTypedAndNothingElse) {
+    form.Box.OnKeyPress = [](char typed) { return typed == ',' ? '.' : typed; };
+    form.Box.Enter("1,5");
+    form.Box.SetText("2,5");
+    EXPECT_THAT(form.TakeEvents(), ElementsAre("change 1.5", "change 2,5"));
+}
+
+TEST_F(Fields, ANewTextPutsTheCaretBack) {
+    form.Box.SetText("some text");
+    form.Box.SetCaret(4);
+    EXPECT_EQ(form.Box.Caret(), 4U);
+    form.Box.SetCaret(400);
+    EXPECT_EQ(form.Box.Caret(), 9U);
+    form.Box.SetText("other");
+    EXPECT_EQ(form.Box.Caret(), 0U);
+}
+
+TEST_F(Fields, ASliderLimitsWhatItIsGiven) {
+    form.Bar.SetValue(15);
+    form.Bar.SetValue(99);
+    form.Bar.SetValue(21);  // stands at 20 already
+    form.Bar.Drag(20);
+    form.Bar.Drag(-5);
+    EXPECT_THAT(form.TakeEvents(), ElementsAre("change 20", "scroll 10", "change 10"));
+}
+
+TEST_F(Fields, ANewRangeMovesTheValueIntoItself) {
+    form.Bar.SetRange(0, 15);
+    EXPECT_THAT(form.TakeEvents(), IsEmpty());
+    form.Bar.SetRange(0, 12);
+    form.Bar.SetRange(14, 14);
+    EXPECT_THAT(form.TakeEvents(), ElementsAre("change 12", "change 14"));
+}
+
+TEST_F(Fields, APickRaisesClickAlsoOnTheRowAlreadyPicked) {
+    form.List.Pick(0);
+    form.List.SetText("a");
+    form.List.SetText("b");
+    EXPECT_EQ(form.List.Picked(), 1);  // the first of that text
+    form.List.SetText("none of them");
+    form.List.Pick(3);
+    form.List.Pick(-1);
+    EXPECT_THAT(form.TakeEvents(), ElementsAre("click a", "click a", "click b"));
+    form.List.Clear();
+    EXPECT_EQ(form.List.Text(), "");
+    EXPECT_THAT(form.TakeEvents(), IsEmpty());
+}
+
+TEST_F(Fields, ACheckBoxRaisesClickWhenItsStateChanges) {
+    form.Check.SetChecked(false);
+    form.Check.SetChecked(true);
+    form.Check.SetChecked(true);
+    form.Check.SetChecked(false);
+    EXPECT_THAT(form.TakeEvents(), ElementsAre("on", "off"));
+}
+
+TEST_F(Fields, AnOptionButtonClearsTheOthersOfItsGroup) {
+    form.Left.Choose();
+    EXPECT_THAT(form.TakeEvents(), IsEmpty());
+    form.Right.Choose();
+    EXPECT_THAT(form.TakeEvents(), ElementsAre("chose Right"));
+    EXPECT_FALSE(form.Left.Checked());
+    EXPECT_TRUE(form.Other.Checked());
+}
+
+TEST_F(Fields, APanelInFrontCoversTheOthersOfItsStack) {
+    form.Sheet[1].BringToFront();
+    EXPECT_FALSE(form.Sheet[0].InFront());
+    EXPECT_TRUE(form.Sheet[1].InFront());
+    EXPECT_TRUE(form.Alone.InFront());
+}
+
+TEST_F(Fields, EventsRunInsideTheWrite) {
+    form.Box.OnChange = [this] {
+        form.events.push_back("box " + form.Box.Text());
+        form.Bar.SetValue(12);
+        form.events.emplace_back("box done");
+    };
+    form.Bar.OnChange = [this] {
+        form.events.push_back("bar " + std::to_string(form.Bar.Value()));
+        form.Box.SetText("12");
+    };
+    form.Box.SetText("12.0");
+    EXPECT_THAT(form.TakeEvents(), ElementsAre("box 12.0", "bar 12", "box 12", "box done", "box done"));
+}
+
+TEST_F(Fields, AWindowKnowsWhatChangedEachOnce) {
+    EXPECT_FALSE(form.HasChanged());
+    form.Text.SetCaption("text");
+    form.Text.SetColour(std::nullopt);
+    form.Bar.SetRange(10, 20);
+    form.Alone.BringToFront();
+    form.Photo.SetPath("");
+    EXPECT_THAT(form.TakeChanged(), IsEmpty());
+
+    form.Text.SetCaption("new");
+    form.Text.SetColour(kRed);
+    form.Bar.SetValue(11);
+    form.Right.Choose();
+    form.Sheet[1].BringToFront();
+    form.Plot.Draw().Line(0, 0, 1, 1);
+    form.SetTitle("Another");
+    EXPECT_THAT(form.TakeChanged(), UnorderedElementsAre(&form.Text, &form.Bar, &form.Left, &form.Right, &form.Sheet[0],
+                                                         &form.Sheet[1], &form.Plot, &form));
+    EXPECT_THAT(form.TakeChanged(), IsEmpty());
+    form.Text.SetCaption("newer");
+    EXPECT_THAT(form.TakeChanged(), ElementsAre(&form.Text));
+}
+
+TEST_F(Fields, ResetIsSilentAndComplete) {
+    form.Box.SetText("9");
+    form.Bar.SetRange(30, 40);
+    form.List.Clear();
+    form.Right.Choose();
+    form.Check.SetChecked(true);
+    form.Text.SetVisible(false);
+    form.Text.SetEnabled(false);
+    form.Sheet[1].BringToFront();
+    form.Photo.SetPath("a.jpg");
+    form.Plot.Draw().Line(0, 0, 1, 1);
+    form.SetTitle("Another");
+    form.TakeEvents();
+    form.Reset();
+    EXPECT_THAT(form.TakeEvents(), IsEmpty());
+    EXPECT_EQ(form.Box.Text(), "1");
+    EXPECT_EQ(form.Bar.Value(), 15);
+    EXPECT_EQ(form.Bar.Max(), 20);
+    EXPECT_EQ(form.List.Text(), "a");
+    EXPECT_TRUE(form.Left.Checked());
+    EXPECT_FALSE(form.Right.Checked());
+    EXPECT_FALSE(form.Check.Checked());
+    EXPECT_TRUE(form.Text.Visible() && form.Text.Enabled());
+    EXPECT_TRUE(form.Sheet[0].InFront());
+    EXPECT_EQ(form.Photo.Path(), "");
+    EXPECT_TRUE(form.Plot.Drawing().Operations().empty());
+    EXPECT_EQ(form.Title(), "A form");
+}
+
+TEST_F(ZolvTest, AFreshStartLeavesNothingOfTheRunBefore) {
+    const std::vector<std::string> before = EverythingShown();
+    Start();
+    Set("Select_Car", "Series Mu");
+    Set("UseFixedSpeed", "on");
+    Set("Gear1", "3,9");
+    Set("OptionsPanel.Select_SpeedUnits", "Miles per Hour");
+    EXPECT_NE(EverythingShown(), before);
+    FreshStart();
+    EXPECT_EQ(EverythingShown(), before);
+}
+
+TEST(Registry, FindsEveryFieldByItsName) {
+    for (const Window* window : AllWindows()) {
+        std::set<std::string> names;
+        for (const Field* field : window->Fields()) {
+            EXPECT_TRUE(names.insert(field->Name()).second) << field->Name() << " twice in " << window->Name();
+            EXPECT_THAT(FindFields(window->Name() + '.' + field->Name()), ElementsAre(field));
+        }
+    }
+    EXPECT_THAT(FindFields("GearingLabel(30)"), ElementsAre(&Zolv.GearingLabel[30]));
+    EXPECT_THAT(FindFields("Select_MassUnits"), testing::SizeIs(2));  // of two windows
+    EXPECT_THAT(FindFields("UnitConv.Select_MassUnits"), testing::SizeIs(1));
+    EXPECT_THAT(FindFields("OptionsPanel"), ElementsAre(&OptionsPanel));
+    EXPECT_THAT(FindFields("Gear7"), IsEmpty());
+    EXPECT_THAT(FindFields("UnitConv.Gear3"), IsEmpty());
+    EXPECT_EQ(NearestFieldName("gaer3"), "Gear3");
+}
+
+struct SliderCase {
+    const char* name;
+    int min, max, small, large, tick, value;
+};
+class StartSlider : public testing::TestWithParam<SliderCase> {};
+
+TEST_P(StartSlider, StandsAsItsFormSays) {
+    FreshStart();
+    const SliderCase& row = GetParam();
+    const auto& slider = static_cast<const Slider&>(*FindFields(row.name).at(0));
+    EXPECT_THAT((std::vector{slider.Min(), slider.Max(), slider.SmallStep(), slider.LargeStep(), slider.Tick(),
+                             slider.Value()}),
+                ElementsAre(row.min, row.max, row.small, row.large, row.tick, row.value));
+}
+
+INSTANTIATE_TEST_SUITE_P(OfTheMainWindow, StartSlider,
+                         testing::Values(SliderCase{"Select_Ratio1", 500, 7500, 10, 100, 500, 3500},
+                                         SliderCase{"Select_Ratio4", 500, 7500, 10, 100, 500, 1350},
+                                         SliderCase{"Select_Ratio6", 500, 7500, 10, 100, 500, 1000},
+                                         SliderCase{"Select_FinalDrive1", 500, 7500, 100, 500, 500, 4000},
+                                         SliderCase{"Select_FinalDrive2", 500, 7500, 100, 500, 500, 4000},
+                                         SliderCase{"Select_Speed1", 1, 200, 1, 5, 36, 16},
+                                         SliderCase{"Select_Speed6", 1, 200, 1, 5, 36, 60},
+                                         SliderCase{"Select_AeroSpeed", 0, 200, 1, 10, 1, 40},
+                                         SliderCase{"Select_AeroSpeed_TyreTab", 0, 200, 1, 10, 1, 40},
+                                         SliderCase{"Select_FrontWingAngle", 0, 15, 1, 3, 1, 7},
+                                         SliderCase{"Select_RearWingAngle", 0, 30, 1, 3, 1, 14}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace zolv

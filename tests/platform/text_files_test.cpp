@@ -1,0 +1,184 @@
+#include "platform/text_files.h"
+
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+
+#include "support/zolv_test.h"
+
+namespace zolv {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// In a folder of its own, which is the current directory.
+class TextFiles : public testing::Test {
+protected:
+    static std::vector<std::string> Names() {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(".")) names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+private:
+    TemporaryFolder folder_;
+};
+
+TEST(SplitLines, SplitsAtCarriageReturnAndLineFeedTogether) {
+    EXPECT_THAT(SplitLines(""), ElementsAre(""));
+    EXPECT_THAT(SplitLines("one"), ElementsAre("one"));
+    EXPECT_THAT(SplitLines("one\r\ntwo"), ElementsAre("one", "two"));
+    EXPECT_THAT(SplitLines("one\r\n\r\n"), ElementsAre("one", "", ""));
+    EXPECT_THAT(SplitLines("a\nb\rc\r\nd"), ElementsAre("a\nb\rc", "d"));
+    EXPECT_THAT(SplitLines("a\r\r\nb"), ElementsAre("a\r", "b"));
+}
+
+TEST_F(TextFiles, AreReadWholeWithoutByteOrderMark) {
+    WriteContent("plain", "one\r\ntwo");
+    WriteContent("marked", "\xEF\xBB\xBFone\r\n");
+    WriteContent("empty", "");
+    EXPECT_EQ(ReadTextFile("plain", 100).text, "one\r\ntwo");
+    EXPECT_EQ(ReadTextFile("marked", 100).text, "one\r\n");
+    EXPECT_TRUE(ReadTextFile("empty", 100).readable);
+}
+
+TEST_F(TextFiles, AreReadUpToTheLimit) {
+    WriteContent("file", std::string(20000, 'x'));
+    EXPECT_TRUE(ReadTextFile("file", 20000).readable);
+    const FileText refused = ReadTextFile("file", 19999);
+    EXPECT_FALSE(refused.readable);
+    EXPECT_TRUE(refused.text.empty());
+    EXPECT_THAT(refused.reason, HasSubstr("19999"));
+}
+
+TEST_F(TextFiles, WhatIsNoFileIsRefusedWithItsReason) {
+    fs::create_directory("folder");
+    ASSERT_EQ(::mkfifo("pipe", 0600), 0);  // opened like a file it would wait for a writer for ever
+    EXPECT_EQ(ReadTextFile("folder", 100).reason, "Is a directory");
+    EXPECT_FALSE(ReadTextFile("folder", 100).missing);
+    EXPECT_EQ(ReadTextFile("pipe", 100).reason, "Not a regular file");
+    EXPECT_EQ(ReadTextFile("nothing", 100).reason, "No such file or directory");
+    EXPECT_TRUE(ReadTextFile("nothing", 100).missing);
+    EXPECT_EQ(WriteTextFile("folder", "new"), "Is a directory");
+    EXPECT_EQ(WriteTextFile("pipe", "new"), "Not a regular file");
+    EXPECT_THAT(Names(), ElementsAre("folder", "pipe"));
+}
+
+TEST_F(TextFiles, ExistOnlyWithSomethingInThem) {
+    WriteContent("full", "x");
+    WriteContent("empty", "");
+    fs::create_directory("folder");
+    EXPECT_EQ(FileExists("full"), 1);
+    EXPECT_EQ(FileExists("empty"), 0);
+    EXPECT_EQ(FileExists("folder"), 0);
+    EXPECT_EQ(FileExists("nothing"), 0);
+    EXPECT_EQ(FileExists(std::string("full\0x", 6)), 0);
+}
+
+TEST_F(TextFiles, AreWrittenWithNothingLeftBeside) {
+    EXPECT_EQ(WriteTextFile("file", "first\r\n"), "");
+    EXPECT_EQ(ContentOf("file"), "first\r\n");
+    EXPECT_EQ(WriteTextFile("file", "2"), "");
+    EXPECT_EQ(ContentOf("file"), "2");
+    EXPECT_THAT(Names(), ElementsAre("file"));
+}
+
+TEST_F(TextFiles, KeepTheirPermissionsWhenReplaced) {
+    WriteContent("file", "old");
+    fs::permissions("file", fs::perms(0640));
+    EXPECT_EQ(WriteTextFile("file", "new"), "");
+    EXPECT_EQ(fs::status("file").permissions(), fs::perms(0640));
+}
+
+TEST_F(TextFiles, BehindALinkAreReplacedAndTheLinkStays) {
+    fs::create_directory("folder");
+    WriteContent("folder/file", "old");
+    fs::create_symlink("folder/file", "link");
+    EXPECT_EQ(WriteTextFile("link", "new"), "");
+    EXPECT_TRUE(fs::is_symlink("link"));
+    EXPECT_EQ(ContentOf("folder/file"), "new");
+
+    fs::create_symlink("folder/later", "dangling");
+    EXPECT_EQ(WriteTextFile("dangling", "made"), "");
+    EXPECT_TRUE(fs::is_symlink("dangling"));
+    EXPECT_EQ(ContentOf("folder/later"), "made");
+
+    fs::create_symlink("circle", "circle");
+    EXPECT_EQ(WriteTextFile("circle", "new"), "Too many levels of symbolic links");
+}
+
+TEST_F(TextFiles, WithoutAPlaceAreNotWritten) {
+    EXPECT_EQ(WriteTextFile("nowhere/file", "new"), "No such file or directory");
+    EXPECT_EQ(WriteTextFile("", "new"), "Invalid argument");
+    EXPECT_EQ(WriteTextFile(std::string(5000, 'n'), "new"), "File name too long");
+    EXPECT_TRUE(Names().empty());
+}
+
+/// A limit on the size of files, which stands in for a disk that is full.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+    ~FullDisk() {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+private:
+    rlimit before_{};
+    void (*handler_)(int);
+};
+
+TEST_F(TextFiles, OnAFullDiskTheOldFileStaysWhole) {
+    WriteContent("file", "old and whole");
+    std::string reason;
+    {
+        const FullDisk full(1000);
+        reason = WriteTextFile("file", std::string(5000, 'n'));
+    }
+    EXPECT_EQ(reason, "File too large");
+    EXPECT_EQ(ContentOf("file"), "old and whole");
+    EXPECT_THAT(Names(), ElementsAre("file"));
+}
+
+TEST_F(TextFiles, WithoutPermissionTheOldFileStays) {
+    if (::geteuid() == 0) GTEST_SKIP() << "root may write everything";
+    WriteContent("locked", "old");
+    fs::permissions("locked", fs::perms(0440));
+    EXPECT_EQ(WriteTextFile("locked", "new"), "Permission denied");
+    EXPECT_EQ(ContentOf("locked"), "old");
+
+    fs::create_directory("folder");
+    WriteContent("folder/file", "old");
+    fs::permissions("folder", fs::perms(0555));
+    EXPECT_EQ(WriteTextFile("folder/file", "new"), "Permission denied");
+    EXPECT_EQ(ContentOf("folder/file"), "old");
+    fs::permissions("folder", fs::perms(0755));
+}
+
+TEST_F(TextFiles, TheCurrentDirectoryEndsInASeparator) {
+    EXPECT_EQ(CurrentDirectory(), fs::current_path().string() + '/');
+    fs::current_path("/");
+    EXPECT_EQ(CurrentDirectory(), "/");
+}
+
+TEST(FileMessages, HoldTheFileAndTheReason) {
+    EXPECT_EQ(CannotRead("a.zolv", "Is a directory"), "Cannot read a.zolv: Is a directory");
+    EXPECT_EQ(CannotWrite("/b.zolv", "Disk full"), "Cannot write /b.zolv: Disk full");
+}
+
+}  // namespace
+}  // namespace zolv

@@ -1,0 +1,161 @@
+#include "tyres/tyres_page.h"
+
+#include "aero/aero_state.h"
+#include "gearing/gearing_state.h"
+#include "language/number_text.h"
+#include "support/zolv_test.h"
+#include "tyres/tyre_state.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+namespace {
+
+class TyresPage : public ZolvTest {
+protected:
+    TyresPage() {
+        Start();
+        Set("OptionsPanel.Select_DistanceUnits", "Millimeters");
+    }
+};
+
+struct TyreCase {
+    const char* name;
+    const char* car;
+    const char* tyre;
+    bool blown;
+    const char* width;
+    const char* length;
+    const char* unloaded;
+    const char* deformation;
+    const char* rolling;
+    const char* wall;
+    const char* aspect;
+    const char* frequency;
+};
+class TyreFiguresOf : public TyresPage, public testing::WithParamInterface<TyreCase> {};
+
+TEST_P(TyreFiguresOf, AreShown) {
+    const TyreCase& row = GetParam();
+    Set("AccelerationTestingEnable", "off");  // a run would leave its own axle loads
+    Set("Select_Car", row.car);
+    Set("BlowTyres", row.blown ? "on" : "off");
+    Set(row.tyre, "on");
+    EXPECT_EQ(Shown("CPW"), row.width);
+    EXPECT_EQ(Shown("CPL"), row.length);
+    EXPECT_EQ(Shown("UTR"), row.unloaded);
+    EXPECT_EQ(Shown("TD"), row.deformation);
+    EXPECT_EQ(Shown("TRRC"), row.rolling);
+    EXPECT_EQ(Shown("TWH"), row.wall);
+    EXPECT_EQ(Shown("CPAR"), row.aspect);
+    EXPECT_EQ(Shown("TF"), row.frequency);
+}
+
+// From a separate calculation in Python, at 175 kPa and 40 m/s.
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Computed, TyreFiguresOf, testing::Values(
+    TyreCase{"MoteFront",   "Mote 900",  "FrontTyreAnal", false, "160 mm", "81 mm",  "232 mm", "4 mm",  "229 mm / 1437 mm", "76 mm",  "1.97 : 1", "8.34 Hz"},
+    TyreCase{"MoteRear",    "Mote 900",  "RearTyreAnal",  false, "160 mm", "70 mm",  "232 mm", "3 mm",  "230 mm / 1443 mm", "77 mm",  "2.28 : 1", "9.66 Hz"},
+    TyreCase{"MoteBlown",   "Mote 900",  "FrontTyreAnal", true,  "160 mm", "185 mm", "232 mm", "19 mm", "213 mm / 1339 mm", "61 mm",  "0.87 : 1", "3.6 Hz"},
+    TyreCase{"SeriesFront", "Series Lo", "FrontTyreAnal", false, "275 mm", "103 mm", "316 mm", "4 mm",  "312 mm / 1961 mm", "147 mm", "2.67 : 1", "8.99 Hz"},
+    TyreCase{"SeriesRear",  "Series Lo", "RearTyreAnal",  false, "390 mm", "113 mm", "321 mm", "5 mm",  "316 mm / 1986 mm", "151 mm", "3.46 : 1", "8.46 Hz"}),
+    [](const auto& row) { return std::string(row.param.name); });
+// clang-format on
+
+TEST_F(TyresPage, ABlownTyreHasNoPressureAndTheSlidersStay) {
+    Set("Select_Car", "Mote 900");
+    Set("BlowTyres", "on");
+    EXPECT_EQ(Shown("TS"), "100 kN/m");
+    EXPECT_EQ(Shown("Label_PressureF"), "0 kPa");
+    EXPECT_EQ(Shown("Select_PressureF"), "175");
+    Set("BlowTyres", "off");
+    EXPECT_EQ(Shown("TS"), "537.5 kN/m");
+    EXPECT_EQ(Shown("Label_PressureR"), "175 kPa");
+}
+
+TEST_F(TyresPage, ATyreOnItsRimHasNoWallLeft) {
+    UseCustomCar("Mote 900", {{CarField::Mass, 20000}});
+    Set("BlowTyres", "on");
+    EXPECT_EQ(Shown("TWH"), "0 mm");
+    EXPECT_EQ(Zolv.TWH.Colour(), kRed);
+    EXPECT_EQ(tyres.FrontDeformation, vehicle.FrontMaxDeformation);
+    EXPECT_EQ(tyres.RearDeformation, vehicle.RearMaxDeformation);
+    Set("Select_Car", "Pell S");
+    EXPECT_EQ(Zolv.TWH.Colour(), kBlack);
+}
+
+TEST_F(TyresPage, FrontFiguresAreDoublesAndRearFiguresSingles) {
+    Set("Select_Car", "Wisp 6");
+    // A bit pattern of a double that no float holds, and one that a float has been through.
+    EXPECT_NE(tyres.FrontPatchLength, static_cast<double>(static_cast<float>(tyres.FrontPatchLength)));
+    UseCustomCar("Mote 900", {{CarField::WeightDist, 0.5}});
+    Set("UseFixedSpeed", "on");
+    EXPECT_NEAR(tyres.FrontPatchLength, static_cast<double>(tyres.RearPatchLength), 1e-5);
+    EXPECT_NE(tyres.FrontPatchLength, static_cast<double>(tyres.RearPatchLength));
+}
+
+TEST_F(TyresPage, AnalysingTheOtherTyreChangesNoNumberOfTheGearing) {
+    const GearingState before = gearing;
+    Set("RearTyreAnal", "on");
+    EXPECT_EQ(gearing.GearSpeed, before.GearSpeed);
+    EXPECT_EQ(gearing.AccelLastRow, before.AccelLastRow);
+    EXPECT_EQ(Shown("CPW"), "185 mm");
+}
+
+TEST_F(TyresPage, ARunLeavesItsAxleLoadsForTheNextAnalysis) {
+    Set("Select_Car", "Series Lo");
+    const float lastFront = gearing.AccelRows[static_cast<std::size_t>(gearing.AccelLastRow)][AccelColumn::FrontLoad];
+    EXPECT_EQ(aero.FrontWheelForce, lastFront);  // of the run at top speed, not of the slider's 40 m/s
+    Set("Select_PressureF", "176");
+    // Half the axle's load on 100 + 2.5 * 176 = 540 kN/m.
+    EXPECT_NEAR(tyres.FrontDeformation, static_cast<double>(lastFront) * 0.5 / 540'000, 1e-9);
+    Set("Select_AeroSpeed", "0");
+    EXPECT_NEAR(aero.FrontWheelForce, 717 * 9.80665 * 0.47, 0.01);
+    EXPECT_NEAR(tyres.FrontDeformation, 717 * 9.80665 * 0.47 * 0.5 / 540'000, 1e-9);
+}
+
+TEST_F(TyresPage, TheGearingLeavesTheDeformationOfItsLastGear) {
+    Set("Select_Car", "Series Lo");  // rear driven: the front stays analysed
+    EXPECT_NEAR(tyres.RearDeformation, static_cast<double>(gearing.GearAxleLoads[6].rear) * 0.5 / 537'500, 1e-9);
+    Set("AccelerationTestingEnable", "off");
+    Set("FrontTyreAnal", "on");
+    Set("Select_AeroSpeed", "0");
+    EXPECT_NEAR(tyres.RearDeformation, 717 * 9.80665 * 0.53 * 0.5 / 537'500, 1e-9);
+}
+
+TEST_F(TyresPage, TheListShowsATypeWhoseGripCountsOnlyOncePicked) {
+    EXPECT_EQ(Shown("Select_Tyres"), "Road Super");
+    EXPECT_EQ(Shown("MU"), "1.1");
+    Set("Select_Tyres", "Road Super");
+    EXPECT_EQ(Shown("MU"), "1.25");
+}
+
+TEST_F(TyresPage, BothListsShowTheSameTypeAndItMovesNoRadius) {
+    Set("Select_Car", "Series Lo");
+    const std::string slow = Shown("AccDataLabel(0)");
+    int taken = 0;
+    const Hook wired = tyres.TyreTypeTaken;
+    tyres.TyreTypeTaken = [&] {
+        ++taken;
+        wired();
+    };
+    Set("Select_Tyres2", "Knobbly");
+    EXPECT_EQ(taken, 1);
+    EXPECT_EQ(Shown("Select_Tyres"), "Knobbly");
+    EXPECT_EQ(Shown("MU"), "1");
+    Set("Select_Tyres", "Slick R1");
+    EXPECT_EQ(taken, 2);
+    EXPECT_EQ(Shown("Select_Tyres2"), "Slick R1");
+    EXPECT_EQ(Shown("MU"), "1.65");
+    EXPECT_EQ(Shown("Speed1"), "25.1 m/s");
+    EXPECT_LT(Val(Shown("AccDataLabel(0)")), Val(slow));
+}
+
+TEST_F(TyresPage, ACarThatTheAirLiftsHasNoPatch) {
+    UseCustomCar("Pell S", {{CarField::Cl, 100}});
+    Set("Select_AeroSpeed", "200");
+    for (const char* name : {"CPL", "CPA", "CPAR", "FRCPR"}) EXPECT_EQ(Shown(name), "N/A") << name;
+    ExpectOnlyNumbers();
+}
+
+}  // namespace
+}  // namespace zolv

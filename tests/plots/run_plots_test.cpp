@@ -23,17 +23,17 @@ protected:
     }
 };
 
-// By hand: row 10 is 0.5 s, so 4320 / 0.5 = 8640 units for 1 s, 432 from row to row. First gear pushes with
-// 100 * 0.5 * 2 * 4 / (0.5 * 0.95) = 842.105 N, so 2715 / 842.105 = 3.224063 units for 1 N.
+// By hand: row 9 is 0.45 s, so 4320 / 0.45 = 9600 units for 1 s, 480 from row to row. First gear pushes with
+// 100 * 0.5 * 2 * 4 / (0.5 * 0.95) = 842.105 N, so 2715 / 842.105 = 3.224063 units for 1 N. The last stride is left
+// out.
 TEST_F(RunPlots, ForcesAtEveryThirdRow) {
-    Run(10);
+    Run(9);
     DrawGearingPlots();
     EXPECT_THAT(DrawnBesideGrid(Zolv.TractiveEffortPlot.Drawing()),
-                ElementsAre("line 200,2715 1496,1747.781 green 2",  // row 3: 300, 30 and 270 N
-                            "line 200,2715 1496,2618.278 red 2", "line 200,2715 1496,1844.503 blue 2",
-                            "line 1496,1747.781 2792,780.563 green 2", "line 1496,2618.278 2792,2521.556 red 2",
-                            "line 1496,1844.503 2792,974.006 blue 2", "line 2792,780.563 4088,-186.656 green 2",
-                            "line 2792,2521.556 4088,2424.834 red 2", "line 2792,974.006 4088,103.509 blue 2"));
+                ElementsAre("line 200,2715 1640,1747.781 green 2",  // row 3: 300, 30 and 270 N
+                            "line 200,2715 1640,2618.278 red 2", "line 200,2715 1640,1844.503 blue 2",
+                            "line 1640,1747.781 3080,780.563 green 2", "line 1640,2618.278 3080,2521.556 red 2",
+                            "line 1640,1844.503 3080,974.006 blue 2"));
 }
 
 TEST_F(RunPlots, LoadsComeLastWithTheirNames) {
@@ -50,12 +50,13 @@ TEST_F(RunPlots, LoadsComeLastWithTheirNames) {
                                            LegendEntry{"Rear", kCyan}));
 }
 
-// By hand: row 20 is 1 s; its speed of 40 m/s stands at 2715 / 1.1 of the height, 61.704545 units for 1 m/s.
+// By hand: row 24 is 1.2 s, so 3600 units for 1 s; its 48 m/s stand at 2715 / 1.1 of the height, 51.420455 units for
+// 1 m/s. The last stride is left out.
 TEST_F(RunPlots, SpeedAtEveryEighthRow) {
-    Run(20);
+    Run(24);
     DrawGearingPlots();
     EXPECT_THAT(DrawnBesideGrid(Zolv.SpeedTimeGraph.Drawing()),
-                ElementsAre("line 200,2715 1928,1727.727 black 2", "line 1928,1727.727 3656,740.455 black 2"));
+                ElementsAre("line 200,2715 1640,1892.273 black 2", "line 1640,1892.273 3080,1069.545 black 2"));
 }
 
 TEST_F(RunPlots, AxesAreInSecondsAndInTheUnitShown) {

@@ -29,6 +29,13 @@ TEST_F(SpeedPlot, GridRunsToTheFirstLineBeyondTheFrame) {
                                    "line 200,-626.538 4540,-626.538 black 1"));
 }
 
+TEST_F(SpeedPlot, GridWithoutStepsEnds) {
+    options.SpeedPlotXScale = options.SpeedPlotYScale = 0;
+    DrawGearingPlots();
+    const Canvas& plot = Zolv.SpeedPlot.Drawing();
+    EXPECT_EQ(Drawn(plot).size() - DrawnBesideGrid(plot).size(), 2U * 101);
+}
+
 TEST_F(SpeedPlot, MarksAndRaysOfTheGearsThatTheCarHas) {
     options.TorqueLineOn = true;
     options.RedlineOn = true;

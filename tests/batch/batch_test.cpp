@@ -1,0 +1,220 @@
+// The command line of zolv-batch, and what it says of a line that it cannot use.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "batch/batch_run.h"
+
+namespace zolv {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::AllOf;
+using testing::AnyOf;
+using testing::ContainsRegex;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class Batch : public testing::Test {
+protected:
+    TemporaryFolder folder_;
+};
+
+/// A line, and what standard error says of it behind the place.
+struct UnusableCase {
+    const char* name;
+    const char* script;  // the last line is the unusable one
+    const char* said;
+};
+
+class UnusableLine : public Batch, public testing::WithParamInterface<UnusableCase> {};
+
+TEST_P(UnusableLine, EndsTheRun) {
+    const std::string script = GetParam().script;
+    const auto line = 2 + std::count(script.begin(), script.end(), '\n');
+    const BatchRun run = RunBatch("get Gear1\n" + script + "\nget Gear2\n");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.Answers(), ElementsAre("Gear1 = 3.5")) << "what was printed before stands";
+    EXPECT_EQ(run.errors, "zolv-batch: -:" + std::to_string(line) + ": " + GetParam().said + '\n');
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Names, UnusableLine,
+    testing::Values(UnusableCase{"Command", "gte Gear1", "unknown command gte; did you mean get?"},
+                    UnusableCase{"CommandCase", "Report", "unknown command Report; did you mean report?"},
+                    UnusableCase{"Field", "get Gera3", "unknown field Gera3; did you mean Gear3?"},
+                    UnusableCase{"FieldCase", "set gear3 1.6", "unknown field gear3; did you mean Gear3?"},
+                    UnusableCase{"FieldOfAnArray", "get GearingLabel(40)",
+                                 "unknown field GearingLabel(40); did you mean GearingLabel(0)?"},
+                    UnusableCase{"FieldOfAWindow", "click UnitConv.CloseConf",
+                                 "unknown field UnitConv.CloseConf; did you mean UnitConv.CloseConv?"},
+                    UnusableCase{"Property", "get Gear3 color", "unknown property color; did you mean colour?"},
+                    UnusableCase{"SharedName", "set Select_MassUnits Pounds",
+                                 "two windows have a field Select_MassUnits; write OptionsPanel.Select_MassUnits or "
+                                 "UnitConv.Select_MassUnits"},
+                    UnusableCase{"Row", "set Select_Car Mote 90",
+                                 "Select_Car has no row \"Mote 90\"; did you mean \"Mote 900\"?"},
+                    UnusableCase{"RowWithABlankBehind", "set Select_Page Tyres ",
+                                 "Select_Page has no row \"Tyres \"; did you mean \"Tyres\"?"},
+                    UnusableCase{"NoField", "get", "the name of a field is missing"},
+                    UnusableCase{"NoFieldBehindBlanks", "click  ", "the name of a field is missing"},
+                    UnusableCase{"TooManyWords", "get Gear1 visible now", "more words than the command takes: now"},
+                    UnusableCase{"ClickTakesNoValue", "click FileClose now", "more words than the command takes: now"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, UnusableLine,
+    testing::Values(
+        UnusableCase{"WordForASlider", "set Select_Ratio1 much", "Select_Ratio1 takes a whole number, not \"much\""},
+        UnusableCase{"NothingForASlider", "set Select_Ratio1", "Select_Ratio1 takes a whole number, not \"\""},
+        UnusableCase{"NumberAndMore", "set Select_Ratio1 3500 rpm",
+                     "Select_Ratio1 takes a whole number, not \"3500 rpm\""},
+        UnusableCase{"NotANumber", "set Select_Ratio1 nan", "Select_Ratio1 takes a whole number, not \"nan\""},
+        UnusableCase{"PointAlone", "set Select_Ratio1 .", "Select_Ratio1 takes a whole number, not \".\""},
+        UnusableCase{"WordForACheckBox", "set BlowTyres yes", "BlowTyres takes on or off, not \"yes\""},
+        UnusableCase{"ValueForALabel", "set RPM1 7000", "RPM1 is nothing that a value can be set in"},
+        UnusableCase{"PressOnABox", "click Gear1", "Gear1 is nothing that can be pressed"},
+        UnusableCase{"RangeOfABox", "get Gear1 min", "Gear1 is no slider and has no min and max"},
+        UnusableCase{"RowsOfASlider", "get Select_Ratio1 rows", "Select_Ratio1 is no list and has no rows"},
+        UnusableCase{"CanvasOfABox", "canvas Gear1", "Gear1 is not a canvas"},
+        UnusableCase{"DisabledSlider", "click UseFixedSpeed\nset Select_AeroSpeed 50", "Select_AeroSpeed is disabled"},
+        UnusableCase{"LockedBox", "set AccelerationData x", "AccelerationData is locked"},
+        UnusableCase{"LockedList", "set AccelerationTestingEnable off\nset Select_Graphs Acceleration Data Table",
+                     "Select_Graphs is locked"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, UnusableLine,
+    testing::Values(UnusableCase{"Picture", "picture SpeedPlot nowhere/a.svg",
+                                 "Cannot write nowhere/a.svg: No such file or directory"},
+                    UnusableCase{"PictureOverAFolder", "picture SpeedPlot .", "Cannot write .: Is a directory"},
+                    UnusableCase{"PictureWithoutAName", "picture SpeedPlot", "the name of a file is missing"},
+                    UnusableCase{"Language", "write-language nowhere/a.txt",
+                                 "Cannot write nowhere/a.txt: No such file or directory"},
+                    UnusableCase{"LanguageWithoutAName", "write-language ", "the name of a file is missing"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Batch, TellsItsUseAndItsVersion) {
+    const BatchRun help = RunBatch("", "--help");
+    EXPECT_EQ(help.status, 0);
+    for (const char* command : {"set FIELD VALUE", "click FIELD", "get FIELD", "canvas FIELD", "picture FIELD FILE",
+                                "answer PATH", "write-language FILE", "report"}) {
+        EXPECT_THAT(help.output, HasSubstr(command));
+    }
+    EXPECT_EQ(RunBatch("", "--version").output, "zolv-batch 2.5.3\n");
+    const BatchRun unknown = RunBatch("", "--halp");
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_EQ(unknown.output, "");
+    EXPECT_THAT(unknown.errors, StartsWith("zolv-batch: unknown option --halp"));
+}
+
+TEST_F(Batch, RunsSeveralScriptsInOneProgram) {
+    WriteContent("one", "set Gear1 3.6\n");
+    WriteContent("two", "get Gear1\n\nget Gaer2");
+    const BatchRun run = RunBatch("set Gear1 3.7\n", "one - two one");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.Answers(), ElementsAre("Gear1 = 3.7"));
+    EXPECT_EQ(run.errors, "zolv-batch: two:3: unknown field Gaer2; did you mean Gear2?\n");
+}
+
+TEST_F(Batch, TellsAScriptThatCannotBeRead) {
+    for (const char* name : {"nowhere", "."}) {
+        WriteContent("good", "get Gear1\n");
+        const BatchRun run = RunBatch("", std::string("good ") + name);
+        EXPECT_EQ(run.status, 2);
+        EXPECT_THAT(run.Answers(), ElementsAre("Gear1 = 3.5"));
+        EXPECT_THAT(run.errors,
+                    AllOf(StartsWith(std::string("zolv-batch: ") + name + ": cannot be "), Not(ContainsRegex("\n."))));
+    }
+}
+
+TEST_F(Batch, ReadsEveryKindOfLineEnd) {
+    for (const char* script : {"set NewName a b\nget NewName", "set NewName a b\r\nget NewName\r\n",
+                               "\xEF\xBB\xBFset NewName a b\nget NewName\n",
+                               "\xEF\xBB\xBF# x\r\nset NewName a b\r\n"
+                               "get NewName"}) {
+        const BatchRun run = RunBatch(script);
+        EXPECT_EQ(run.errors, "");
+        EXPECT_THAT(run.Answers(), ElementsAre("NewName = a b"));
+    }
+    EXPECT_THAT(RunBatch("").Answers(), ElementsAre());
+}
+
+TEST_F(Batch, LosesNoAnswerWithoutAWord) {
+    const BatchRun run = RunBatch("get Gear1\n", "> /dev/full");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.errors, "zolv-batch: standard output cannot be written\n");
+}
+
+TEST_F(Batch, WritesPicturesAndTheBuiltInLanguage) {
+    const BatchRun run = RunBatch("picture SpeedPlot my plot.svg\nwrite-language language_English.txt\nget Zolv\n");
+    EXPECT_EQ(run.errors, "");
+    EXPECT_THAT(run.Answers(), ElementsAre("Zolv = Tarmaq Zolv"));
+    EXPECT_THAT(ContentOf("my plot.svg"), AllOf(HasSubstr("<svg "), HasSubstr("viewBox=\"0 0 4635 3015\"")));
+    const std::string words = ContentOf("language_English.txt");
+    EXPECT_THAT(words, StartsWith("English\r\n"));
+    EXPECT_EQ(std::count(words.begin(), words.end(), '\n'), 338) << "339 lines, the last without an end";
+}
+
+TEST_F(Batch, ACancelledDialogOpensNothing) {
+    WriteContent("a.zolv", "");
+    const BatchRun run = RunBatch("answer  \t \nanswer a.zolv\nclick FileOpen\nclick FileOpen\nclick FileOpen\n");
+    EXPECT_EQ(run.status, 0);
+    ASSERT_EQ(run.Answers().size(), 1U) << "of three dialogs, one was answered with a file";
+    EXPECT_THAT(run.Answers()[0], HasSubstr("message: Cannot read a.zolv: "));
+}
+
+// Figures of the set-up at start, as the scripts have them from a separate calculation.
+TEST_F(Batch, ReportsTheWholeSetUp) {
+    const BatchRun run = RunBatch("report\n");
+    EXPECT_EQ(run.status, 0);
+    for (const char* line :
+         {"Tarmaq Zolv: Pell S", "Power: +86 kW @ 7033 rpm", "Drivetrain: +Front Wheel Drive",
+          "Pressure range: +126-380 kPa +106-320 kPa", "Gearing: Ratios ==> Speeds", "Final Drive: 4",
+          "1st +3\\.5 +17\\.1 m/s +8303 rpm +5694 rpm +1456 Nm", "4th +1\\.35 +40\\.2 m/s +7547 rpm +6429 rpm",
+          "5th +1\\.15 +50\\.6 m/s +8088 rpm +478 Nm\n", "Reverse +7\\.5 ", "Front tyre pressure: +175 kPa",
+          "Top Speed: +53\\.6 m/s"}) {
+        EXPECT_THAT(run.output, ContainsRegex(line));
+    }
+    EXPECT_THAT(run.output, Not(AnyOf(HasSubstr("6th"), HasSubstr("Wing"))));
+    EXPECT_THAT(run.output, Not(ContainsRegex(" \n"))) << "no blank at a line's end";
+}
+
+TEST_F(Batch, ReportLeavesOutWhatTheCarLacksAndSaysWhatIsWrong) {
+    const BatchRun run = RunBatch("set Select_Car Gnat 5\nset Gear3 2.6\nreport\n");
+    EXPECT_THAT(run.output, HasSubstr("The ratio for 3rd cannot be shorter than the ratio for 2nd"));
+    EXPECT_THAT(run.output, ContainsRegex("3rd +2\\.6 +- +- +- +-\n")) << "no result of other ratios beside these";
+    EXPECT_THAT(run.output, Not(HasSubstr("Reverse")));
+    EXPECT_THAT(run.output, Not(HasSubstr("v-max")));
+    const BatchRun winged = RunBatch("set Select_Car Series Lo\nset AccelerationTestingEnable off\nreport\n");
+    EXPECT_THAT(winged.output, AllOf(HasSubstr("Front Wing Angle:"), ContainsRegex("Rear Wing Info +[0-9]+ N +-[0-9]"),
+                                     HasSubstr("6th"), Not(HasSubstr("v-max"))));
+}
+
+TEST_F(Batch, ReportsEveryExample) {
+    int examples = 0;
+    for (const auto& entry : fs::directory_iterator(ZOLV_SOURCE_DIR "/examples")) {
+        if (entry.path().extension() != ".zolv") continue;
+        ++examples;
+        const std::string path = entry.path().string();
+        const BatchRun run = RunBatch("answer " + path + "\nclick FileOpen\nget Select_Car\nget Gear1\nreport\n");
+        const std::vector<std::string> lines = run.Answers();
+        ASSERT_GT(lines.size(), 40U) << path;
+        EXPECT_THAT(ContentOf(path), HasSubstr("CarName: " + lines[0].substr(13) + "\r\n"));
+        EXPECT_EQ(lines[2], "Tarmaq Zolv: " + lines[0].substr(13));
+        EXPECT_EQ(lines[4], "  " + path);
+        EXPECT_THAT(run.output, ContainsRegex("1st +" + lines[1].substr(8) + " +[0-9.]+ m/s"));
+        EXPECT_THAT(run.output, Not(HasSubstr("NOT been updated")));
+    }
+    EXPECT_GE(examples, 4);
+}
+
+}  // namespace
+}  // namespace zolv

@@ -1,0 +1,140 @@
+#include "desktop/aero_page_view.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "desktop/page_parts.h"
+#include "desktop/theme.h"
+#include "fields/windows.h"
+
+namespace zolv {
+namespace {
+
+/// On the widest screens names and figures stay near each other.
+constexpr int kWidestColumn = 460;
+
+QWidget* MakeSpeedChoice(Binding& binding, QWidget* parent) {
+    QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[0], parent);
+    QGridLayout& grid = *MakeRows(box);
+    for (OptionButton* field : {&Zolv.UseSliderSpeed, &Zolv.UseFixedSpeed}) {
+        auto* const button = new QRadioButton(box);
+        grid.addWidget(button, NextRow(grid), 0);
+        binding.Bind(*field, *button);
+    }
+    return box;
+}
+
+void FillSliders(Binding& binding, QGridLayout& grid) {
+    const WidestOf angle{QStringLiteral("28 degrees")};
+    AddSliderRow(binding, grid,
+                 {Zolv.AeroLabel[0], Zolv.Select_AeroSpeed, Zolv.AeroSpeed, WidestTexts(&UnitState::Speed, 188.8)});
+    AddSliderRow(binding, grid, {Zolv.AeroLabel[1], Zolv.Select_FrontWingAngle, Zolv.WingAngleFront, angle});
+    AddSliderRow(binding, grid, {Zolv.AeroLabel[2], Zolv.Select_RearWingAngle, Zolv.WingAngleRear, angle});
+}
+
+QLayout* MakeInputs(Binding& binding, QWidget* parent) {
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(2 * kSection);
+    auto* const sliders = new QGridLayout;
+    sliders->setHorizontalSpacing(kMargin);
+    sliders->setVerticalSpacing(kGap);
+    row->addWidget(MakeSpeedChoice(binding, parent));
+    row->addLayout(sliders, 1);
+    FillSliders(binding, *sliders);
+    return row;
+}
+
+QWidget* MakeFigures(Binding& binding, int panel, const std::vector<FigureRow>& rows, QWidget* parent) {
+    QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[panel], parent);
+    AddFigureRows(binding, *MakeRows(box), rows);
+    return box;
+}
+
+WidestOf WidestForce() { return WidestTexts(&UnitState::Force, -18888); }
+WidestOf WidestSplit() { return {QStringLiteral("-88.8% / 188.8%")}; }
+
+QWidget* MakeTotals(Binding& binding, QWidget* parent) {
+    auto& words = Zolv.AeroLabel;
+    return MakeFigures(binding, 1,
+                       {{words[3], Zolv.Aero_TotalDrag, WidestForce()},
+                        {words[4], Zolv.Aero_TotalLift},
+                        {words[5], Zolv.Aero_TotalLDR},
+                        {words[6], Zolv.Aero_RR},
+                        {words[7], Zolv.Aero_DragSplit, {QStringLiteral("88% / 100%")}},
+                        {words[8], Zolv.Aero_TotalFriction}},
+                       parent);
+}
+
+QWidget* MakeMisc(Binding& binding, QWidget* parent) {
+    auto& words = Zolv.AeroLabel;
+    return MakeFigures(binding, 2,
+                       {{words[9], Zolv.Aero_TopSpeed, WidestTexts(&UnitState::Speed, 188.8)},
+                        {words[10], Zolv.Aero_AirTemp},
+                        {words[11], Zolv.Aero_AirDensity}},
+                       parent);
+}
+
+QWidget* MakeBody(Binding& binding, QWidget* parent) {
+    auto& words = Zolv.AeroLabel;
+    return MakeFigures(binding, 3,
+                       {{words[12], Zolv.Aero_BodyCd},
+                        {words[13], Zolv.Aero_BodyCl},
+                        {words[14], Zolv.Aero_FrontalArea, WidestTexts(&UnitState::Area, 2.888)},
+                        {words[15], Zolv.Aero_BodyCdA},
+                        {words[16], Zolv.Aero_BodyAirDrag, WidestForce()},
+                        {words[17], Zolv.Aero_BodyLift},
+                        {words[18], Zolv.Aero_BodyLDR}},
+                       parent);
+}
+
+QWidget* MakeForces(Binding& binding, QWidget* parent) {
+    auto& words = Zolv.AeroLabel;
+    return MakeFigures(binding, 4,
+                       {{words[20], Zolv.Aero_ForceFrontWheels, WidestForce()},
+                        {words[21], Zolv.Aero_ForceRearWheels},
+                        {words[22], Zolv.Aero_ForceDistribution},
+                        {words[23], Zolv.Aero_AeroDistribution, WidestSplit()},
+                        {words[19], Zolv.Aero_WeightMultiple}},
+                       parent);
+}
+
+/// The undertray or a wing; `firstWords` is the first of its five labels.
+QWidget* MakeFitting(Binding& binding, int panel, int firstWords, FittingLabels& figures, QWidget* parent) {
+    auto& words = Zolv.AeroLabel;
+    return MakeFigures(binding, panel,
+                       {{words[firstWords], figures.CdA},
+                        {words[firstWords + 1], figures.ClA},
+                        {words[firstWords + 2], figures.Drag, WidestForce()},
+                        {words[firstWords + 3], figures.Lift},
+                        {words[firstWords + 4], figures.LDR}},
+                       parent);
+}
+
+QLayout* MakeColumn(std::initializer_list<QWidget*> groups) {
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(kSection);
+    for (QWidget* const group : groups) column->addWidget(group);
+    column->addStretch();
+    return column;
+}
+
+}  // namespace
+
+AeroPageView::AeroPageView(Binding& binding, QWidget* parent) : QWidget(parent) {
+    auto* const grid = new QGridLayout(this);
+    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    grid->setSpacing(kSection);
+    grid->addLayout(MakeInputs(binding, this), 0, 0, 1, 2);
+    grid->addLayout(MakeColumn({MakeTotals(binding, this), MakeMisc(binding, this)}), 1, 0);
+    grid->addLayout(MakeColumn({MakeBody(binding, this), MakeFitting(binding, 5, 24, Zolv.Undertray, this)}), 1, 1);
+    grid->addLayout(MakeColumn({MakeForces(binding, this), MakeFitting(binding, 6, 29, Zolv.FrontWing, this),
+                                MakeFitting(binding, 7, 34, Zolv.RearWing, this)}),
+                    0, 2, 2, 1);
+    grid->setRowStretch(1, 1);
+    for (int column = 0; column < 3; ++column) grid->setColumnStretch(column, 1);
+}
+
+}  // namespace zolv

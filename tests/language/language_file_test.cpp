@@ -108,6 +108,7 @@ TEST_F(LanguageFile, ListsKeepTheirRows) {
     Zolv.Select_Graphs.Pick(1);
     OptionsPanel.Units[0].Select.Pick(2);
     OptionsPanel.Units[11].Select.Pick(5);
+    CustomPresets.New.Drivetrain.Pick(2);
     const std::string speed = Zolv.Speeds.Input[3].Text();
     LoadText(MadeUp());
     EXPECT_EQ(Zolv.Select_Tyres.Text(), "L68 R3");
@@ -121,6 +122,9 @@ TEST_F(LanguageFile, ListsKeepTheirRows) {
     EXPECT_EQ(OptionsPanel.SpeedPlotX.Units.Caption(), " mph");
     EXPECT_EQ(OptionsPanel.Units[11].Select.Text(), "L309");
     EXPECT_EQ(units.T2W.Unit, 5);
+    EXPECT_EQ(CustomPresets.New.Drivetrain.Text(), "L41");
+    EXPECT_THAT(CustomPresets.Edit.Drivetrain.Rows(), ElementsAre("L39", "L40", "L41"));
+    EXPECT_EQ(CustomPresets.Edit.Drivetrain.Picked(), -1);
 }
 
 TEST_F(LanguageFile, FollowUpComesOnceWithAllLinesInPlace) {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "batch/output.h"
-#include "batch/script.h"
+#include "batch/script_error.h"
 #include "language/number_text.h"
 #include "platform/nearest_name.h"
 

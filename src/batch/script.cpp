@@ -7,6 +7,7 @@
 #include "batch/field_access.h"
 #include "batch/output.h"
 #include "batch/report.h"
+#include "batch/script_error.h"
 #include "fields/windows.h"
 #include "language/language_file.h"
 #include "platform/nearest_name.h"

@@ -1,19 +1,12 @@
 #pragma once
 
 #include <iosfwd>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "batch/script_dialogs.h"
 
 namespace zolv {
-
-/// A line of a script that cannot be used. The text says what is wrong, without the place.
-class ScriptError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// Carries out a script, one command a line: what a user does at the fields, and questions about what they show.
 class Script {

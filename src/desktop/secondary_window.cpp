@@ -1,0 +1,118 @@
+#include "desktop/secondary_window.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "desktop/theme.h"
+
+namespace zolv {
+namespace {
+
+/// As large as what it shows, also when that grows with another language, and never larger than the screen; only then
+/// does it scroll.
+class ScrolledBody : public QScrollArea {
+public:
+    explicit ScrolledBody(QWidget* parent) : QScrollArea(parent) {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+    }
+
+    QSize sizeHint() const override { return Fitted(widget()->sizeHint()); }
+    QSize minimumSizeHint() const override { return Fitted(widget()->minimumSizeHint()); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    QSize Fitted(QSize wanted) const {
+        constexpr QSize kRoomAround(2 * kMargin, 120);  // the window's frame, title and buttons
+        const QSize room = screen()->availableSize() - kRoomAround;
+        if (wanted.height() > room.height()) wanted.rwidth() += verticalScrollBar()->sizeHint().width();
+        if (wanted.width() > room.width()) wanted.rheight() += horizontalScrollBar()->sizeHint().height();
+        return wanted.boundedTo(room);
+    }
+};
+
+}  // namespace
+
+SecondaryWindow::SecondaryWindow(Binding& binding, Window& window, QWidget* parent)
+    : QWidget(parent, Qt::Window), binding_(binding), window_(window) {
+    setAttribute(Qt::WA_QuitOnClose, false);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(kSection);
+    auto* const scroll = new ScrolledBody(this);
+    body_ = new QWidget;
+    scroll->setWidget(body_);
+    // The window's own ground shows through; a view's would be white.
+    scroll->viewport()->setAutoFillBackground(false);
+    body_->setAutoFillBackground(false);
+    layout->addWidget(scroll);
+    buttons_ = new QHBoxLayout;
+    buttons_->setSpacing(kGap);
+    layout->addLayout(buttons_);
+}
+
+void SecondaryWindow::AddButtons(std::initializer_list<Button*> left, std::initializer_list<Button*> right) {
+    for (Button* field : left) buttons_->addWidget(Make<QPushButton>(*field, this));
+    buttons_->addStretch();
+    for (Button* field : right) buttons_->addWidget(Make<QPushButton>(*field, this));
+}
+
+void SecondaryWindow::Complete() { binding_.Bind(window_, *this); }
+
+QComboBox* SecondaryWindow::MakeList(PickList& field, QWidget* owner, const Field& caption) {
+    auto* const list = Make<QComboBox>(field, owner, &caption);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    return list;
+}
+
+QLineEdit* SecondaryWindow::MakeNumberBox(TextBox& field, QWidget* owner, const Field& caption, int characters) {
+    constexpr int kAroundText = 14;  // frame and margins of a box
+    auto* const box = Make<QLineEdit>(field, owner, &caption);
+    box->setAlignment(Qt::AlignRight);
+    box->setFixedWidth(box->fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters + kAroundText);
+    return box;
+}
+
+void SecondaryWindow::PlaceOnScreen() {
+    if (!place_.isEmpty()) {
+        restoreGeometry(place_);
+        return;
+    }
+    const QRect room = screen()->availableGeometry();
+    resize(sizeHint().boundedTo(room.size()));
+    move(room.center() - rect().center());
+}
+
+void SecondaryWindow::setVisible(bool visible) {
+    if (visible && !isVisible()) PlaceOnScreen();
+    if (!visible && isVisible()) place_ = saveGeometry();
+    QWidget::setVisible(visible);
+}
+
+void SecondaryWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    binding_.Act([this] { window_.Close(); });
+}
+
+void SecondaryWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+}  // namespace zolv

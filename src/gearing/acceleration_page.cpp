@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "aero/aero_state.h"
 #include "fields/windows.h"
@@ -89,7 +90,7 @@ void ShowTable() {
 
     // A rewrite leaves the reader where he was.
     const std::size_t caret = Zolv.AccelerationData.Caret();
-    Zolv.AccelerationData.SetText(table.GetStr());
+    Zolv.AccelerationData.SetText(std::move(table).GetStr());
     Zolv.AccelerationData.SetCaret(caret);
 }
 

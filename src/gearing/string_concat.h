@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace zolv {
 
@@ -19,7 +20,11 @@ public:
     void Use(const char* end) { lngUsed_ = static_cast<std::size_t>(end - buffer_.data()); }
 
     /// What has been added so far.
-    [[nodiscard]] std::string GetStr() const { return buffer_.substr(0, lngUsed_); }
+    [[nodiscard]] std::string GetStr() const& { return buffer_.substr(0, lngUsed_); }
+    [[nodiscard]] std::string GetStr() && {
+        buffer_.resize(lngUsed_);
+        return std::move(buffer_);
+    }
     [[nodiscard]] std::string_view View() const { return std::string_view(buffer_).substr(0, lngUsed_); }
 
 private:

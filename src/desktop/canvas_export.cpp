@@ -1,0 +1,65 @@
+#include "desktop/canvas_export.h"
+
+#include <QBuffer>
+#include <string_view>
+
+#include "desktop/canvas_painting.h"
+#include "desktop/plot_marks.h"
+#include "platform/dialogs.h"
+#include "platform/text_files.h"
+#include "plots/svg.h"
+
+namespace zolv {
+namespace {
+
+void Save(const FileRequest& request, std::string_view content) {
+    const std::string path = AskForFile(request);
+    if (path.empty() || path == request.presetName) return;
+    const std::string reason = WriteTextFile(path, content);
+    if (!reason.empty()) ShowMessage(CannotWrite(path, reason));
+}
+
+FileRequest RequestFor(const std::string& title, const std::string& kind, const std::string& extension) {
+    const std::string pattern = "*." + extension;
+    return {.forSaving = true,
+            .title = title,
+            .filterLabel = kind + " (" + pattern + ")",
+            .presetName = pattern,
+            .defaultExtension = extension};
+}
+
+}  // namespace
+
+void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QFont& font,
+                  const CanvasInks& inks) {
+    PaintGround(painter, place.ground, inks.frame, inks.frameWidth);
+    PaintStrokes(painter, canvas, place);
+    painter.setFont(font);
+    PaintPrints(painter, canvas, place.ground);
+    painter.setFont(NumberFont(font));
+    PaintNumbers(painter, canvas, place, inks.words);
+    PaintLegend(painter, canvas, place, inks.words);
+}
+
+QImage PictureOf(const Canvas& canvas, CanvasShape shape, const QSize& size, const QFont& font) {
+    constexpr int kResolution = 2;
+    QImage image(size * kResolution, QImage::Format_RGB32);
+    image.setDevicePixelRatio(kResolution);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    const PlotPlace place = PlaceOf(canvas, shape, size, QFontMetricsF(NumberFont(font)));
+    PaintPicture(painter, canvas, place, font, {.words = QColor(60, 66, 74), .frame = QColor(150, 156, 164)});
+    return image;
+}
+
+void SaveAsSvg(const Canvas& canvas) { Save(RequestFor("Save as SVG", "SVG picture", "svg"), SvgOf(canvas)); }
+
+void SaveAsPng(const QImage& picture) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "PNG");
+    Save(RequestFor("Save as PNG", "PNG picture", "png"), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+}  // namespace zolv

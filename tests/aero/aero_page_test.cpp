@@ -1,0 +1,143 @@
+#include "aero/aero_page.h"
+
+#include "aero/aero_state.h"
+#include "fields/guards.h"
+#include "gearing/gearing_state.h"
+#include "support/zolv_test.h"
+
+namespace zolv {
+namespace {
+
+class AeroPage : public ZolvTest {
+protected:
+    AeroPage() { Start(); }
+
+    void ExpectVerdict(const char* verdict, Rgb colour) {
+        EXPECT_EQ(Zolv.Aero_AeroDistribution.ToolTip(), verdict);
+        EXPECT_EQ(Zolv.Aero_AeroDistribution.Colour(), colour);
+    }
+};
+
+TEST_F(AeroPage, AtStandstillOnlyTheWeightIsLeft) {
+    Set("Select_Car", "Series Lo");
+    Set("Select_AeroSpeed", "0");
+    for (const char* name : {"Aero_BodyLDR", "Aero_UndertrayLDR", "Aero_FrontWingLDR", "Aero_RearWingLDR",
+                             "Aero_TotalLDR", "Aero_AeroDistribution"}) {
+        EXPECT_EQ(Shown(name), "N/A") << name;
+    }
+    ExpectVerdict("N/A", kBlack);
+    EXPECT_EQ(Shown("Aero_DragSplit"), "0% / 100%");
+    EXPECT_EQ(Shown("Aero_WeightMultiple"), "1");
+    EXPECT_EQ(Shown("Aero_ForceDistribution"), "47% / 53%");
+}
+
+struct LabelCase {
+    const char* name;
+    const char* text;
+};
+class SeriesLoAt41 : public AeroPage, public testing::WithParamInterface<LabelCase> {};
+
+TEST_P(SeriesLoAt41, IsShown) {
+    Set("Select_Car", "Series Lo");
+    Set("Select_AeroSpeed", "41");
+    EXPECT_EQ(Shown(GetParam().name), GetParam().text);
+}
+
+// From a separate calculation in Python, at 7 and 14 degrees.
+INSTANTIATE_TEST_SUITE_P(
+    Computed, SeriesLoAt41,
+    testing::Values(LabelCase{"Aero_BodyCd", "0.2594"}, LabelCase{"Aero_BodyCl", "0"},
+                    LabelCase{"Aero_FrontalArea", "1.6 m^2"}, LabelCase{"Aero_BodyCdA", "0.42"},
+                    LabelCase{"Aero_BodyAirDrag", "420 N"}, LabelCase{"Aero_BodyLDR", "0 : 1"},
+                    LabelCase{"Aero_UndertrayClA", "-1.6"}, LabelCase{"Aero_UndertrayLift", "-1614 N"},
+                    LabelCase{"Aero_UndertrayLDR", "6 : 1"}, LabelCase{"Aero_FrontWingDrag", "82 N"},
+                    LabelCase{"Aero_FrontWingLDR", "6.91 : 1"}, LabelCase{"Aero_RearWingLift", "-830 N"},
+                    LabelCase{"Aero_RearWingLDR", "5.74 : 1"}, LabelCase{"Aero_TotalDrag", "916 N"},
+                    LabelCase{"Aero_TotalLift", "-3012 N"}, LabelCase{"Aero_TotalLDR", "3.29 : 1"},
+                    LabelCase{"Aero_DragSplit", "87% / 13%"}, LabelCase{"Aero_RR", "140 N"},
+                    LabelCase{"Aero_TotalFriction", "1056 N"}, LabelCase{"Aero_ForceFrontWheels", "4604 N"},
+                    LabelCase{"Aero_ForceRearWheels", "5439 N"}, LabelCase{"Aero_ForceDistribution", "45.8% / 54.2%"},
+                    LabelCase{"Aero_AeroDistribution", "43.1% / 56.9%"}, LabelCase{"Aero_WeightMultiple", "1.43"},
+                    LabelCase{"Aero_AirDensity", "1.204 kg/m^3"}, LabelCase{"Aero_AirTemp", "20\u00B0C"},
+                    LabelCase{"WingAngleFront", "7 degrees"}, LabelCase{"AeroSpeed", "41 m/s"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(AeroPage, TheSpeedsOfBothPagesAreTwins) {
+    Set("OptionsPanel.Select_SpeedUnits", "Kilometers per Hour");
+    Set("Select_AeroSpeed", "100");
+    EXPECT_EQ(Shown("Select_AeroSpeed_TyreTab"), "100");
+    EXPECT_EQ(Shown("AeroSpeed"), "360 km/h");
+    Set("Select_AeroSpeed_TyreTab", "50");
+    EXPECT_EQ(Shown("Select_AeroSpeed"), "50");
+    EXPECT_EQ(Shown("AeroSpeed_TyreTab"), "180 km/h");
+    EXPECT_EQ(aero.AeroSpeedValue, 50);
+}
+
+TEST_F(AeroPage, ASpeedRunsNoGearing) {
+    Set("Select_Car", "Series Lo");
+    int runs = 0;
+    gearing.SpeedsFound = [&] { ++runs; };
+    Set("Select_AeroSpeed", "90");
+    EXPECT_EQ(runs, 0);
+    Set("Select_FrontWingAngle", "9");
+    EXPECT_EQ(runs, 1);
+}
+
+// From a separate calculation in Python: at the top speed the forces are those of its last pass.
+TEST_F(AeroPage, AtTheTopSpeedTheSlidersOnlyShowTheirOwn) {
+    Set("Select_Car", "Series Lo");
+    Set("Select_AeroSpeed", "41");
+    Set("UseFixedSpeed", "on");
+    EXPECT_FALSE(Zolv.Select_AeroSpeed.Enabled());
+    EXPECT_FALSE(Zolv.Select_AeroSpeed_TyreTab.Enabled());
+    EXPECT_EQ(Shown("Aero_TopSpeed"), "77.6 m/s");
+    EXPECT_EQ(Shown("Aero_TotalDrag"), "3282 N");
+    EXPECT_EQ(Shown("Aero_TotalLift"), "-10788 N");
+    EXPECT_EQ(Shown("AeroSpeed"), "41 m/s");
+    Set("Select_AeroSpeed", "10");
+    EXPECT_EQ(Shown("Aero_TotalDrag"), "3282 N");
+    EXPECT_EQ(Shown("AeroSpeed"), "10 m/s");
+    Set("Select_FrontWingAngle", "15");
+    Set("Select_RearWingAngle", "0");
+    EXPECT_EQ(Shown("Aero_TopSpeed"), "77.7 m/s");
+    EXPECT_EQ(Shown("Aero_TotalDrag"), "3302 N");
+    Set("UseSliderSpeed", "on");
+    EXPECT_TRUE(Zolv.Select_AeroSpeed.Enabled());
+    EXPECT_EQ(aero.AeroSpeedValue, 10);
+    EXPECT_LT(aero.TotalDrag, 60);
+}
+
+// Angles from a separate calculation in Python: the front wing at 7 degrees balances the rear one at 10.
+TEST_F(AeroPage, TheBalanceIsToldByColour) {
+    Set("Select_Car", "Series Lo");
+    Set("Select_RearWingAngle", "11");
+    ExpectVerdict("Understeer", kBlue);
+    Set("Select_RearWingAngle", "10");
+    ExpectVerdict("Neutral", Rgb{0, 160, 0});
+    Set("Select_RearWingAngle", "9");
+    ExpectVerdict("Oversteer", kRed);
+    Set("Select_Car", "Pell S");
+    ExpectVerdict("N/A", kBlack);
+}
+
+TEST_F(AeroPage, AWingThatMovesDuringABulkRewriteWaits) {
+    Set("Select_Car", "Series Lo");
+    const std::string before = Shown("Aero_RearWingLift");
+    guards.Busy = true;
+    Zolv.Select_RearWingAngle.SetValue(30);
+    EXPECT_EQ(Shown("Aero_RearWingLift"), before);
+    guards.Busy = false;
+    CalcAeroCoefficients();
+    EXPECT_NE(Shown("Aero_RearWingLift"), before);
+}
+
+TEST_F(AeroPage, ABodyAloneCanLift) {
+    UseCustomCar("Pell S", {{CarField::Cl, 0.2}});
+    EXPECT_EQ(Shown("Aero_AeroDistribution"), "56.1% / 43.9%");
+    ExpectVerdict("Neutral", Rgb{0, 160, 0});
+    EXPECT_EQ(Shown("Aero_BodyLDR"), "-0.31 : 1");  // 0.2 / (0.35 * 1.83)
+    EXPECT_LT(Shown("Aero_WeightMultiple"), "1");
+}
+
+}  // namespace
+}  // namespace zolv

@@ -8,18 +8,17 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTabBar>
-#include <QTextCursor>
 #include <QValidator>
 
 #include "desktop/canvas_view.h"
 #include "desktop/picture_view.h"
+#include "desktop/run_table.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
@@ -63,18 +62,6 @@ void PaintText(const TextBox& field, QLineEdit& edit) {
     const int caret = edit.cursorPosition();
     edit.setText(text);
     edit.setCursorPosition(std::min(caret, static_cast<int>(text.size())));
-}
-
-void PaintText(const TextBox& field, QPlainTextEdit& edit) {
-    if (!edit.isVisible()) return;  // a hidden table costs nothing; showing it paints it
-    QString text = ToQt(field.Text());
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    if (edit.toPlainText() == text) return;
-    const int caret = edit.textCursor().position();
-    edit.setPlainText(text);
-    QTextCursor cursor = edit.textCursor();
-    cursor.setPosition(std::min(caret, static_cast<int>(text.size())));
-    edit.setTextCursor(cursor);
 }
 
 }  // namespace
@@ -149,7 +136,7 @@ void Binding::Bind(Panel& field, QGroupBox& box) {
     OnChanged(field, [&] {
         box.setTitle(ToQt(field.Caption()));
         box.setAccessibleName(PlainCaption(field.Caption()));
-        PaintLook(field, box);
+        if (field.Stack() == 0) PaintLook(field, box);  // in a stack, the panel in front is what shows
     });
 }
 
@@ -204,13 +191,12 @@ void Binding::Bind(TextBox& field, QLineEdit& edit, const Field* caption) {
     });
 }
 
-void Binding::Bind(TextBox& field, QPlainTextEdit& edit, const Field* caption) {
-    Name(edit, field);
-    NameByCaption(edit, field, caption);
-    edit.setReadOnly(true);
+void Binding::Bind(TextBox& field, RunTable& table, const Field* caption) {
+    Name(table, field);
+    NameByCaption(table, field, caption);
     OnChanged(field, [&] {
-        edit.setVisible(field.Visible());
-        PaintText(field, edit);
+        table.setVisible(field.Visible());
+        table.SetStale();
     });
 }
 

@@ -14,7 +14,6 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QSlider;
@@ -26,6 +25,7 @@ namespace zolv {
 
 class CanvasView;
 class PictureView;
+class RunTable;
 class ValueLabel;
 
 /// Binds widgets to fields, one rule for each kind of field. What the user does goes to the field; when the event has
@@ -43,7 +43,7 @@ public:
     void Bind(Button& field, QPushButton& button);
     void Bind(MenuEntry& field, QAction& action);
     void Bind(TextBox& field, QLineEdit& edit, const Field* caption = nullptr);
-    void Bind(TextBox& field, QPlainTextEdit& edit, const Field* caption = nullptr);
+    void Bind(TextBox& field, RunTable& table, const Field* caption = nullptr);
     void Bind(Slider& field, QSlider& slider, const Field* caption = nullptr);
     void Bind(PickList& field, QComboBox& box, const Field* caption = nullptr);
     void Bind(TabStrip& field, QTabBar& bar);

@@ -19,7 +19,7 @@ constexpr Colours kDark{"#1d2126", "#14171b", "#23282e", "#2c323a", "#e6e9ed",
 
 QPalette PaletteOf(const Colours& colours) {
     const auto colour = [](const char* name) { return QColor(QLatin1String(name)); };
-    QPalette palette;
+    QPalette palette(colour(colours.button), colour(colours.window));  // with the shades of bevels between the two
     palette.setColor(QPalette::Window, colour(colours.window));
     palette.setColor(QPalette::WindowText, colour(colours.text));
     palette.setColor(QPalette::Base, colour(colours.base));

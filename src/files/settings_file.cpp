@@ -135,7 +135,10 @@ bool LoadSettingsFile() {
 
 void OpenSettings() {
     const std::string name = AskForFile(RequestFor(false));
-    if (name == kPattern) return;
+    if (name != kPattern) OpenSettingsFile(name);
+}
+
+void OpenSettingsFile(const std::string& name) {
     files.OpenFileName = name;
     if (LoadSettingsFile()) files.SettingsOpened();
 }

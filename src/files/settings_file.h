@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace zolv {
 
 /// A settings file holds one set-up: 19 lines "Key: value", ended by CR LF, in a fixed order. The reader goes by line
@@ -17,6 +19,10 @@ bool LoadSettingsFile();
 /// The menu entries. FileOpen ends with the follow-up files.SettingsOpened, unless the dialog was cancelled or the file
 /// could not be read.
 void OpenSettings();
+
+/// Opens a file as FileOpen does with the name that its dialog returned.
+void OpenSettingsFile(const std::string& name);
+
 void SaveSettings();
 void SaveSettingsAs();
 void CloseSettings();

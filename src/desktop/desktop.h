@@ -1,0 +1,30 @@
+#pragma once
+
+#include <memory>
+
+#include "desktop/binding.h"
+
+namespace zolv {
+
+class MainWindow;
+
+/// The five windows over a started program.
+class Desktop {
+public:
+    /// Builds and binds the windows. The fields are at their design-time state or beyond.
+    Desktop();
+    ~Desktop();
+
+    /// Opens the windows that are to be open, with what the fields hold by now.
+    void Open();
+
+    Binding& TheBinding() { return binding_; }
+    MainWindow& Main() { return *main_; }
+
+private:
+    Binding binding_;
+    std::vector<std::unique_ptr<QWidget>> secondary_;
+    std::unique_ptr<MainWindow> main_;
+};
+
+}  // namespace zolv

@@ -1,0 +1,31 @@
+// zolv: the program on the desktop. It reads no command line of its own.
+
+#include <QApplication>
+
+#include "desktop/desktop.h"
+#include "desktop/main_window.h"
+#include "desktop/theme.h"
+#include "desktop/window_dialogs.h"
+#include "shell/fresh_start.h"
+#include "shell/shell_state.h"
+#include "shell/start_up.h"
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("zolv"));
+    QApplication::setDesktopFileName(QStringLiteral("zolv"));
+    QApplication::setQuitOnLastWindowClosed(false);  // on a first run the main window waits behind the languages
+    zolv::ApplyTheme(application);
+
+    zolv::WindowDialogs dialogs;
+    zolv::UseDialogs(&dialogs);
+    zolv::FreshStart();
+    zolv::Desktop desktop;
+    zolv::shell.Ending = [] { QApplication::quit(); };
+    zolv::LoadZolv();
+    dialogs.SetParent(&desktop.Main());
+    desktop.Open();
+    const int result = QApplication::exec();
+    zolv::UseDialogs(nullptr);
+    return result;
+}

@@ -1,0 +1,141 @@
+#include "desktop/main_window.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <map>
+
+#include "desktop/aero_page_view.h"
+#include "desktop/gearing_page_view.h"
+#include "desktop/info_page_view.h"
+#include "desktop/page_parts.h"
+#include "desktop/picture_view.h"
+#include "desktop/texts_of_qt.h"
+#include "desktop/theme.h"
+#include "desktop/tyres_page_view.h"
+#include "files/settings_file.h"
+#include "shell/shell_state.h"
+
+namespace zolv {
+namespace {
+
+/// The settings file that is being dragged; empty for anything else.
+QString SettingsFileIn(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+    const QString path = urls.front().toLocalFile();
+    return path.endsWith(QLatin1String(".zolv"), Qt::CaseInsensitive) ? path : QString();
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Binding& binding, QWidget* parent) : QMainWindow(parent), binding_(binding) {
+    setAcceptDrops(true);
+    MakeMenus();
+    auto* const centre = new QWidget(this);
+    auto* const column = new QVBoxLayout(centre);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(MakeHead());
+    column->addWidget(MakePages(), 1);
+    setCentralWidget(centre);
+    resize(1280, 780);
+}
+
+void MainWindow::MakeMenus() {
+    std::map<std::string, QMenu*> menus;
+    for (Field* field : Zolv.Fields()) {
+        if (field->Kind() != FieldKind::MenuEntry) continue;
+        auto& entry = static_cast<MenuEntry&>(*field);
+        if (entry.Parent().empty()) {
+            QMenu* const menu = menuBar()->addMenu(QString());
+            menus[entry.Name()] = menu;
+            binding_.Bind(entry, *menu->menuAction());
+            continue;
+        }
+        QMenu* const menu = menus.at(entry.Parent());
+        if (&entry == &Zolv.FileExit) menu->addSeparator();
+        binding_.Bind(entry, *menu->addAction(QString()));
+    }
+}
+
+QWidget* MainWindow::MakeHead() {
+    auto* const head = new QWidget(this);
+    auto* const row = new QHBoxLayout(head);
+    row->setContentsMargins(kMargin, kGap, kMargin, kGap);
+    row->setSpacing(kGap);
+    const auto addPicture = [&](Picture& field, int width) {
+        auto* const picture = new PictureView(head);
+        picture->setFixedSize(width, 32);
+        row->addWidget(picture);
+        binding_.Bind(field, *picture);
+        binding_.OnChanged(field, [&field, picture] { picture->setVisible(!field.Path().empty()); });
+    };
+    addPicture(Zolv.TitleImage, 160);
+    QLabel* const words = MakeWords(binding_, Zolv.Label_Car, head);
+    row->addWidget(words);
+    auto* const cars = new QComboBox(head);
+    cars->setMinimumWidth(220);
+    cars->setMaxVisibleItems(30);
+    row->addWidget(cars);
+    binding_.Bind(Zolv.Select_Car, *cars, &Zolv.Label_Car);
+    row->addStretch(1);
+    addPicture(Zolv.TarmaqLogo, 96);
+    QLabel* const version = MakeWords(binding_, Zolv.Zolv_version, head);
+    version->setForegroundRole(QPalette::PlaceholderText);
+    row->addWidget(version);
+    return head;
+}
+
+QWidget* MainWindow::MakePages() {
+    auto* const pages = new QWidget(this);
+    auto* const column = new QVBoxLayout(pages);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto* const tabs = new QTabBar(pages);
+    tabs->setExpanding(false);
+    tabs->setDrawBase(true);
+    column->addWidget(tabs);
+    auto* const stack = new QStackedWidget(pages);
+    column->addWidget(stack, 1);
+
+    QWidget* const views[] = {new InfoPageView(binding_, stack), new GearingPageView(binding_, stack),
+                              new TyresPageView(binding_, stack), new AeroPageView(binding_, stack)};
+    std::vector<Panel*> panels;
+    for (int i = 0; i < 4; ++i) {
+        stack->addWidget(views[i]);
+        binding_.Bind(Zolv.Page[i], *views[i]);
+        panels.push_back(&Zolv.Page[i]);
+    }
+    binding_.BindStack(*stack, panels);
+    binding_.Bind(Zolv.Select_Page, *tabs);
+    return pages;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    binding_.Act([] { Zolv.Close(); });
+    event->setAccepted(shell.Ended);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!SettingsFileIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString path = SettingsFileIn(*event->mimeData());
+    if (path.isEmpty()) return;
+    event->acceptProposedAction();
+    binding_.Act([&] { OpenSettingsFile(FromQt(path)); });
+}
+
+}  // namespace zolv

@@ -22,6 +22,10 @@
 namespace zolv {
 namespace {
 
+constexpr int kSliderWidth = 130;  // the same in each group, so that the columns of the groups line up
+constexpr int kScaleUnitsWidth = 64;
+constexpr int kScaleRowHeight = 22;  // that of a line with a check box
+
 /// The options of one plot.
 struct PlotOptions {
     int group;  // its OptionsGroup
@@ -41,6 +45,14 @@ const std::array<PlotOptions, 4>& Plots() {
         PlotOptions{6, form.SpeedTimeGraphX, form.SpeedTimeGraphY, {}},
     };
     return plots;
+}
+
+/// What a step counts. A unit's suffix brings its own blank, which would stand out from the column.
+QLabel* MakeScaleUnits(Binding& binding, Label& field, QWidget* group) {
+    QLabel* const units = MakeWords(binding, field, group);
+    units->setMinimumWidth(kScaleUnitsWidth);
+    binding.OnChanged(field, [units] { units->setText(units->text().trimmed()); });
+    return units;
 }
 
 /// Two columns of groups.
@@ -82,7 +94,10 @@ OptionsWindow::OptionsWindow(Binding& binding, QWidget* parent) : SecondaryWindo
 
 QWidget* OptionsWindow::MakeUnitsPage() {
     auto* const page = new QWidget(Body());
-    QGridLayout* const grid = MakeRows(page);
+    auto* const grid = new QGridLayout(page);
+    grid->setContentsMargins(0, kMargin, 0, 0);
+    grid->setHorizontalSpacing(kMargin);
+    grid->setVerticalSpacing(kGap);
     int line = 0;
     for (UnitChoice& unit : OptionsPanel.Units) {
         Label& words = OptionsPanel.OptionsLabel[line];
@@ -113,7 +128,6 @@ QGroupBox* OptionsWindow::MakePlotGroup(int plot) {
     AddScaleRow(*grid, OptionsPanel.Label_XScale[plot], options.x);
     AddScaleRow(*grid, OptionsPanel.Label_YScale[plot], options.y);
     for (CheckBox* box : options.boxes) grid->addWidget(Make<QCheckBox>(*box, group), NextRow(*grid), 0, 1, 4);
-    grid->setRowStretch(NextRow(*grid), 1);
     return group;
 }
 
@@ -122,15 +136,16 @@ void OptionsWindow::AddScaleRow(QGridLayout& grid, Label& words, ScaleChoice& sc
     const int line = NextRow(grid);
     grid.addWidget(MakeWords(Fields(), words, group), line, 0);
     auto* const slider = Make<QSlider>(scale.Select, group, &words);
-    slider->setMinimumWidth(120);
+    slider->setFixedWidth(kSliderWidth);
     grid.addWidget(slider, line, 1);
     auto* const step = new ValueLabel(group);
     step->ReserveFor({QStringLiteral("5000")});
     Fields().OnChanged(scale.Select,
                        [step, &scale] { step->setText(ToQt(NumberText(std::int32_t{scale.Select.Value()}))); });
     grid.addWidget(step, line, 2);
-    grid.addWidget(MakeWords(Fields(), scale.Units, group), line, 3);
-    grid.setColumnStretch(1, 1);
+    grid.addWidget(MakeScaleUnits(Fields(), scale.Units, group), line, 3);
+    grid.setRowMinimumHeight(line, kScaleRowHeight);
+    grid.setColumnStretch(3, 1);
 }
 
 QWidget* OptionsWindow::MakeMiscPage() {
@@ -142,12 +157,12 @@ QWidget* OptionsWindow::MakeMiscPage() {
     maxRevsRows->addWidget(Make<QRadioButton>(form.RevsP, maxRevs), 0, 0);
     maxRevsRows->addWidget(Make<QRadioButton>(form.RevsR, maxRevs), 1, 0);
     QGroupBox* const limiter = MakeGroup(Fields(), form.OptionsGroup[1], page);
-    MakeRows(limiter)->addWidget(Make<QCheckBox>(form.RevLimitEnable, limiter), 0, 0, Qt::AlignTop);
+    MakeRows(limiter)->addWidget(Make<QCheckBox>(form.RevLimitEnable, limiter), 0, 0);
     grid->addWidget(maxRevs, 0, 0);
     grid->addWidget(limiter, 0, 1);
     grid->addWidget(MakeFixedRevsGroup(), 1, 0);
     QGroupBox* const performance = MakeGroup(Fields(), form.OptionsGroup[7], page);
-    MakeRows(performance)->addWidget(Make<QCheckBox>(form.AccelerationTestingEnable, performance), 0, 0, Qt::AlignTop);
+    MakeRows(performance)->addWidget(Make<QCheckBox>(form.AccelerationTestingEnable, performance), 0, 0);
     grid->addWidget(performance, 1, 1);
     return page;
 }

@@ -81,7 +81,7 @@ QGroupBox* PresetsWindow::MakeAddPanel() {
     grid->addWidget(MakeWords(Fields(), form.CUPLabel[2], group), kSecondRow, 0);
     grid->addWidget(MakeList(form.NewCar, group, form.CUPLabel[2]), kSecondRow, 1);
     AddLines(*grid, form.New, kAdd);
-    AddButtonRow(*grid, form.AddCar, form.CP_Load);
+    FinishPanel(*grid, form.AddCar, form.CP_Load);
     // These come from the base car or a file and are never shown; they take no place.
     for (TextBox* hidden : {&form.NewDrivetrainEff, &form.NewFrontalArea}) Make<QLineEdit>(*hidden, group);
     return group;
@@ -96,7 +96,7 @@ QGroupBox* PresetsWindow::MakeEditPanel() {
     grid->addWidget(MakeWords(Fields(), form.CUPLabel[18], group), kSecondRow, 0);
     grid->addWidget(MakeWords(Fields(), form.PresetsUsed, group), kSecondRow, 1);
     AddLines(*grid, form.Edit, kEdit);
-    AddButtonRow(*grid, form.EditUpdate, form.CP_Save);
+    FinishPanel(*grid, form.EditUpdate, form.CP_Save);
     return group;
 }
 
@@ -157,15 +157,18 @@ QWidget* PresetsWindow::MakeTyre(const Tyre& tyre, QWidget* group, PresetPanel& 
     return boxes;
 }
 
-void PresetsWindow::AddButtonRow(QGridLayout& grid, Button& first, Button& second) {
+void PresetsWindow::FinishPanel(QGridLayout& grid, Button& first, Button& second) {
     QWidget* const group = grid.parentWidget();
+    const int lineHeight = QComboBox().sizeHint().height();  // whatever stands in the line, so that the panels align
+    const int lines = NextRow(grid);
+    for (int line = 0; line < lines; ++line) grid.setRowMinimumHeight(line, lineHeight);
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(0, kGap, 0, 0);
     row->setSpacing(kGap);
     row->addStretch();
-    row->addWidget(Make<QPushButton>(first, group));
-    row->addWidget(Make<QPushButton>(second, group));
-    grid.addLayout(row, NextRow(grid), 0, 1, 2);
+    row->addWidget(MakeButton(first, group));
+    row->addWidget(MakeButton(second, group));
+    grid.addLayout(row, lines, 0, 1, 2);
 }
 
 }  // namespace zolv

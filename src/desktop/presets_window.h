@@ -30,7 +30,7 @@ private:
     QWidget* MakeControl(const Line& line, QWidget* group, PresetPanel& panel, Side side);
     QWidget* MakeNumber(const Line& line, QWidget* group, TextBox& field, Side side);
     QWidget* MakeTyre(const Tyre& tyre, QWidget* group, PresetPanel& panel, const Label& caption);
-    void AddButtonRow(QGridLayout& grid, Button& first, Button& second);
+    void FinishPanel(QGridLayout& grid, Button& first, Button& second);
 };
 
 }  // namespace zolv

@@ -44,6 +44,14 @@ private:
     }
 };
 
+/// The style leaves hardly any room beside the text of a long button.
+class RoomyButton : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+    QSize sizeHint() const override { return QPushButton::sizeHint() + QSize(2 * kGap, 0); }
+};
+
 }  // namespace
 
 SecondaryWindow::SecondaryWindow(Binding& binding, Window& window, QWidget* parent)
@@ -65,12 +73,14 @@ SecondaryWindow::SecondaryWindow(Binding& binding, Window& window, QWidget* pare
 }
 
 void SecondaryWindow::AddButtons(std::initializer_list<Button*> left, std::initializer_list<Button*> right) {
-    for (Button* field : left) buttons_->addWidget(Make<QPushButton>(*field, this));
+    for (Button* field : left) buttons_->addWidget(MakeButton(*field, this));
     buttons_->addStretch();
-    for (Button* field : right) buttons_->addWidget(Make<QPushButton>(*field, this));
+    for (Button* field : right) buttons_->addWidget(MakeButton(*field, this));
 }
 
 void SecondaryWindow::Complete() { binding_.Bind(window_, *this); }
+
+QPushButton* SecondaryWindow::MakeButton(Button& field, QWidget* owner) { return Make<RoomyButton>(field, owner); }
 
 QComboBox* SecondaryWindow::MakeList(PickList& field, QWidget* owner, const Field& caption) {
     auto* const list = Make<QComboBox>(field, owner, &caption);

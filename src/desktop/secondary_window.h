@@ -43,6 +43,8 @@ protected:
         return widget;
     }
 
+    QPushButton* MakeButton(Button& field, QWidget* owner);
+
     /// A list as wide as its widest row in the language in force.
     QComboBox* MakeList(PickList& field, QWidget* owner, const Field& caption);
 

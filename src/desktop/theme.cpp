@@ -14,7 +14,7 @@ struct Colours {
 };
 constexpr Colours kLight{"#f4f5f7", "#ffffff", "#eceef1", "#e9ebee", "#1b1f24",
                          "#8a929c", "#1f6fc4", "#ffffff", "#ffffff", "#1f6fc4"};
-constexpr Colours kDark{"#1d2126", "#14171b", "#23282e", "#2c323a", "#e6e9ed",
+constexpr Colours kDark{"#1d2126", "#2a3038", "#23282e", "#2c323a", "#e6e9ed",
                         "#7d8691", "#4a9be8", "#0d1013", "#2c323a", "#6db3f2"};
 
 QPalette PaletteOf(const Colours& colours) {

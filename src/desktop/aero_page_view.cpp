@@ -13,9 +13,6 @@
 namespace zolv {
 namespace {
 
-/// On the widest screens names and figures stay near each other.
-constexpr int kWidestColumn = 460;
-
 QWidget* MakeSpeedChoice(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[0], parent);
     QGridLayout& grid = *MakeRows(box);
@@ -117,7 +114,7 @@ QLayout* MakeColumn(std::initializer_list<QWidget*> groups) {
     auto* const column = new QVBoxLayout;
     column->setSpacing(kSection);
     for (QWidget* const group : groups) column->addWidget(group);
-    column->addStretch();
+    column->addStretch(1);
     return column;
 }
 

@@ -2,8 +2,10 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
+#include <QVBoxLayout>
 
 #include "desktop/canvas_view.h"
 #include "desktop/page_parts.h"
@@ -73,17 +75,20 @@ QWidget* MakeWheels(Binding& binding, QWidget* parent) {
 QWidget* MakeAbout(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[2], parent);
     auto* const area = new QScrollArea(box);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->viewport()->setAutoFillBackground(false);
-
     QLabel* const text = MakeWords(binding, Zolv.AboutZolv, area);
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    text->setAutoFillBackground(false);
+
     area->setWidget(text);
-    MakeRows(box)->addWidget(area, 0, 0);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    for (QWidget* widget : {area->viewport(), static_cast<QWidget*>(text)}) widget->setAutoFillBackground(false);
+
+    auto* const column = new QVBoxLayout(box);
+    SetGroupMargins(*column);
+    column->addWidget(area);
     return box;
 }
 
@@ -99,22 +104,37 @@ QWidget* MakePlot(Binding& binding, QWidget* parent) {
     return view;
 }
 
-/// Column 2 with the picture and the plot gets the room, a little more of its height for the plot.
-void ShareRoom(QGridLayout& grid) { grid.setColumnStretch(2, 1); }
+QLayout* MakeDescription(Binding& binding, QWidget* parent) {
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(kSection);
+    column->addWidget(MakeBody(binding, parent));
+    column->addWidget(MakeEngine(binding, parent));
+    column->addWidget(MakeAbout(binding, parent), 1);
+    return column;
+}
+
+/// Wheels and picture over the plot, which gets a little more of the height.
+QLayout* MakeViews(Binding& binding, QWidget* parent) {
+    auto* const top = new QHBoxLayout;
+    top->setSpacing(kSection);
+    top->addWidget(MakeWheels(binding, parent), 0, Qt::AlignTop);
+    top->addWidget(MakePicture(binding, parent), 1);
+
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(kSection);
+    column->addLayout(top, 2);
+    column->addWidget(MakePlot(binding, parent), 3);
+    return column;
+}
 
 }  // namespace
 
 InfoPageView::InfoPageView(Binding& binding, QWidget* parent) : QWidget(parent) {
-    auto* const grid = new QGridLayout(this);
-    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    grid->setSpacing(kSection);
-    grid->addWidget(MakeBody(binding, this), 0, 0);
-    grid->addWidget(MakeWheels(binding, this), 0, 1);
-    grid->addWidget(MakeEngine(binding, this), 1, 0);
-    grid->addWidget(MakeAbout(binding, this), 1, 1);
-    grid->addWidget(MakePicture(binding, this), 0, 2);
-    grid->addWidget(MakePlot(binding, this), 1, 2);
-    ShareRoom(*grid);
+    auto* const page = new QHBoxLayout(this);
+    page->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    page->setSpacing(kSection);
+    page->addLayout(MakeDescription(binding, this));
+    page->addLayout(MakeViews(binding, this), 1);
 }
 
 }  // namespace zolv

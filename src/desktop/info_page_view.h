@@ -6,7 +6,7 @@ namespace zolv {
 
 class Binding;
 
-/// The page that describes the selected car: figures on the left, its picture and its engine on the right.
+/// The page that describes the selected car: its figures, its picture, and its engine as a plot.
 class InfoPageView : public QWidget {
 public:
     explicit InfoPageView(Binding& binding, QWidget* parent = nullptr);

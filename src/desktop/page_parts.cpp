@@ -4,6 +4,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QSlider>
+#include <QStyleOptionGroupBox>
+#include <QStylePainter>
+#include <QVBoxLayout>
 
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
@@ -15,6 +18,24 @@ namespace {
 
 constexpr int kRowGap = 6;           // between the lines of a table
 constexpr int kShortestSlider = 96;  // still moves by a few units a pixel
+
+/// A frame whose caption alone is bold: a bold font of the box would go on to all that stands in it.
+class Group : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QStyleOptionGroupBox option;
+        initStyleOption(&option);
+        QFont bold = font();
+        bold.setBold(true);
+        option.fontMetrics = QFontMetrics(bold);
+        QStylePainter painter(this);
+        painter.setFont(bold);
+        painter.drawComplexControl(QStyle::CC_GroupBox, option);
+    }
+};
 
 }  // namespace
 
@@ -53,16 +74,21 @@ ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const Wi
 }
 
 QGroupBox* MakeGroup(Binding& binding, Panel& field, QWidget* parent) {
-    auto* const box = new QGroupBox(parent);
+    QGroupBox* const box = new Group(parent);
     binding.Bind(field, *box);
     return box;
 }
 
+void SetGroupMargins(QLayout& layout) { layout.setContentsMargins(kMargin, kGap, kMargin, kGap); }
+
 QGridLayout* MakeRows(QWidget* owner) {
-    auto* const grid = new QGridLayout(owner);
-    grid->setContentsMargins(kMargin, kGap, kMargin, kMargin);
+    auto* const column = new QVBoxLayout(owner);
+    SetGroupMargins(*column);
+    auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(kMargin);
     grid->setVerticalSpacing(kRowGap);
+    column->addLayout(grid);
+    column->addStretch(1);
     return grid;
 }
 
@@ -79,14 +105,17 @@ void AddFigureRows(Binding& binding, QGridLayout& grid, const std::vector<Figure
 }
 
 void AddSliderRow(Binding& binding, QGridLayout& grid, const SliderRow& row) {
+    PlaceSliderRow(binding, grid, NextRow(grid), 0, row);
+}
+
+void PlaceSliderRow(Binding& binding, QGridLayout& grid, int line, int column, const SliderRow& row) {
     QWidget* const parent = grid.parentWidget();
-    const int line = NextRow(grid);
     auto* const slider = new QSlider(Qt::Horizontal, parent);
     slider->setMinimumWidth(kShortestSlider);
-    grid.setColumnStretch(1, 1);
-    grid.addWidget(MakeWords(binding, row.words, parent), line, 0);
-    grid.addWidget(slider, line, 1);
-    grid.addWidget(MakeFigure(binding, row.value, parent, row.widest), line, 2);
+    grid.setColumnStretch(column + 1, 1);
+    grid.addWidget(MakeWords(binding, row.words, parent), line, column);
+    grid.addWidget(slider, line, column + 1);
+    grid.addWidget(MakeFigure(binding, row.value, parent, row.widest), line, column + 2);
     binding.Bind(row.slider, *slider, &row.words);
 }
 

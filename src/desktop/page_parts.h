@@ -37,10 +37,14 @@ QLabel* MakeTitle(Binding& binding, Label& field, QWidget* parent);
 /// A figure, right-aligned, with room for `widest`.
 ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const WidestOf& widest = {});
 
-/// A frame with a caption in which the fields of a panel stand; its margins are those of a group.
+/// A frame with a bold caption in which the fields of a panel stand.
 QGroupBox* MakeGroup(Binding& binding, Panel& field, QWidget* parent);
 
-/// A group's grid of rows, to be filled with the calls below. Rows are close together, as in a table.
+/// Sets a group's margins on its layout.
+void SetGroupMargins(QLayout& layout);
+
+/// A group's grid of rows, to be filled with the calls below. Rows are close together, as in a table, and stay at the
+/// top of a group that is higher than they are.
 QGridLayout* MakeRows(QWidget* owner);
 
 /// A name and its figure.
@@ -64,6 +68,9 @@ struct SliderRow {
 
 /// Adds a line of name, slider and value below what `grid` holds, in columns 0 to 2; the slider takes the room.
 void AddSliderRow(Binding& binding, QGridLayout& grid, const SliderRow& row);
+
+/// The same at a place of the caller's choice: name, slider and value in row `line` from `column` on.
+void PlaceSliderRow(Binding& binding, QGridLayout& grid, int line, int column, const SliderRow& row);
 
 /// The row below the last one that `grid` uses; 0 in an empty grid, which Qt counts as one row.
 int NextRow(const QGridLayout& grid);

@@ -18,45 +18,58 @@
 namespace zolv {
 namespace {
 
+/// Columns of the inputs, with a gap between the groups.
+enum { kFitted, kFirstGap, kSliders, kSecondGap = kSliders + 3, kAnalysed };
+
 /// Which tyre is fitted, and whether it has burst.
-QLayout* MakeChoice(Binding& binding, QWidget* parent) {
-    auto* const column = new QVBoxLayout;
-    auto* const types = new QComboBox(parent);
-    auto* const blow = new QCheckBox(parent);
-    column->addWidget(types);
-    column->addWidget(blow);
-    column->addStretch();
+void PlaceFitted(Binding& binding, QGridLayout& grid) {
+    auto* const types = new QComboBox(grid.parentWidget());
+    auto* const blow = new QCheckBox(grid.parentWidget());
+    grid.addWidget(types, 0, kFitted);
+    grid.addWidget(blow, 1, kFitted);
     binding.Bind(Zolv.Select_Tyres, *types, &Zolv.GearingLabel[38]);
     binding.Bind(Zolv.BlowTyres, *blow);
-    return column;
 }
 
-void FillSliders(Binding& binding, QGridLayout& grid) {
+/// The speed stands last: a car without downforce has none here.
+void PlaceSliders(Binding& binding, QGridLayout& grid) {
     const WidestOf pressure = WidestTexts(&UnitState::Pressure, 388);
-    AddSliderRow(binding, grid, {Zolv.TyreLabel[1], Zolv.Select_PressureF, Zolv.Label_PressureF, pressure});
-    AddSliderRow(binding, grid, {Zolv.TyreLabel[2], Zolv.Select_PressureR, Zolv.Label_PressureR, pressure});
-    AddSliderRow(binding, grid,
-                 {Zolv.TyreLabel[0], Zolv.Select_AeroSpeed_TyreTab, Zolv.AeroSpeed_TyreTab,
-                  WidestTexts(&UnitState::Speed, 188.8)});
+    const WidestOf speed = WidestTexts(&UnitState::Speed, 188.8);
+    int line = 0;
+    for (const SliderRow& row :
+         {SliderRow{Zolv.TyreLabel[1], Zolv.Select_PressureF, Zolv.Label_PressureF, pressure},
+          SliderRow{Zolv.TyreLabel[2], Zolv.Select_PressureR, Zolv.Label_PressureR, pressure},
+          SliderRow{Zolv.TyreLabel[0], Zolv.Select_AeroSpeed_TyreTab, Zolv.AeroSpeed_TyreTab, speed}}) {
+        PlaceSliderRow(binding, grid, line++, kSliders, row);
+    }
 }
 
 /// Which of the two tyres is analysed.
-QLayout* MakeAxleChoice(Binding& binding, QWidget* parent) {
-    auto* const column = new QVBoxLayout;
+void PlaceAnalysed(Binding& binding, QGridLayout& grid) {
+    int line = 0;
     for (OptionButton* field : {&Zolv.FrontTyreAnal, &Zolv.RearTyreAnal}) {
-        auto* const button = new QRadioButton(parent);
-        column->addWidget(button);
+        auto* const button = new QRadioButton(grid.parentWidget());
+        grid.addWidget(button, line++, kAnalysed);
         binding.Bind(*field, *button);
     }
-    column->addStretch();
-    return column;
+}
+
+QLayout* MakeInputs(Binding& binding, QVBoxLayout& page) {
+    auto* const grid = new QGridLayout;
+    page.addLayout(grid);
+    grid->setHorizontalSpacing(kMargin);
+    grid->setVerticalSpacing(kGap);
+    for (const int gap : {kFirstGap, kSecondGap}) grid->setColumnMinimumWidth(gap, kGap);
+    PlaceFitted(binding, *grid);
+    PlaceSliders(binding, *grid);
+    PlaceAnalysed(binding, *grid);
+    return grid;
 }
 
 QWidget* MakeFigures(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.TyreNumAnal, parent);
     auto& words = Zolv.TyreLabel;
-    QGridLayout& grid = *MakeRows(box);
-    AddFigureRows(binding, grid,
+    AddFigureRows(binding, *MakeRows(box),
                   {{words[7], Zolv.CPW},
                    {words[8], Zolv.CPL},
                    {words[9], Zolv.CPA, WidestTexts(&UnitState::Area, 0.0888)},
@@ -69,46 +82,46 @@ QWidget* MakeFigures(Binding& binding, QWidget* parent) {
                    {words[16], Zolv.TD},
                    {words[17], Zolv.TRRC, WidestTexts(&UnitState::Distance, 0.388, QStringLiteral(" / "), 2.888)},
                    {words[18], Zolv.TWH}});
-    grid.setRowStretch(NextRow(grid), 1);
     return box;
 }
 
-/// A drawing of the tyre: what it shows, the drawing, and how near it is seen.
+/// A drawing of the tyre: what it shows, how near it is seen, and the drawing itself.
 struct Drawing {
     Label& title;
-    CanvasField& canvas;
     Label& zoomWords;
     Slider& zoom;
+    CanvasField& canvas;
 };
 
 QLayout* MakeDrawing(Binding& binding, const Drawing& drawing, QWidget* parent) {
-    auto* const column = new QVBoxLayout;
-    column->setSpacing(kGap);
-    column->addWidget(MakeTitle(binding, drawing.title, parent));
-    auto* const view = new CanvasView(drawing.canvas, CanvasView::Shape::Proportional, parent);
-    column->addWidget(view, 1);
-    binding.Bind(drawing.canvas, *view);
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(kMargin);
+    grid->setVerticalSpacing(kGap);
+    grid->addWidget(MakeTitle(binding, drawing.title, parent), 0, 0, 1, 2);
 
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(kMargin);
+    grid->addWidget(MakeWords(binding, drawing.zoomWords, parent), 1, 0);
     auto* const slider = new QSlider(Qt::Horizontal, parent);
-    row->addWidget(MakeWords(binding, drawing.zoomWords, parent));
-    row->addWidget(slider, 1);
+    grid->addWidget(slider, 1, 1);
+    grid->setColumnStretch(1, 1);
     binding.Bind(drawing.zoom, *slider, &drawing.zoomWords);
-    column->addLayout(row);
-    return column;
+
+    auto* const view = new CanvasView(drawing.canvas, CanvasView::Shape::Proportional, parent);
+    grid->addWidget(view, 2, 0, 1, 2);
+    grid->setRowStretch(2, 1);
+    binding.Bind(drawing.canvas, *view);
+    return grid;
 }
 
-/// The drawings share the width as their canvases are wide, so that both come out in one height.
+/// The footprint gets more of the width: its canvas is wider, and it has numbers along its axes.
 QWidget* MakeDrawings(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.TyreGraphAnal, parent);
     auto* const row = new QHBoxLayout(box);
-    row->setContentsMargins(kMargin, kGap, kMargin, kMargin);
+    SetGroupMargins(*row);
     row->setSpacing(kSection);
-    for (const Drawing& drawing : {Drawing{Zolv.TyreLabel[3], Zolv.CPS, Zolv.TyreLabel[5], Zolv.ZoomCPS},
-                                   Drawing{Zolv.TyreLabel[4], Zolv.SV, Zolv.TyreLabel[6], Zolv.ZoomSideOn}}) {
-        row->addLayout(MakeDrawing(binding, drawing, box), static_cast<int>(drawing.canvas.Drawing().Width() / 100));
-    }
+    const Drawing footprint{Zolv.TyreLabel[3], Zolv.TyreLabel[5], Zolv.ZoomCPS, Zolv.CPS};
+    const Drawing sideView{Zolv.TyreLabel[4], Zolv.TyreLabel[6], Zolv.ZoomSideOn, Zolv.SV};
+    row->addLayout(MakeDrawing(binding, footprint, box), 3);
+    row->addLayout(MakeDrawing(binding, sideView, box), 2);
     return box;
 }
 
@@ -119,16 +132,7 @@ TyresPageView::TyresPageView(Binding& binding, QWidget* parent) : QWidget(parent
     page->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     page->setSpacing(kSection);
 
-    auto* const inputs = new QHBoxLayout;
-    auto* const sliders = new QGridLayout;
-    inputs->setSpacing(2 * kSection);
-    sliders->setHorizontalSpacing(kMargin);
-    sliders->setVerticalSpacing(kGap);
-    page->addLayout(inputs);
-    inputs->addLayout(MakeChoice(binding, this));
-    inputs->addLayout(sliders, 1);
-    FillSliders(binding, *sliders);
-    inputs->addLayout(MakeAxleChoice(binding, this));
+    MakeInputs(binding, *page);
 
     auto* const results = new QHBoxLayout;
     results->setSpacing(kSection);

@@ -5,6 +5,7 @@
 
 #include "desktop/canvas_painting.h"
 #include "desktop/plot_marks.h"
+#include "desktop/theme.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "plots/svg.h"
@@ -43,10 +44,12 @@ void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& plac
 
 QImage PictureOf(const Canvas& canvas, CanvasShape shape, const QSize& size, const QFont& font) {
     constexpr int kResolution = 2;
-    QImage image(size * kResolution, QImage::Format_RGB32);
+    const QSize whole = size + QSize(2 * kMargin, 2 * kMargin);
+    QImage image(whole * kResolution, QImage::Format_RGB32);
     image.setDevicePixelRatio(kResolution);
     image.fill(Qt::white);
     QPainter painter(&image);
+    painter.translate(kMargin, kMargin);
     const PlotPlace place = PlaceOf(canvas, shape, size, QFontMetricsF(NumberFont(font)));
     PaintPicture(painter, canvas, place, font, {.words = QColor(60, 66, 74), .frame = QColor(150, 156, 164)});
     return image;

@@ -20,7 +20,8 @@ struct CanvasInks {
 void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QFont& font,
                   const CanvasInks& inks);
 
-/// A drawing as it stands in a view of that size, at twice its resolution, in dark words on white.
+/// A drawing as it stands in a view of that size, at twice its resolution, in dark words on white with a margin
+/// around.
 [[nodiscard]] QImage PictureOf(const Canvas& canvas, CanvasShape shape, const QSize& size, const QFont& font);
 
 /// Ask for a file and write a drawing into it; say so where that fails.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <span>
 #include <vector>
 
 #include "desktop/texts_of_qt.h"
@@ -31,6 +33,31 @@ struct Strand {
         points.push_back(to);
     }
 };
+
+/// A polyline without the points that lie on the way from one kept point to the next, within a tenth of a device pixel
+/// up or down: stroking is what takes the time of a plot, and a run has a point every other pixel.
+std::vector<QPointF> Straightened(std::span<const QPointF> points) {
+    constexpr double kTolerance = 0.1;
+    constexpr double kAnySlope = std::numeric_limits<double>::infinity();
+    std::vector<QPointF> kept{points.front()};
+    double lowest = -kAnySlope;  // slopes from the last kept point that pass all points since
+    double highest = kAnySlope;
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        QPointF way = points[i] - kept.back();
+        const double slope = way.y() / way.x();
+        if (!(way.x() > 0 && slope >= lowest && slope <= highest) && i > 1) {
+            if (kept.back() != points[i - 1]) kept.push_back(points[i - 1]);
+            way = points[i] - kept.back();
+            lowest = -kAnySlope;
+            highest = kAnySlope;
+        }
+        const bool goesOn = way.x() > 0;  // straight up or back, the point is a corner
+        lowest = goesOn ? std::max(lowest, (way.y() - kTolerance) / way.x()) : kAnySlope;
+        highest = goesOn ? std::min(highest, (way.y() + kTolerance) / way.x()) : -kAnySlope;
+    }
+    kept.push_back(points.back());
+    return kept;
+}
 
 /// Paints the operations of one drawing in device pixels. Lines are gathered by pen, also where curves are drawn in
 /// turns, since the painter strokes one long polyline much faster than its pieces.
@@ -74,22 +101,28 @@ private:
     }
 
     void PaintLine(DrawingOperation line) {
-        if (HasAxes() && IsGridLine(line)) {
-            const Canvas::Axes& axes = canvas_.PresentAxes();
-            const bool upright = line.x1 == line.x2;
-            const double coordinate = upright ? line.x1 : line.y1;
-            const PlotAxis& axis = upright ? axes.x : axes.y;
-            if (!IsPaintedGridLine(axis, coordinate, upright ? gridStepX_ : gridStepY_)) return;
-            if (!CutLine(line, cut_)) return;
-            PaintRule(line, coordinate == axis.origin ? kZeroInk : kGridInk);
-            return;
-        }
-        if (!CutLine(line, cut_)) return;
-        if (IsRule(line)) {
+        const bool onGrid = HasAxes() && IsGridLine(line);
+        if ((onGrid && IsLeftOut(line)) || !CutLine(line, cut_)) return;
+        if (onGrid) {
+            PaintRule(line, IsZeroInside(line) ? kZeroInk : kGridInk);
+        } else if (IsRule(line)) {
             PaintRule(line, InkColour(line.colour));
-            return;
+        } else {
+            StrandOf(line).Add({map_.X(line.x1), map_.Y(line.y1)}, {map_.X(line.x2), map_.Y(line.y2)});
         }
-        StrandOf(line).Add({map_.X(line.x1), map_.Y(line.y1)}, {map_.X(line.x2), map_.Y(line.y2)});
+    }
+
+    bool IsLeftOut(const DrawingOperation& gridLine) const {
+        const Canvas::Axes& axes = canvas_.PresentAxes();
+        return gridLine.x1 == gridLine.x2 ? !IsPaintedGridLine(axes.x, gridLine.x1, gridStepX_)
+                                          : !IsPaintedGridLine(axes.y, gridLine.y1, gridStepY_);
+    }
+
+    /// Whether a grid line is that of the value zero and not on the frame, which would double it.
+    bool IsZeroInside(const DrawingOperation& gridLine) const {
+        const Canvas::Axes& axes = canvas_.PresentAxes();
+        if (gridLine.x1 == gridLine.x2) return gridLine.x1 == axes.x.origin && gridLine.x1 > whole_.left;
+        return gridLine.y1 == axes.y.origin && gridLine.y1 < whole_.bottom;
     }
 
     void PaintRule(const DrawingOperation& line, const QColor& ink) {
@@ -152,6 +185,18 @@ private:
         return strands_.emplace_back(Strand{line.colour, line.width, {}, {}});
     }
 
+    /// The painter's time for one stroke grows with the square of its length along a row of pixels.
+    void PaintPolyline(std::span<const QPointF> points) {
+        const double piece = 32 * scale_;
+        std::size_t start = 0;
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            const bool isLast = i + 1 == points.size();
+            if (!isLast && std::fabs(points[i + 1].x() - points[start].x()) <= piece) continue;
+            painter_.drawPolyline(points.data() + start, static_cast<int>(i + 1 - start));
+            start = i;
+        }
+    }
+
     void PaintStrands() {
         painter_.setRenderHint(QPainter::Antialiasing);
         painter_.setBrush(Qt::NoBrush);
@@ -161,7 +206,7 @@ private:
             for (std::size_t i = 0; i < strand.starts.size(); ++i) {
                 const std::size_t start = strand.starts[i];
                 const std::size_t end = i + 1 < strand.starts.size() ? strand.starts[i + 1] : strand.points.size();
-                painter_.drawPolyline(strand.points.data() + start, static_cast<int>(end - start));
+                PaintPolyline(Straightened(std::span(strand.points).subspan(start, end - start)));
             }
         }
         strands_.clear();

@@ -150,30 +150,28 @@ std::string ReadingAt(const PlotAxis& axis, double coordinate, double viewScale)
     return WithUnit((coordinate - axis.origin) / axis.scale, decimals, unit);
 }
 
-std::vector<CurveTop> CurvesOf(const Canvas& canvas) {
-    struct Strand {
-        Rgb colour;
+std::vector<Curve> CurvesOf(const Canvas& canvas) {
+    struct Pen {
         std::uint16_t width = 0;
-        double endX = 0, endY = 0;
-        std::size_t curve = 0;
+        std::size_t curve = 0;  // that it drew last
     };
-    std::vector<Strand> strands;  // one for each pen, since curves may be drawn in turns
-    std::vector<CurveTop> curves;
+    std::vector<Pen> pens;  // curves may be drawn in turns
+    std::vector<Curve> curves;
     for (const DrawingOperation& line : canvas.Operations()) {
         if (line.kind != Kind::Line || line.width <= 1) continue;
-        auto strand = std::find_if(strands.begin(), strands.end(), [&](const Strand& candidate) {
-            return candidate.colour == line.colour && candidate.width == line.width;
+        auto pen = std::find_if(pens.begin(), pens.end(), [&](const Pen& candidate) {
+            return curves[candidate.curve].colour == line.colour && candidate.width == line.width;
         });
-        const bool isNewPen = strand == strands.end();
-        if (isNewPen) strand = strands.insert(strand, {.colour = line.colour, .width = line.width});
-        if (isNewPen || strand->endX != line.x1 || strand->endY != line.y1) {
-            strand->curve = curves.size();
-            curves.push_back({line.colour, line.x1, line.y1});
+        const bool isNew = pen == pens.end();
+        if (isNew) pen = pens.insert(pen, {line.width, curves.size()});
+        if (isNew || curves[pen->curve].endX != line.x1 || curves[pen->curve].endY != line.y1) {
+            pen->curve = curves.size();
+            curves.push_back({line.colour, line.x1, line.y1, line.x1, line.y1});
         }
-        CurveTop& curve = curves[strand->curve];
-        if (line.y2 < curve.y) curve.x = line.x2, curve.y = line.y2;
-        strand->endX = line.x2;
-        strand->endY = line.y2;
+        Curve& curve = curves[pen->curve];
+        if (line.y2 < curve.topY) curve.topX = line.x2, curve.topY = line.y2;
+        curve.endX = line.x2;
+        curve.endY = line.y2;
     }
     return curves;
 }

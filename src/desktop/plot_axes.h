@@ -75,13 +75,14 @@ struct AxisNumbers {
 [[nodiscard]] std::string ReadingAt(const PlotAxis& axis, double coordinate, double viewScale);
 
 /// One curve of a drawing: lines wider than the grid's, each starting where the last one of its colour ended.
-struct CurveTop {
+struct Curve {
     Rgb colour;
-    double x = 0, y = 0;  // its highest point, in canvas units
+    double topX = 0, topY = 0;  // its highest point, in canvas units
+    double endX = 0, endY = 0;
 };
 
 /// The curves of a drawing, in drawing order.
-[[nodiscard]] std::vector<CurveTop> CurvesOf(const Canvas& canvas);
+[[nodiscard]] std::vector<Curve> CurvesOf(const Canvas& canvas);
 
 /// Whether a line is one of the grid: thin, black and along an axis.
 [[nodiscard]] bool IsGridLine(const DrawingOperation& operation);

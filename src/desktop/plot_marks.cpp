@@ -120,21 +120,21 @@ void PaintLegendAbove(QPainter& painter, const std::vector<LegendLine>& lines, Q
     }
 }
 
+/// Leaves the curves more room than it takes, or stays away.
 void PaintLegendInside(QPainter& painter, const std::vector<LegendLine>& lines, const QRectF& ground) {
+    constexpr double kLargestShare = 0.6;  // of each side
     const QFontMetricsF metrics(painter.font());
     double widest = 0;
     for (const LegendLine& line : lines) widest = std::max(widest, WidthOf(line, metrics));
     QRectF box(0, 0, widest + 2 * kPadding, static_cast<double>(lines.size()) * metrics.height() + 2 * kPadding);
+    if (box.width() > ground.width() * kLargestShare || box.height() > ground.height() * kLargestShare) return;
     box.moveTopRight(ground.topRight() + QPointF(-kPadding, kPadding));
-    painter.save();
-    painter.setClipRect(ground, Qt::IntersectClip);
     painter.fillRect(box, kVeil);
     QPointF corner = box.topLeft() + QPointF(kPadding, kPadding);
     for (const LegendLine& line : lines) {
         PaintLegendLine(painter, line, corner, kWordsOnWhite);
         corner.ry() += metrics.height();
     }
-    painter.restore();
 }
 
 struct CurveName {
@@ -143,29 +143,48 @@ struct CurveName {
     Rgb colour;
 };
 
-/// Names for the curves whose colours others share, at their highest points; none at all where they would lie on one
-/// another, or where the curves cannot be told apart by the order in which they are drawn.
+/// Whether the curves of a drawing are those of its legend, one for one.
+bool IsLegendOf(const std::vector<LegendEntry>& legend, const std::vector<Curve>& curves) {
+    return std::equal(legend.begin(), legend.end(), curves.begin(), curves.end(),
+                      [](const LegendEntry& entry, const Curve& curve) { return entry.colour == curve.colour; });
+}
+
+/// A place for a name of that size at its curve, over its top or behind its end, that is free of the names before it;
+/// empty where there is none.
+QRectF PlaceAtCurve(const Curve& curve, const QSizeF& size, const PlotPlace& place,
+                    const std::vector<CurveName>& names) {
+    constexpr double kAside = 3;
+    const CanvasMapping mapping = place.Mapping();
+    const QPointF top(mapping.X(curve.topX) - size.width() / 2, mapping.Y(curve.topY) - size.height() - kAside);
+    const QPointF end(mapping.X(curve.endX) + kAside, mapping.Y(curve.endY) - size.height() / 2);
+    for (const QPointF& corner : {top, end}) {
+        QRectF box(corner, size);
+        box.moveLeft(std::clamp(box.left(), place.ground.left(), place.ground.right() - size.width()));
+        box.moveTop(std::clamp(box.top(), place.ground.top(), place.ground.bottom() - size.height()));
+        const bool covers =
+            std::any_of(names.begin(), names.end(), [&](const CurveName& other) { return other.box.intersects(box); });
+        if (!covers) return box;
+    }
+    return {};
+}
+
+/// Names for the curves whose colours others share; none at all where one of them would lie on another, or where it is
+/// not certain which curve is whose.
 std::vector<CurveName> NamesAtCurves(const Canvas& canvas, const PlotPlace& place, const QFontMetricsF& metrics) {
     const std::vector<LegendEntry>& legend = canvas.Legend();
-    const bool needed = std::any_of(legend.begin(), legend.end(),
-                                    [&](const LegendEntry& entry) { return IsColourShared(canvas, entry.colour); });
-    if (!needed) return {};
-    const std::vector<CurveTop> curves = CurvesOf(canvas);
-    if (curves.size() != legend.size()) return {};
-    const CanvasMapping mapping = place.Mapping();
+    const auto isShared = [&](const LegendEntry& entry) { return IsColourShared(canvas, entry.colour); };
+    if (std::none_of(legend.begin(), legend.end(), isShared)) return {};
+    const std::vector<Curve> curves = CurvesOf(canvas);
+    if (!IsLegendOf(legend, curves)) return {};
     std::vector<CurveName> names;
     for (std::size_t i = 0; i < legend.size(); ++i) {
-        if (legend[i].colour != curves[i].colour) return {};
-        if (!IsColourShared(canvas, legend[i].colour)) continue;
-        CurveName name{ToQt(legend[i].name), {}, legend[i].colour};
-        name.box.setSize({metrics.horizontalAdvance(name.text) + 2, metrics.height()});
-        name.box.moveCenter({mapping.X(curves[i].x), mapping.Y(curves[i].y) - metrics.height() / 2 - 3});
-        name.box.moveLeft(std::clamp(name.box.left(), place.ground.left(), place.ground.right() - name.box.width()));
-        name.box.moveTop(std::max(name.box.top(), place.ground.top()));
-        const bool covered = std::any_of(names.begin(), names.end(),
-                                         [&](const CurveName& other) { return other.box.intersects(name.box); });
-        if (covered) return {};
-        names.push_back(name);
+        if (!isShared(legend[i])) continue;
+        const QString text = ToQt(legend[i].name);
+        const QSizeF size(metrics.horizontalAdvance(text) + 2, metrics.height());
+        if (size.width() > place.ground.width() || size.height() > place.ground.height()) return {};
+        const QRectF box = PlaceAtCurve(curves[i], size, place, names);
+        if (box.isEmpty()) return {};
+        names.push_back({text, box, legend[i].colour});
     }
     return names;
 }
@@ -214,13 +233,14 @@ void PaintLegend(QPainter& painter, const Canvas& canvas, const PlotPlace& place
     const std::vector<CurveName> names = NamesAtCurves(canvas, place, metrics);
     PaintNamesAtCurves(painter, names);
     const std::vector<LegendLine> lines = LegendLines(canvas, !names.empty());
+    if (lines.empty()) return;
     double width = -kGapBetween;
     for (const LegendLine& line : lines) width += WidthOf(line, metrics) + kGapBetween;
     const QRectF unit = UnitOfYBox(place, ToQt(canvas.PresentAxes().y.unit), metrics);
     const QPointF corner(place.ground.right() - width, unit.top());
     if (corner.x() > std::max(unit.right(), place.ground.left()) + kGapBetween) {
         PaintLegendAbove(painter, lines, corner, ink);
-    } else if (!lines.empty()) {
+    } else {
         PaintLegendInside(painter, lines, place.ground);
     }
 }

@@ -233,34 +233,33 @@ TEST(Registry, FindsEveryFieldByItsName) {
     EXPECT_EQ(NearestFieldName("gaer3"), "Gear3");
 }
 
-struct SliderCase {
-    const char* name;
-    int min, max, small, large, tick, value;
-};
-class StartSlider : public testing::TestWithParam<SliderCase> {};
-
-TEST_P(StartSlider, StandsAsItsFormSays) {
+TEST(MainWindow, SlidersStandAsItsFormSays) {
+    struct Case {
+        const char* name;
+        int min, max, small, large, tick, value;
+    };
+    constexpr Case kCases[] = {
+        {"Select_Ratio1", 500, 7500, 10, 100, 500, 3500},
+        {"Select_Ratio4", 500, 7500, 10, 100, 500, 1350},
+        {"Select_Ratio6", 500, 7500, 10, 100, 500, 1000},
+        {"Select_FinalDrive1", 500, 7500, 100, 500, 500, 4000},
+        {"Select_FinalDrive2", 500, 7500, 100, 500, 500, 4000},
+        {"Select_Speed1", 1, 200, 1, 5, 36, 16},
+        {"Select_Speed6", 1, 200, 1, 5, 36, 60},
+        {"Select_AeroSpeed", 0, 200, 1, 10, 1, 40},
+        {"Select_AeroSpeed_TyreTab", 0, 200, 1, 10, 1, 40},
+        {"Select_FrontWingAngle", 0, 15, 1, 3, 1, 7},
+        {"Select_RearWingAngle", 0, 30, 1, 3, 1, 14},
+    };
     FreshStart();
-    const SliderCase& row = GetParam();
-    const auto& slider = static_cast<const Slider&>(*FindFields(row.name).at(0));
-    EXPECT_THAT((std::vector{slider.Min(), slider.Max(), slider.SmallStep(), slider.LargeStep(), slider.Tick(),
-                             slider.Value()}),
-                ElementsAre(row.min, row.max, row.small, row.large, row.tick, row.value));
+    for (const Case& row : kCases) {
+        const auto& slider = static_cast<const Slider&>(*FindFields(row.name).at(0));
+        EXPECT_THAT((std::vector{slider.Min(), slider.Max(), slider.SmallStep(), slider.LargeStep(), slider.Tick(),
+                                 slider.Value()}),
+                    ElementsAre(row.min, row.max, row.small, row.large, row.tick, row.value))
+            << row.name;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(OfTheMainWindow, StartSlider,
-                         testing::Values(SliderCase{"Select_Ratio1", 500, 7500, 10, 100, 500, 3500},
-                                         SliderCase{"Select_Ratio4", 500, 7500, 10, 100, 500, 1350},
-                                         SliderCase{"Select_Ratio6", 500, 7500, 10, 100, 500, 1000},
-                                         SliderCase{"Select_FinalDrive1", 500, 7500, 100, 500, 500, 4000},
-                                         SliderCase{"Select_FinalDrive2", 500, 7500, 100, 500, 500, 4000},
-                                         SliderCase{"Select_Speed1", 1, 200, 1, 5, 36, 16},
-                                         SliderCase{"Select_Speed6", 1, 200, 1, 5, 36, 60},
-                                         SliderCase{"Select_AeroSpeed", 0, 200, 1, 10, 1, 40},
-                                         SliderCase{"Select_AeroSpeed_TyreTab", 0, 200, 1, 10, 1, 40},
-                                         SliderCase{"Select_FrontWingAngle", 0, 15, 1, 3, 1, 7},
-                                         SliderCase{"Select_RearWingAngle", 0, 30, 1, 3, 1, 14}),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
 }  // namespace zolv

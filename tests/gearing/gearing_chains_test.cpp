@@ -25,9 +25,9 @@ protected:
     }
 
     static std::string Row(const std::string& name, int first, int last) {
-        std::string texts;
-        for (int i = first; i <= last; ++i) texts += Shown(name + std::to_string(i)) + '|';
-        return texts;
+        std::vector<std::string> names;
+        for (int i = first; i <= last; ++i) names.push_back(name + std::to_string(i));
+        return Shown(names);
     }
 
     static std::vector<std::string> Printed() {
@@ -58,7 +58,7 @@ TEST_P(PagesOf, DescribeTheCar) {
     EXPECT_EQ(Row("Speed", 1, 6), row.speed);
     EXPECT_EQ(Row("RAC", 1, 5), row.rac);
     EXPECT_EQ(Row("Torque", 1, 6), row.torque);
-    EXPECT_EQ(Shown("RPMR") + '|' + Shown("SpeedR") + '|' + Shown("TorqueR"), row.reverse);
+    EXPECT_EQ(Shown({"RPMR", "SpeedR", "TorqueR"}), row.reverse);
     EXPECT_EQ(Row("B_RPM", 1, 6), row.rpmOfSpeeds);
     EXPECT_EQ(Row("B_Gear", 1, 6), row.ratio);
     EXPECT_EQ(Row("B_RAC", 1, 5), row.racOfSpeeds);
@@ -71,15 +71,15 @@ TEST_P(PagesOf, DescribeTheCar) {
 INSTANTIATE_TEST_SUITE_P(Computed, PagesOf, testing::Values(
     PageCase{"FourGearsFrontDriven", "Mote 900",
         "6598 rpm|6505 rpm|6186 rpm|6427 rpm|6427 rpm|6427 rpm|", "11.2 m/s|16.1 m/s|21.6 m/s|28.2 m/s|76.2 m/s|76.2 m/s|",
-        "4525 rpm|4608 rpm|4912 rpm|2380 rpm|6427 rpm|", "986 Nm|676 Nm|479 Nm|380 Nm|141 Nm|141 Nm|", "6427 rpm|6.7 m/s|1605 Nm",
+        "4525 rpm|4608 rpm|4912 rpm|2380 rpm|6427 rpm|", "986 Nm|676 Nm|479 Nm|380 Nm|141 Nm|141 Nm|", "6427 rpm|6.7 m/s|1605 Nm|",
         "6235 rpm|6990 rpm|5850 rpm|6427 rpm|6427 rpm|6427 rpm|", "2.311|1.802|1.084|0.977|0.191|0.191|", "4862 rpm|4205 rpm|5274 rpm|1253 rpm|6427 rpm|"},
     PageCase{"SixGearsRearDrivenWithWings", "Series Lo",
         "10700 rpm|10548 rpm|10031 rpm|9725 rpm|9638 rpm|10422 rpm|", "25.1 m/s|36 m/s|48.2 m/s|58.7 m/s|68 m/s|84 m/s|",
-        "7337 rpm|7471 rpm|7965 rpm|8285 rpm|8381 rpm|", "4743 Nm|3252 Nm|2304 Nm|1830 Nm|1558 Nm|1355 Nm|", "10422 rpm|21.4 m/s|5421 Nm",
+        "7337 rpm|7471 rpm|7965 rpm|8285 rpm|8381 rpm|", "4743 Nm|3252 Nm|2304 Nm|1830 Nm|1558 Nm|1355 Nm|", "10422 rpm|21.4 m/s|5421 Nm|",
         "9990 rpm|11532 rpm|9308 rpm|10712 rpm|9426 rpm|10422 rpm|", "5.129|4.111|2.377|2.237|1.53|1.4|", "8006 rpm|6670 rpm|8760 rpm|7326 rpm|8622 rpm|"},
     PageCase{"SixGearsAllDriven", "Varo R",
         "7412 rpm|7307 rpm|6948 rpm|6737 rpm|6676 rpm|7220 rpm|", "18.6 m/s|26.7 m/s|35.9 m/s|43.7 m/s|50.8 m/s|63 m/s|",
-        "5082 rpm|5176 rpm|5518 rpm|5739 rpm|5805 rpm|", "6847 Nm|4695 Nm|3326 Nm|2641 Nm|2250 Nm|1956 Nm|", "7220 rpm|18.1 m/s|6847 Nm",
+        "5082 rpm|5176 rpm|5518 rpm|5739 rpm|5805 rpm|", "6847 Nm|4695 Nm|3326 Nm|2641 Nm|2250 Nm|1956 Nm|", "7220 rpm|18.1 m/s|6847 Nm|",
         "6911 rpm|7992 rpm|6432 rpm|7429 rpm|6505 rpm|7220 rpm|", "3.798|3.053|1.764|1.67|1.139|1.051|", "5556 rpm|4618 rpm|6088 rpm|5068 rpm|6000 rpm|"}),
     [](const auto& row) { return std::string(row.param.name); });
 // clang-format on

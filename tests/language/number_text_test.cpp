@@ -7,6 +7,7 @@
 #include <limits>
 #include <locale>
 #include <string>
+#include <utility>
 
 namespace zolv {
 namespace {
@@ -14,61 +15,40 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 
-struct ValCase {
-    const char* name;
-    const char* text;
-    double value;
-};
-class ValOf : public testing::TestWithParam<ValCase> {};
-
-TEST_P(ValOf, IsTheLeadingNumber) { EXPECT_EQ(Val(GetParam().text), GetParam().value); }
-
-INSTANTIATE_TEST_SUITE_P(ByRule, ValOf,
-                         testing::Values(ValCase{"Empty", "", 0}, ValCase{"Word", "rpm", 0}, ValCase{"Colon", ":7", 0},
-                                         ValCase{"CommaEndsIt", "12,5", 12}, ValCase{"BlankInFront", " 7000", 7000},
-                                         ValCase{"BlankWithin", "1 0", 10}, ValCase{"TabAndLineFeed", "1\t2\n3", 123},
-                                         ValCase{"CarriageReturnEndsIt", "1\r2", 1}, ValCase{"Minus", "-2.5", -2.5},
-                                         ValCase{"BlankBehindSign", "- 2", -2}, ValCase{"Plus", "+3", 3},
-                                         ValCase{"TwoSigns", "+-3", 0}, ValCase{"SecondPointEndsIt", "1.5.2", 1.5},
-                                         ValCase{"PointInFront", ".5", 0.5}, ValCase{"PointBehind", "5.", 5},
-                                         ValCase{"PointAlone", ".", 0}, ValCase{"SignAlone", "-", 0},
-                                         ValCase{"ExponentE", "1.5e3", 1500}, ValCase{"ExponentD", "25D-1", 2.5},
-                                         ValCase{"ExponentPlus", "2E+2", 200}, ValCase{"ExponentSplit", "2 e 2", 200},
-                                         ValCase{"ExponentWithoutDigits", "3e", 3},
-                                         ValCase{"ExponentSignAlone", "3e-", 3}, ValCase{"ExponentAlone", "e5", 0},
-                                         ValCase{"FractionInExponent", "2e1.9", 20},
-                                         ValCase{"UnitBehind", "12 m/s", 12}, ValCase{"Hexadecimal", "0x10", 0},
-                                         ValCase{"NotANumber", "nan", 0}, ValCase{"Infinity", "inf", 0},
-                                         ValCase{"TooLarge", "1e999", 1.7976931348623157e308},
-                                         ValCase{"TooFarBelow", "-1E999", -1.7976931348623157e308},
-                                         ValCase{"TooSmall", "1e-999", 0}, ValCase{"LargeButSmall", "0.0001e3", 0.1}),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-struct RoundCase {
-    const char* name;
-    double value;
-    int decimals;
-    double rounded;
-    const char* text;
-};
-class Rounding : public testing::TestWithParam<RoundCase> {};
-
-TEST_P(Rounding, IsHalfToEven) {
-    EXPECT_EQ(Round(GetParam().value, GetParam().decimals), GetParam().rounded);
-    EXPECT_EQ(RoundedText(GetParam().value, GetParam().decimals), GetParam().text);
+TEST(Val, IsTheLeadingNumberOfAText) {
+    // clang-format off
+    constexpr std::pair<const char*, double> kCases[] = {
+        {"", 0}, {"rpm", 0}, {":7", 0}, {".", 0}, {"-", 0}, {"e5", 0}, {"nan", 0}, {"inf", 0}, {"0x10", 0}, {"+-3", 0},
+        {"12,5", 12}, {"12 m/s", 12}, {"1.5.2", 1.5}, {".5", 0.5}, {"5.", 5}, {"-2.5", -2.5}, {"+3", 3},
+        // Blanks, tabs and line feeds are skipped wherever they stand, a carriage return is not.
+        {" 7000", 7000}, {"1 0", 10}, {"1\t2\n3", 123}, {"- 2", -2}, {"2 e 2", 200}, {"1\r2", 1},
+        {"1.5e3", 1500}, {"25D-1", 2.5}, {"2E+2", 200}, {"3e", 3}, {"3e-", 3}, {"2e1.9", 20}, {"0.0001e3", 0.1},
+        {"1e999", 1.7976931348623157e308}, {"-1E999", -1.7976931348623157e308}, {"1e-999", 0},
+    };
+    // clang-format on
+    for (const auto& [text, value] : kCases) EXPECT_EQ(Val(text), value) << text;
 }
 
-// 2.675 * 100 is 267.5 in double, though the double nearest to 2.675 lies below it.
-INSTANTIATE_TEST_SUITE_P(
-    ByHand, Rounding,
-    testing::Values(RoundCase{"QuarterDown", 0.25, 1, 0.2, "0.2"}, RoundCase{"ThreeQuartersUp", 0.75, 1, 0.8, "0.8"},
-                    RoundCase{"HalfToTwo", 2.5, 0, 2, "2"}, RoundCase{"HalfToFour", 3.5, 0, 4, "4"},
-                    RoundCase{"NegativeHalf", -2.5, 0, -2, "-2"}, RoundCase{"ScaledHalf", 2.675, 2, 2.68, "2.68"},
-                    RoundCase{"NegativeZero", -0.2, 0, 0, "0"}, RoundCase{"NoTrailingZeros", 360.0004, 2, 360, "360"},
-                    RoundCase{"ZeroInFront", 0.05, 2, 0.05, "0.05"},
-                    RoundCase{"NegativeFraction", -0.425, 1, -0.4, "-0.4"},
-                    RoundCase{"InnerZeros", 12.0304, 4, 12.0304, "12.0304"}),
-    [](const auto& row) { return std::string(row.param.name); });
+// By hand. 2.675 * 100 is 267.5 in double, though the double nearest to 2.675 lies below it.
+TEST(Round, IsHalfToEven) {
+    struct Case {
+        double value;
+        int decimals;
+        double rounded;
+        const char* text;
+    };
+    // clang-format off
+    constexpr Case kCases[] = {
+        {0.25, 1, 0.2, "0.2"}, {0.75, 1, 0.8, "0.8"}, {2.5, 0, 2, "2"}, {3.5, 0, 4, "4"}, {-2.5, 0, -2, "-2"},
+        {2.675, 2, 2.68, "2.68"}, {-0.2, 0, 0, "0"}, {360.0004, 2, 360, "360"}, {0.05, 2, 0.05, "0.05"},
+        {-0.425, 1, -0.4, "-0.4"}, {12.0304, 4, 12.0304, "12.0304"},
+    };
+    // clang-format on
+    for (const Case& row : kCases) {
+        EXPECT_EQ(Round(row.value, row.decimals), row.rounded) << row.value;
+        EXPECT_EQ(RoundedText(row.value, row.decimals), row.text) << row.value;
+    }
+}
 
 TEST(NumberText, OfDoublesHasUpTo15Digits) {
     EXPECT_EQ(NumberText(100.0), "100");

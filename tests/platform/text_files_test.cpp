@@ -175,10 +175,5 @@ TEST_F(TextFiles, TheCurrentDirectoryEndsInASeparator) {
     EXPECT_EQ(CurrentDirectory(), "/");
 }
 
-TEST(FileMessages, HoldTheFileAndTheReason) {
-    EXPECT_EQ(CannotRead("a.zolv", "Is a directory"), "Cannot read a.zolv: Is a directory");
-    EXPECT_EQ(CannotWrite("/b.zolv", "Disk full"), "Cannot write /b.zolv: Disk full");
-}
-
 }  // namespace
 }  // namespace zolv

@@ -135,6 +135,12 @@ std::string Shown(std::string_view name) {
     return field != nullptr ? TextOf(*field) : std::string();
 }
 
+std::string Shown(const std::vector<std::string>& names) {
+    std::string shown;
+    for (const std::string& name : names) shown += Shown(name) + '|';
+    return shown;
+}
+
 void Set(std::string_view name, std::string_view value) {
     Field* field = OnlyFieldNamed(name);
     if (field == nullptr) return;

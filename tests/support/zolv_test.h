@@ -74,6 +74,9 @@ private:
 /// the caption of anything else. The test fails if there is no such field.
 std::string Shown(std::string_view name);
 
+/// The same of several, each with "|" behind it.
+std::string Shown(const std::vector<std::string>& names);
+
 /// What a user does at the field of that name, with the text as he would read it. The test fails if there is no such
 /// field, or nothing that takes it.
 void Set(std::string_view name, std::string_view value);

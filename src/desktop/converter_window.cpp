@@ -55,7 +55,7 @@ QGroupBox* ConverterWindow::MakeTyreRow() {
     Panel& frame = UnitConv.ConvertFrame[1];
     QGroupBox* const group = MakeGroup(Fields(), frame, Body());
     auto* const row = new QHBoxLayout(group);
-    row->setContentsMargins(kMargin, kGap, kMargin, kMargin);
+    SetGroupMargins(*row);
     row->setSpacing(kGap);
     const auto addBox = [&](TextBox& field) { row->addWidget(MakeNumberBox(field, group, frame, 5)); };
     addBox(UnitConv.TyreWidthInput);

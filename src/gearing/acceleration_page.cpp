@@ -50,14 +50,11 @@ struct ColumnText {
 };
 
 void AddNumber(StringConcat& table, double value, const ColumnText& text) {
-    // "N/A" stands without a suffix.
-    if (!std::isfinite(value)) {
-        table.Add(NumberText(value));
-    } else {
-        table.Use(WriteRounded(table.Room(kRoundedTextSize), value, text.decimals));
-        table.Add(text.suffix);
-    }
-    table.Add({&text.separator, 1});
+    char* end = table.Room(kRoundedTextSize + text.suffix.size() + 1);
+    end = WriteRounded(end, value, text.decimals);
+    if (std::isfinite(value)) end += text.suffix.copy(end, text.suffix.size());  // "N/A" stands without a suffix
+    *end++ = text.separator;
+    table.Use(end);
 }
 
 /// Ten values in nine titled columns: the two loads stand under the last title. Distance is kept but not shown. Row 0

@@ -92,7 +92,10 @@ TEST_F(TyresPage, ARunLeavesItsAxleLoadsForTheNextAnalysis) {
 }
 
 TEST_F(TyresPage, TheGearingLeavesTheDeformationOfItsLastGear) {
-    Set("Select_Car", "Series Lo");  // rear driven: the front stays analysed
+    Set("Select_Car", "Series Lo");
+    const float before = tyres.RearDeformation;
+    Set("Gear6", "0.8");  // faster, and so under more load
+    EXPECT_GT(tyres.RearDeformation, before);
     EXPECT_NEAR(tyres.RearDeformation, static_cast<double>(gearing.GearAxleLoads[6].rear) * 0.5 / 537'500, 1e-9);
     Set("AccelerationTestingEnable", "off");
     Set("FrontTyreAnal", "on");

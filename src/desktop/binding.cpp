@@ -286,9 +286,11 @@ void Binding::Bind(Window& field, QWidget& widget) {
     Name(widget, field);
     OnChanged(field, [&] {
         widget.setWindowTitle(PlainCaption(field.Title()));
-        if (field.Visible() == widget.isVisible()) return;
-        widget.setVisible(field.Visible());
-        if (field.Visible()) widget.raise();
+        if (field.Visible() != widget.isVisible()) widget.setVisible(field.Visible());
+        if (field.TakeToFront()) {
+            widget.raise();
+            widget.activateWindow();
+        }
     });
 }
 

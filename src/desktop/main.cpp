@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
     zolv::UseDialogs(&dialogs);
     zolv::FreshStart();
     zolv::Desktop desktop;
-    zolv::shell.Ending = [] { QApplication::quit(); };
+    zolv::shell.Ending = [] { QApplication::exit(); };  // quit() would ask each open window
     zolv::LoadZolv();
     dialogs.SetParent(&desktop.Main());
     desktop.Open();

@@ -66,6 +66,7 @@ std::vector<Field*> Window::ForgetChanged() {
 
 void Window::Reset() {
     Field::Reset();
+    toFront_ = false;
     for (Field* field : fields_) field->Reset();
 }
 

@@ -109,6 +109,16 @@ public:
     std::vector<Field*> TakeChanged() { return std::exchange(changedFields_, ForgetChanged()); }
     bool HasChanged() const { return !changedFields_.empty(); }
 
+    /// Opens the window, or brings it to the front where it is open already.
+    void Show() {
+        SetVisible(true);
+        toFront_ = true;
+        MarkChanged();
+    }
+
+    /// Whether the window is to come to the front; asked once, by the front end.
+    bool TakeToFront() { return std::exchange(toFront_, false); }
+
     void Load() { OnLoad(); }
     void Close() { OnClose(); }
 
@@ -128,6 +138,7 @@ private:
     std::vector<Field*> fields_;
     std::unordered_map<std::string_view, Field*> byName_;
     std::vector<Field*> changedFields_;
+    bool toFront_ = false;
 };
 
 }  // namespace zolv

@@ -87,9 +87,9 @@ void WireMenus() {
     Zolv.FileClose.OnClick = CloseSettings;
     Zolv.FileExit.OnClick = ShutDown;
     Zolv.OnClose = ShutDown;
-    Zolv.ToolsCustom.OnClick = [] { CustomPresets.SetVisible(true); };
-    Zolv.ToolsOptions.OnClick = [] { OptionsPanel.SetVisible(true); };
-    Zolv.ToolsLanguage.OnClick = [] { LanguageSelection.SetVisible(true); };
+    Zolv.ToolsCustom.OnClick = [] { CustomPresets.Show(); };
+    Zolv.ToolsOptions.OnClick = [] { OptionsPanel.Show(); };
+    Zolv.ToolsLanguage.OnClick = [] { LanguageSelection.Show(); };
     Zolv.HelpUsage.OnClick = [] { ShowMessage(texts.TextManualHint); };
 }
 
@@ -238,7 +238,7 @@ void WireCustomPresets() {
     CustomPresets.EditName.OnClick = ShowPresetForEditing;
     CustomPresets.EditUpdate.OnClick = UpdatePreset;
     CustomPresets.CP_Save.OnClick = SavePresetAs;
-    CustomPresets.LoadUnitConv.OnClick = [] { UnitConv.SetVisible(true); };
+    CustomPresets.LoadUnitConv.OnClick = [] { UnitConv.Show(); };
 }
 
 void WireUnitConverter() {

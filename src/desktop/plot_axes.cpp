@@ -58,11 +58,25 @@ double WidestOf(const std::vector<AxisNumber>& numbers, const std::function<doub
     return widest;
 }
 
-/// 1, 2, 5, 10, 20 and so on.
-double NextMultiple(double every) {
+/// Whether a step is 1, 2, 2.5 or 5 times a power of ten.
+bool IsRound(double step) {
+    constexpr double kRoundDigits[] = {1, 2, 2.5, 5, 10};
+    const double digits = step / std::pow(10, std::floor(std::log10(step)));
+    return std::any_of(std::begin(kRoundDigits), std::end(kRoundDigits),
+                       [&](double digit) { return std::fabs(digits - digit) < 1e-6; });
+}
+
+/// The next of 1, 2, 4, 5, 10, 20, 40 and so on that keeps a round step round, and a step that is not round to every
+/// 2nd, 5th or 10th line.
+double NextMultiple(double base, double every) {
+    constexpr double kDigits[] = {1, 2, 4, 5, 10};
     const double decade = std::pow(10, std::floor(std::log10(every) + kRounding));
-    const double digit = std::round(every / decade);
-    return digit < 2 ? 2 * decade : digit < 5 ? 5 * decade : 10 * decade;
+    const bool round = IsRound(base);
+    for (const double digit : kDigits) {
+        const double next = digit * decade;
+        if (next > every * (1 + kRounding) && (round ? IsRound(base * next) : digit != 4)) return next;
+    }
+    return 10 * decade;
 }
 
 }  // namespace
@@ -106,8 +120,14 @@ bool CutLine(DrawingOperation& line, const CanvasPart& part) {
         if (edge.towards > 0) leave = std::min(leave, edge.distance / edge.towards);
     }
     if (!(enter <= leave) || !std::isfinite(dx) || !std::isfinite(dy)) return false;
-    if (leave < 1) line.x2 = line.x1 + leave * dx, line.y2 = line.y1 + leave * dy;
-    if (enter > 0) line.x1 += enter * dx, line.y1 += enter * dy;
+    if (leave < 1) {
+        line.x2 = line.x1 + leave * dx;
+        line.y2 = line.y1 + leave * dy;
+    }
+    if (enter > 0) {
+        line.x1 += enter * dx;
+        line.y1 += enter * dy;
+    }
     return true;
 }
 
@@ -123,7 +143,7 @@ AxisNumbers NumbersAlong(const PlotAxis& axis, double from, double to, double vi
     AxisNumbers found;
     found.onGrid = std::isfinite(axis.step) && axis.step > 0 && axis.step <= range;
     const double base = found.onGrid ? axis.step : std::pow(10, std::floor(std::log10(range)) - 2);
-    for (;; found.every = NextMultiple(found.every)) {
+    for (;; found.every = NextMultiple(base, found.every)) {
         const double step = base * found.every;
         if (step > range * 2) return {};
         if (step * valueRoom < kClosestNumbers) continue;
@@ -169,7 +189,10 @@ std::vector<Curve> CurvesOf(const Canvas& canvas) {
             curves.push_back({line.colour, line.x1, line.y1, line.x1, line.y1});
         }
         Curve& curve = curves[pen->curve];
-        if (line.y2 < curve.topY) curve.topX = line.x2, curve.topY = line.y2;
+        if (line.y2 < curve.topY) {
+            curve.topX = line.x2;
+            curve.topY = line.y2;
+        }
         curve.endX = line.x2;
         curve.endY = line.y2;
     }

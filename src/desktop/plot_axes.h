@@ -56,8 +56,9 @@ struct AxisNumbers {
     bool onGrid = true;  // otherwise the numbers stand on steps of their own
 };
 
-/// The numbers along an axis: at each grid line where they have room, otherwise at every 2nd, 5th, 10th and so on. An
-/// axis without a grid, or with a grid wider than itself, has steps of 1, 2 or 5 times a power of ten.
+/// The numbers along an axis: at each grid line where they have room, otherwise at every 2nd, 4th, 5th, 10th and so
+/// on, as keeps them round. An axis without a grid, or with a grid wider than itself, has steps of 1, 2 or 5 times a
+/// power of ten.
 /// @param from, to   ends of what is shown, in canvas units, in either order
 /// @param viewScale  view units for one canvas unit
 /// @param room       room that a number takes along the axis, with the gap to the next, in view units

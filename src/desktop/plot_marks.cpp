@@ -26,15 +26,22 @@ QRectF UnitOfYBox(const PlotPlace& place, const QString& unit, const QFontMetric
             metrics.height()};
 }
 
-void PaintTick(QPainter& painter, const PlotPlace& place, const QPointF& onFrame, bool onX) {
+/// Marks at the numbers, in line with the grid.
+void PaintTicks(QPainter& painter, const PlotPlace& place) {
     const DevicePixels pixels(painter);
     const QRect ground = pixels.Snapped(place.ground);
+    const CanvasMapping mapping = MapOnto(place.part, ground.x(), ground.y(), ground.width(), ground.height());
+    const QColor ink = painter.pen().color();
     const int length = qRound(kTick * pixels.Scale());
     const int width = std::max(1, qRound(pixels.Scale()));
-    const QPoint at = pixels.Snapped({onFrame, QSizeF()}).topLeft();
-    const QRect tick = onX ? QRect(at.x() - width / 2, ground.bottom() + 1, width, length)
-                           : QRect(ground.left() - length, at.y() - width / 2, length, width);
-    painter.fillRect(tick, painter.pen().color());
+    for (const AxisNumber& number : place.xNumbers.numbers) {
+        const int x = qRound(mapping.X(number.coordinate) - width / 2.0);
+        painter.fillRect(x, ground.bottom() + 1, width, length, ink);
+    }
+    for (const AxisNumber& number : place.yNumbers.numbers) {
+        const int y = qRound(mapping.Y(number.coordinate) - width / 2.0);
+        painter.fillRect(ground.left() - length, y, length, width, ink);
+    }
 }
 
 void PaintNumbersOfX(QPainter& painter, const PlotPlace& place, const QString& unit) {
@@ -47,7 +54,6 @@ void PaintNumbersOfX(QPainter& painter, const PlotPlace& place, const QString& u
     const double end = unit.isEmpty() ? place.ground.right() + metrics.height() : unitBox.left() - metrics.height() / 2;
     for (const AxisNumber& number : place.xNumbers.numbers) {
         const double x = mapping.X(number.coordinate);
-        PaintTick(painter, place, {x, place.ground.bottom()}, true);
         const QString text = ToQt(number.text);
         const double half = metrics.horizontalAdvance(text) / 2;
         if (x + half > end) continue;
@@ -63,7 +69,6 @@ void PaintNumbersOfY(QPainter& painter, const PlotPlace& place, const QString& u
     const double right = place.ground.left() - kFrame - kTick - kNumberGap;
     for (const AxisNumber& number : place.yNumbers.numbers) {
         const double y = mapping.Y(number.coordinate);
-        PaintTick(painter, place, {place.ground.left(), y}, false);
         const QRectF box(0, y - metrics.height() / 2, right, metrics.height());
         if (!unit.isEmpty() && box.top() < unitBox.bottom() - metrics.descent()) continue;
         painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, ToQt(number.text));
@@ -223,6 +228,7 @@ void PaintCross(QPainter& painter, const QRectF& ground, const QPointF& pointer)
 void PaintNumbers(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QColor& ink) {
     if (!place.hasAxes) return;
     painter.setPen(ink);
+    PaintTicks(painter, place);
     PaintNumbersOfX(painter, place, ToQt(canvas.PresentAxes().x.unit));
     PaintNumbersOfY(painter, place, ToQt(canvas.PresentAxes().y.unit));
 }

@@ -196,7 +196,7 @@ void PrintTyres() {
 
 /// The body and the fittings that the car has, side by side.
 void PrintAeroParts() {
-    const auto withoutColon = [](std::string name) { return name.substr(0, name.find(':')); };
+    const auto withoutColon = [](const std::string& name) { return name.substr(0, name.find(':')); };
     TextTable table;
     table.Add({"", withoutColon(Zolv.AeroLabel[3].Caption()), withoutColon(Zolv.AeroLabel[4].Caption()),
                withoutColon(Zolv.AeroLabel[5].Caption())});

@@ -13,6 +13,9 @@
 namespace zolv {
 namespace {
 
+/// On a wide screen names and figures stay near each other.
+constexpr int kWidestColumn = 460;
+
 QWidget* MakeSpeedChoice(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[0], parent);
     QGridLayout& grid = *MakeRows(box);
@@ -118,20 +121,31 @@ QLayout* MakeColumn(std::initializer_list<QWidget*> groups) {
     return column;
 }
 
-}  // namespace
-
-AeroPageView::AeroPageView(Binding& binding, QWidget* parent) : QWidget(parent) {
-    auto* const grid = new QGridLayout(this);
+/// Fills the page: the inputs over the first two columns, the third beside them.
+void Fill(Binding& binding, QWidget* page) {
+    auto* const grid = new QGridLayout(page);
     grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     grid->setSpacing(kSection);
-    grid->addLayout(MakeInputs(binding, this), 0, 0, 1, 2);
-    grid->addLayout(MakeColumn({MakeTotals(binding, this), MakeMisc(binding, this)}), 1, 0);
-    grid->addLayout(MakeColumn({MakeBody(binding, this), MakeFitting(binding, 5, 24, Zolv.Undertray, this)}), 1, 1);
-    grid->addLayout(MakeColumn({MakeForces(binding, this), MakeFitting(binding, 6, 29, Zolv.FrontWing, this),
-                                MakeFitting(binding, 7, 34, Zolv.RearWing, this)}),
+    grid->addLayout(MakeInputs(binding, page), 0, 0, 1, 2);
+    grid->addLayout(MakeColumn({MakeTotals(binding, page), MakeMisc(binding, page)}), 1, 0);
+    grid->addLayout(MakeColumn({MakeBody(binding, page), MakeFitting(binding, 5, 24, Zolv.Undertray, page)}), 1, 1);
+    grid->addLayout(MakeColumn({MakeForces(binding, page), MakeFitting(binding, 6, 29, Zolv.FrontWing, page),
+                                MakeFitting(binding, 7, 34, Zolv.RearWing, page)}),
                     0, 2, 2, 1);
     grid->setRowStretch(1, 1);
     for (int column = 0; column < 3; ++column) grid->setColumnStretch(column, 1);
+}
+
+}  // namespace
+
+AeroPageView::AeroPageView(Binding& binding, QWidget* parent) : QWidget(parent) {
+    auto* const room = new QHBoxLayout(this);
+    room->setContentsMargins(0, 0, 0, 0);
+    auto* const page = new QWidget(this);
+    page->setMaximumWidth(3 * kWidestColumn + 2 * kSection + 2 * kMargin);
+    room->addWidget(page, 1);
+    room->addStretch();
+    Fill(binding, page);
 }
 
 }  // namespace zolv

@@ -54,7 +54,7 @@ void PlaceAnalysed(Binding& binding, QGridLayout& grid) {
     }
 }
 
-QLayout* MakeInputs(Binding& binding, QVBoxLayout& page) {
+void AddInputs(Binding& binding, QVBoxLayout& page) {
     auto* const grid = new QGridLayout;
     page.addLayout(grid);
     grid->setHorizontalSpacing(kMargin);
@@ -63,7 +63,6 @@ QLayout* MakeInputs(Binding& binding, QVBoxLayout& page) {
     PlaceFitted(binding, *grid);
     PlaceSliders(binding, *grid);
     PlaceAnalysed(binding, *grid);
-    return grid;
 }
 
 QWidget* MakeFigures(Binding& binding, QWidget* parent) {
@@ -93,35 +92,41 @@ struct Drawing {
     CanvasField& canvas;
 };
 
-QLayout* MakeDrawing(Binding& binding, const Drawing& drawing, QWidget* parent) {
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(kMargin);
-    grid->setVerticalSpacing(kGap);
-    grid->addWidget(MakeTitle(binding, drawing.title, parent), 0, 0, 1, 2);
-
-    grid->addWidget(MakeWords(binding, drawing.zoomWords, parent), 1, 0);
+QLayout* MakeZoom(Binding& binding, const Drawing& drawing, QWidget* parent) {
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(kMargin);
+    row->addWidget(MakeWords(binding, drawing.zoomWords, parent));
     auto* const slider = new QSlider(Qt::Horizontal, parent);
-    grid->addWidget(slider, 1, 1);
-    grid->setColumnStretch(1, 1);
+    row->addWidget(slider, 1);
     binding.Bind(drawing.zoom, *slider, &drawing.zoomWords);
+    return row;
+}
+
+void PlaceDrawing(Binding& binding, QGridLayout& grid, int column, const Drawing& drawing) {
+    QWidget* const parent = grid.parentWidget();
+    QLabel* const title = MakeTitle(binding, drawing.title, parent);
+    title->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    title->setWordWrap(true);  // the longest of words may not take the room of the other drawing
+    grid.addWidget(title, 0, column);
+    grid.addLayout(MakeZoom(binding, drawing, parent), 1, column);
 
     auto* const view = new CanvasView(drawing.canvas, CanvasView::Shape::Proportional, parent);
-    grid->addWidget(view, 2, 0, 1, 2);
-    grid->setRowStretch(2, 1);
+    grid.addWidget(view, 2, column);
     binding.Bind(drawing.canvas, *view);
-    return grid;
 }
 
 /// The footprint gets more of the width: its canvas is wider, and it has numbers along its axes.
 QWidget* MakeDrawings(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.TyreGraphAnal, parent);
-    auto* const row = new QHBoxLayout(box);
-    SetGroupMargins(*row);
-    row->setSpacing(kSection);
-    const Drawing footprint{Zolv.TyreLabel[3], Zolv.TyreLabel[5], Zolv.ZoomCPS, Zolv.CPS};
-    const Drawing sideView{Zolv.TyreLabel[4], Zolv.TyreLabel[6], Zolv.ZoomSideOn, Zolv.SV};
-    row->addLayout(MakeDrawing(binding, footprint, box), 3);
-    row->addLayout(MakeDrawing(binding, sideView, box), 2);
+    auto* const grid = new QGridLayout(box);
+    SetGroupMargins(*grid);
+    grid->setHorizontalSpacing(kSection);
+    grid->setVerticalSpacing(kGap);
+    PlaceDrawing(binding, *grid, 0, {Zolv.TyreLabel[3], Zolv.TyreLabel[5], Zolv.ZoomCPS, Zolv.CPS});
+    PlaceDrawing(binding, *grid, 1, {Zolv.TyreLabel[4], Zolv.TyreLabel[6], Zolv.ZoomSideOn, Zolv.SV});
+    grid->setColumnStretch(0, 3);
+    grid->setColumnStretch(1, 2);
+    grid->setRowStretch(2, 1);
     return box;
 }
 
@@ -132,7 +137,7 @@ TyresPageView::TyresPageView(Binding& binding, QWidget* parent) : QWidget(parent
     page->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     page->setSpacing(kSection);
 
-    MakeInputs(binding, *page);
+    AddInputs(binding, *page);
 
     auto* const results = new QHBoxLayout;
     results->setSpacing(kSection);

@@ -49,6 +49,14 @@ TEST_F(AeroPage, ShowsTheForcesAtTheSpeedOfTheSlider) {
               "45.8% / 54.2%|43.1% / 56.9%|1.43|1.204 kg/m^3|20\u00B0C|7 degrees|41 m/s|");
 }
 
+// From a separate calculation in Python: a car whose undertray does not divide its lift like the weight.
+TEST_F(AeroPage, DividesTheLiftOfTheUndertrayByItsOwnPosition) {
+    Set("Select_Car", "Series Mu");
+    Set("Select_AeroSpeed", "41");
+    EXPECT_EQ(Shown({"Aero_ForceFrontWheels", "Aero_ForceRearWheels", "Aero_AeroDistribution"}),
+              "4334 N|4908 N|45.2% / 54.8%|");
+}
+
 TEST_F(AeroPage, TheSpeedsOfBothPagesAreTwins) {
     Set("OptionsPanel.Select_SpeedUnits", "Kilometers per Hour");
     Set("Select_AeroSpeed", "100");

@@ -81,8 +81,10 @@ TEST_F(TyresPage, AnalysingTheOtherTyreChangesNoNumberOfTheGearing) {
 
 TEST_F(TyresPage, ARunLeavesItsAxleLoadsForTheNextAnalysis) {
     Set("Select_Car", "Series Lo");
-    const float lastFront = gearing.AccelRows[static_cast<std::size_t>(gearing.AccelLastRow)][AccelColumn::FrontLoad];
+    const AccelRow& last = gearing.AccelRows[static_cast<std::size_t>(gearing.AccelLastRow)];
+    const float lastFront = last[AccelColumn::FrontLoad];
     EXPECT_EQ(aero.FrontWheelForce, lastFront);  // of the run at top speed, not of the slider's 40 m/s
+    EXPECT_EQ(aero.RearWheelForce, last[AccelColumn::RearLoad]);
     Set("Select_PressureF", "176");
     // Half the axle's load on 100 + 2.5 * 176 = 540 kN/m.
     EXPECT_NEAR(tyres.FrontDeformation, static_cast<double>(lastFront) * 0.5 / 540'000, 1e-9);

@@ -15,10 +15,13 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QValidator>
+#include <optional>
+#include <utility>
 
 #include "desktop/canvas_view.h"
 #include "desktop/picture_view.h"
 #include "desktop/run_table.h"
+#include "desktop/state_mark.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
@@ -62,6 +65,17 @@ void PaintText(const TextBox& field, QLineEdit& edit) {
     const int caret = edit.cursorPosition();
     edit.setText(text);
     edit.setCursorPosition(std::min(caret, static_cast<int>(text.size())));
+}
+
+/// A box's text in its field's colour, with the mark of that state in front.
+void PaintColour(const TextBox& field, QLineEdit& edit, QAction& mark) {
+    const QPalette ground = edit.parentWidget() != nullptr ? edit.parentWidget()->palette() : edit.palette();
+    const QColor ink = TextColour(field.Colour(), ground);
+    QPalette colours;
+    if (field.Colour()) colours.setColor(QPalette::Text, ink);
+    edit.setPalette(colours);
+    mark.setVisible(HasMark(field.Colour()));
+    if (HasMark(field.Colour())) mark.setIcon(MarkIcon(*field.Colour(), ink));
 }
 
 }  // namespace
@@ -175,15 +189,14 @@ void Binding::Bind(TextBox& field, QLineEdit& edit, const Field* caption) {
     NameByCaption(edit, field, caption);
     edit.setValidator(new LengthLimit(field, edit));
     edit.setReadOnly(field.Locked());
-    OnChanged(field, [&] {
+    QAction* const mark = edit.addAction(QIcon(), QLineEdit::LeadingPosition);
+    // Colours are costly to set, and mostly stay what they are.
+    OnChanged(field, [this, &field, &edit, mark, first = true, painted = std::optional<Rgb>()]() mutable {
         PaintText(field, edit);
-        QPalette colours;
-        if (field.Colour()) {
-            const QPalette ground = edit.parentWidget() ? edit.parentWidget()->palette() : edit.palette();
-            colours.setColor(QPalette::Text, TextColour(field.Colour(), ground));
-        }
-        edit.setPalette(colours);
         PaintLook(field, edit);
+        if (!std::exchange(first, false) && painted == field.Colour()) return;
+        painted = field.Colour();
+        PaintColour(field, edit, *mark);
     });
     QObject::connect(&edit, &QLineEdit::textEdited, this, [this, &field, &edit](const QString& text) {
         Act([&] { field.Enter(FromQt(text)); });

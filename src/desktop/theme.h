@@ -15,7 +15,7 @@ inline constexpr int kGap = 8;       // between rows and columns
 inline constexpr int kMargin = 12;   // around a page or inside a frame
 inline constexpr int kSection = 16;  // between groups
 
-/// Sets the style, the font and the light or dark colours, as the system has them, and follows the system.
+/// Sets the style and the light or dark colours, whichever the system has at start.
 void ApplyTheme(QApplication& application);
 
 /// Whether `palette` is a dark one.

@@ -3,9 +3,9 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
 
+#include "desktop/state_mark.h"
 #include "desktop/theme.h"
 
 namespace zolv {
@@ -13,20 +13,6 @@ namespace {
 
 constexpr int kMarkSize = 7;
 constexpr int kMarkRoom = kMarkSize + 5;
-
-bool HasMark(std::optional<Rgb> colour) { return colour == kRed || colour == kBlue || colour == kDarkGreen; }
-
-QPainterPath MarkOf(Rgb colour, QRectF box) {
-    QPainterPath mark;
-    if (colour == kRed) {
-        mark.addPolygon(QPolygonF({box.bottomLeft(), QPointF(box.center().x(), box.top()), box.bottomRight()}));
-    } else if (colour == kBlue) {
-        mark.addPolygon(QPolygonF({box.topLeft(), QPointF(box.center().x(), box.bottom()), box.topRight()}));
-    } else {
-        mark.addEllipse(box);
-    }
-    return mark;
-}
 
 }  // namespace
 
@@ -43,6 +29,7 @@ void ValueLabel::ReserveFor(const std::vector<QString>& widest) {
 }
 
 void ValueLabel::SetState(std::optional<Rgb> colour) {
+    if (state_ == colour) return;  // a palette is costly to set
     state_ = colour;
     ApplyColour();
     update();

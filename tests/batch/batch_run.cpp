@@ -38,8 +38,8 @@ BatchRun RunBatch(std::string_view input, const std::string& arguments) {
     const std::string command =
         "'" ZOLV_BATCH "' <" + quoted("input") + '>' + quoted("output") + "2>" + quoted("errors") + arguments;
     const int result = std::system(command.c_str());
-    const BatchRun run{WIFEXITED(result) ? WEXITSTATUS(result) : -1, ContentOf(streams / "output"),
-                       ContentOf(streams / "errors")};
+    BatchRun run{WIFEXITED(result) ? WEXITSTATUS(result) : -1, ContentOf(streams / "output"),
+                 ContentOf(streams / "errors")};
     std::filesystem::remove_all(streams);
     return run;
 }

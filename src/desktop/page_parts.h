@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <span>
 #include <vector>
 
 #include "desktop/binding.h"

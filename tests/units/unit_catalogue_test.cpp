@@ -69,6 +69,7 @@ TEST_P(Shown, InEveryUnit) {
         SelectUnit(state, index, static_cast<int>(unit));
         EXPECT_EQ((state.*row.quantity).Text(row.base), row.shown[unit]);
     }
+    EXPECT_EQ(TextsInAllUnits(row.quantity, row.base), row.shown);
 }
 
 // By Python with 40 decimal digits; the factors of torque to weight rounded to 32-bit floats first.
@@ -121,6 +122,7 @@ TEST(Shown, PowerToWeightInEveryUnit) {
         EXPECT_EQ(WithUnit(PowerToWeight(unit, 162.5, 987.6), state.P2W.Decimals, state.P2W.Suffix),
                   expected[static_cast<std::size_t>(unit)]);
     }
+    EXPECT_EQ(TextsInAllUnits(&UnitState::P2W, 162.5 / 987.6), expected);
 }
 
 }  // namespace

@@ -120,14 +120,17 @@ bool CutLine(DrawingOperation& line, const CanvasPart& part) {
         if (edge.towards > 0) leave = std::min(leave, edge.distance / edge.towards);
     }
     if (!(enter <= leave) || !std::isfinite(dx) || !std::isfinite(dy)) return false;
+    const double startX = line.x1 + enter * dx;
+    const double startY = line.y1 + enter * dy;
     if (leave < 1) {
         line.x2 = line.x1 + leave * dx;
         line.y2 = line.y1 + leave * dy;
     }
-    if (enter > 0) {
-        line.x1 += enter * dx;
-        line.y1 += enter * dy;
-    }
+    // From an end very far out the sums lose the digits that matter.
+    line.x1 = std::clamp(startX, part.left, part.right);
+    line.y1 = std::clamp(startY, part.top, part.bottom);
+    line.x2 = std::clamp(line.x2, part.left, part.right);
+    line.y2 = std::clamp(line.y2, part.top, part.bottom);
     return true;
 }
 

@@ -1,8 +1,8 @@
 #include "desktop/theme.h"
 
 #include <QApplication>
-#include <QStyleFactory>
-#include <QStyleHints>
+
+#include "desktop/zolv_style.h"
 
 namespace zolv {
 namespace {
@@ -47,7 +47,7 @@ bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).li
 
 void ApplyTheme(QApplication& application) {
     const bool dark = IsDark(application.palette());
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    application.setStyle(new ZolvStyle);
     application.setPalette(PaletteOf(dark ? kDark : kLight));
 }
 

@@ -110,7 +110,7 @@ private:
             clutchFactor_ = static_cast<float>(0.5 + (revs_ / launchRevs_) / 2);
             revs_ = launchRevs_;
         }
-        if (revs_ > setup_.ShiftRevs[gear_] && static_cast<int>(gear_) < setup_.NumGears) {
+        if (revs_ > setup_.ShiftRevs[gear_] && static_cast<int>(gear_) < std::min(setup_.NumGears, kGears)) {
             ++gear_;
             revs_ = revsIn(gear_);
             shifting_ = true;

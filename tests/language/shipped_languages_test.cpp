@@ -1,0 +1,177 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "fields/windows.h"
+#include "files/options_file.h"
+#include "language/caption_table.h"
+#include "language/language_state.h"
+#include "platform/text_files.h"
+#include "support/zolv_test.h"
+#include "units/option_state.h"
+
+namespace zolv {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::Contains;
+using testing::SizeIs;
+
+const fs::path kData = fs::path(ZOLV_SOURCE_DIR) / "data";
+
+std::string Shipped(const std::string& name) { return ContentOf((kData / name).string()); }
+
+std::vector<std::string> LinesOf(const std::string& text) {
+    const std::vector<std::string_view> lines = SplitLines(text);
+    return {lines.begin(), lines.end()};
+}
+
+/// The languages of the list, without its first line and the empty one behind the last line end.
+std::vector<std::string> Languages() {
+    const std::vector<std::string> lines = LinesOf(Shipped("languages.lst"));
+    return lines.size() < 3 ? std::vector<std::string>() : std::vector(lines.begin() + 1, lines.end() - 1);
+}
+
+class ShippedLanguage : public ZolvTest, public testing::WithParamInterface<std::string> {
+protected:
+    /// @return 339 lines, empty ones for what the file lacks
+    static std::vector<std::string> Lines() {
+        std::vector<std::string> lines = LinesOf(Shipped("language_" + GetParam() + ".txt"));
+        EXPECT_THAT(lines, SizeIs(kCaptionLines));
+        lines.resize(kCaptionLines);
+        return lines;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Data, ShippedLanguage, testing::ValuesIn(Languages()),
+                         [](const auto& row) { return row.param; });
+
+TEST_P(ShippedLanguage, HasAWordForEachLineAndNothingElse) {
+    const std::vector<std::string> lines = Lines();
+    for (const CaptionLine& line : CaptionTable()) {
+        const std::string& text = lines[static_cast<std::size_t>(line.number)];
+        EXPECT_EQ(text.empty(), line.builtIn.empty()) << "line " << line.number;
+        EXPECT_EQ(text.find_first_of("\r\n\t"), std::string::npos) << "line " << line.number;
+        if (text.empty()) continue;
+        EXPECT_TRUE(text.front() != ' ' && text.back() != ' ') << "blank around line " << line.number;
+    }
+    EXPECT_FALSE(Shipped("language_" + GetParam() + ".txt").starts_with("\xEF\xBB\xBF"));
+    EXPECT_THAT(lines[5], testing::EndsWith("(*.zolv)"));
+}
+
+// The rows of each list that is picked by its text: two equal rows would be one.
+constexpr std::pair<int, int> kLists[] = {{39, 41},   {64, 68},   {70, 72},   {251, 255}, {256, 260},
+                                          {261, 265}, {266, 270}, {271, 276}, {277, 281}, {282, 283},
+                                          {284, 288}, {289, 292}, {293, 296}, {297, 303}, {304, 309}};
+
+TEST_P(ShippedLanguage, RowsOfAListDiffer) {
+    const std::vector<std::string> lines = Lines();
+    for (const auto& [first, last] : kLists) {
+        const std::set<std::string> rows(lines.begin() + first, lines.begin() + last + 1);
+        EXPECT_THAT(rows, SizeIs(static_cast<std::size_t>(last - first + 1))) << "lines from " << first;
+    }
+}
+
+// The menu bar, then File, Tools and Help.
+const std::vector<std::vector<std::size_t>> kMenus = {{2, 13, 22}, {3, 8, 9, 11, 12}, {14, 15, 16}, {23}};
+
+/// The keys that a caption marks, in capitals.
+std::string KeysOf(const std::string& caption) {
+    std::string keys;
+    for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
+        if (caption[i] != '&') continue;
+        const char key = caption[++i];
+        if (key != '&') keys += static_cast<char>(std::toupper(static_cast<unsigned char>(key)));
+    }
+    return keys;
+}
+
+TEST_P(ShippedLanguage, AccessKeysDifferWithinAMenu) {
+    const std::vector<std::string> lines = Lines();
+    std::set<std::size_t> entries;
+    for (const std::vector<std::size_t>& menu : kMenus) {
+        std::set<std::string> keys;
+        for (const std::size_t line : menu) {
+            const std::string key = KeysOf(lines[line]);
+            EXPECT_THAT(key, testing::MatchesRegex("[A-Z]")) << lines[line];
+            EXPECT_TRUE(keys.insert(key).second) << lines[line] << " has the key of another entry";
+            entries.insert(line);
+        }
+    }
+    for (std::size_t line = 0; line < kCaptionLines; ++line) {
+        if (entries.contains(line)) continue;
+        EXPECT_EQ(KeysOf(lines[line]), "") << lines[line];
+    }
+}
+
+// What is the same word in English: names of units, terms of the trade, and loan words.
+const std::map<std::string, std::set<int>> kAsInEnglish = {
+    {"French", {15, 68, 266, 272, 277, 279, 280, 289, 322}},  // options, slick, force; regular plurals of units
+    {"German", {26, 66, 68, 268, 274, 285}},                  // info, hybrid, slick; bar, slug, gal
+    {"Italian", {2, 68, 268, 274, 285}},                      // file, slick; bar, slug, gal
+    {"Japanese", {89}},                                       // rpm
+    {"Polish", {68}},                                         // slick
+    {"Spanish", {23, 68, 89, 277, 280}},                      // manual, slick, rpm; newtons, poundals
+};
+
+TEST_P(ShippedLanguage, NothingIsLeftInEnglish) {
+    if (GetParam() == "English") {
+        EXPECT_TRUE(Shipped("language_English.txt") == BuiltInLanguage()) << "write it anew with zolv-batch";
+        return;
+    }
+    ASSERT_TRUE(kAsInEnglish.contains(GetParam()));
+    const std::vector<std::string> lines = Lines();
+    std::set<int> same;
+    for (const CaptionLine& line : CaptionTable()) {
+        if (!line.builtIn.empty() && lines[static_cast<std::size_t>(line.number)] == line.builtIn) {
+            same.insert(line.number);
+        }
+    }
+    EXPECT_EQ(same, kAsInEnglish.at(GetParam()));
+}
+
+TEST_P(ShippedLanguage, LoadsInAStartedProgram) {
+    Start();
+    fs::copy(kData / ("language_" + GetParam() + ".txt"), fs::current_path());
+    LanguageSelection.LanguageList.Add(GetParam());
+    LanguageSelection.LanguageList.SetText(GetParam());
+    const std::vector<std::string> lines = Lines();
+    EXPECT_EQ(LanguageSelection.LanguageNow.Caption(), lines[0]);
+    EXPECT_EQ(OptionsPanel.OptionsSave.Caption(), lines[338]);
+    EXPECT_EQ(OptionsPanel.Units[11].Select.Text(), lines[304]);
+    ExpectOnlyNumbers();
+}
+
+class ShippedFiles : public ZolvTest {};
+
+TEST_F(ShippedFiles, FirstStartShowsTheLanguagesAndNoMessage) {
+    for (const fs::directory_entry& file : fs::directory_iterator(kData)) {
+        if (file.is_regular_file()) fs::copy(file, fs::current_path(), fs::copy_options::overwrite_existing);
+    }
+    Start();
+    EXPECT_EQ(language.LanguageIndex, 0);
+    EXPECT_TRUE(LanguageSelection.Visible());
+    EXPECT_EQ(LanguageSelection.LanguageList.Text(), "English");
+    for (const fs::directory_entry& file : fs::directory_iterator(kData)) {
+        const std::string name = file.path().stem().string();
+        if (!name.starts_with("language_")) continue;
+        EXPECT_THAT(LanguageSelection.LanguageList.Rows(), Contains(name.substr(9)));
+    }
+}
+
+// With one difference: the style of graphs is set, so that the first save by the user changes nothing but his choice.
+TEST_F(ShippedFiles, OptionsAreTheStartValues) {
+    options.AltGraphStyle = false;
+    SaveOptions();
+    EXPECT_EQ(ContentOf("Options.ini"), Shipped("Options.ini"));
+}
+
+}  // namespace
+}  // namespace zolv

@@ -14,7 +14,7 @@
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTabBar>
-#include <QValidator>
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -29,26 +29,6 @@
 namespace zolv {
 namespace {
 
-/// Keeps the user from typing past a box's maximum length, and cuts what he pastes; a longer text of the program
-/// stands.
-class LengthLimit : public QValidator {
-public:
-    LengthLimit(const TextBox& field, QLineEdit& edit) : QValidator(&edit), field_(field), edit_(edit) {}
-
-    State validate(QString& input, int& position) const override {
-        const auto limit = static_cast<qsizetype>(field_.MaxLength());
-        if (limit == 0 || input.size() <= limit || input.size() <= edit_.text().size()) return Acceptable;
-        if (input.size() == edit_.text().size() + 1) return Invalid;  // a key
-        input.truncate(limit);
-        position = std::min(position, static_cast<int>(limit));
-        return Acceptable;
-    }
-
-private:
-    const TextBox& field_;
-    QLineEdit& edit_;
-};
-
 void PaintRows(const PickList& field, QComboBox& box) {
     const auto& rows = field.Rows();
     bool same = box.count() == static_cast<int>(rows.size());
@@ -58,11 +38,20 @@ void PaintRows(const PickList& field, QComboBox& box) {
     for (const std::string& row : rows) box.addItem(ToQt(row));
 }
 
+/// What a user may type into a box. A longer text of the program stands and can only be shortened.
+int TypingLimit(const TextBox& field, const QString& text) {
+    constexpr int kAnyText = 32767;  // the box's own limit
+    if (field.MaxLength() == 0) return kAnyText;
+    return std::max(static_cast<int>(field.MaxLength()), static_cast<int>(text.size()));
+}
+
 /// The caret keeps its place in the text around it.
 void PaintText(const TextBox& field, QLineEdit& edit) {
     const QString text = ToQt(field.Text());
-    if (edit.text() == text) return;
+    const int limit = TypingLimit(field, text);
+    if (edit.text() == text && edit.maxLength() == limit) return;
     const int caret = edit.cursorPosition();
+    edit.setMaxLength(limit);
     edit.setText(text);
     edit.setCursorPosition(std::min(caret, static_cast<int>(text.size())));
 }
@@ -187,7 +176,6 @@ void Binding::Bind(MenuEntry& field, QAction& action) {
 void Binding::Bind(TextBox& field, QLineEdit& edit, const Field* caption) {
     Name(edit, field);
     NameByCaption(edit, field, caption);
-    edit.setValidator(new LengthLimit(field, edit));
     edit.setReadOnly(field.Locked());
     QAction* const mark = edit.addAction(QIcon(), QLineEdit::LeadingPosition);
     // Colours are costly to set, and mostly stay what they are.

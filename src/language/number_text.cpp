@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace zolv {
@@ -92,17 +93,31 @@ char* WriteWhole(char* out, std::uint64_t value) {
     return out;
 }
 
-/// `value` in general form with `digits` significant digits, which must be so few that the text needs no rounding of
-/// its own beyond the one to those digits.
-std::string GeneralText(double value, int digits) {
+/// `value` with that many significant digits at most, written out in full however large or small it is.
+std::string DecimalText(double value, int significant) {
     if (!std::isfinite(value)) return "N/A";
     if (value == 0) return "0";  // negative zero too
+
+    // "d.dddde+dd": the digits, and the place of the first one.
     char text[40];
-    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, digits).ptr;
-    for (char* c = text; c != end; ++c) {
-        if (*c == 'e') *c = 'E';
+    const char* const end =
+        std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific, significant - 1).ptr;
+    const char* const mark = std::find(static_cast<const char*>(text), end, 'e');
+    int place = 0;
+    std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, end, place);
+    std::string digits;
+    std::remove_copy(static_cast<const char*>(text), mark, std::back_inserter(digits), '.');
+    digits.resize(digits.find_last_not_of('0') + 1);
+
+    const auto count = static_cast<int>(digits.size());
+    if (place < 0) {
+        digits.insert(0, "0." + std::string(static_cast<std::size_t>(-place - 1), '0'));
+    } else if (place < count - 1) {
+        digits.insert(static_cast<std::size_t>(place) + 1, 1, '.');
+    } else {
+        digits.append(static_cast<std::size_t>(place - count + 1), '0');
     }
-    return {text, end};
+    return value < 0 ? '-' + digits : digits;
 }
 
 }  // namespace
@@ -125,9 +140,9 @@ double Round(double value, int decimals) {
     return std::nearbyint(value * scale) / scale;
 }
 
-std::string NumberText(double value) { return GeneralText(value, std::numeric_limits<double>::digits10); }
+std::string NumberText(double value) { return DecimalText(value, std::numeric_limits<double>::digits10); }
 
-std::string NumberText(float value) { return GeneralText(static_cast<double>(value), 7); }
+std::string NumberText(float value) { return DecimalText(static_cast<double>(value), 7); }
 
 std::string NumberText(std::int32_t value) { return std::to_string(value); }
 

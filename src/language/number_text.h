@@ -24,8 +24,7 @@ namespace zolv {
 [[nodiscard]] double Round(double value, int decimals);
 
 /// Shortest decimal form: up to 15 significant digits of a double, 7 of a float, no trailing zeros, no thousands
-/// separator. Very large and very small numbers take an exponent (1E+15, 1E-05). Negative zero is "0", what is not
-/// finite is "N/A".
+/// separator and no exponent, however large or small the number is. Negative zero is "0", what is not finite is "N/A".
 [[nodiscard]] std::string NumberText(double value);
 [[nodiscard]] std::string NumberText(float value);
 [[nodiscard]] std::string NumberText(std::int32_t value);
@@ -36,8 +35,8 @@ namespace zolv {
 /// RoundedText with a unit or sign behind it, which "N/A" goes without: "8.34 Hz".
 [[nodiscard]] std::string WithUnit(double value, int decimals, std::string_view unit);
 
-/// Room that WriteRounded asks for.
-inline constexpr std::size_t kRoundedTextSize = 32;
+/// Room that WriteRounded asks for: the largest double has 309 digits.
+inline constexpr std::size_t kRoundedTextSize = 352;
 
 /// Writes the characters of RoundedText(value, decimals) to `out`, which has room for kRoundedTextSize of them.
 /// @return the end of what was written

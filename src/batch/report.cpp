@@ -47,7 +47,7 @@ std::string Flat(const std::string& caption) {
 
 void PrintUnderlined(const std::string& heading, char line) {
     PrintLine(heading);
-    PrintLine(std::string(CharactersIn(heading), line));
+    PrintLine(std::string(ColumnsOf(heading), line));
 }
 
 void PrintHeading(const std::string& heading) {

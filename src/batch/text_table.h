@@ -25,7 +25,7 @@ private:
     std::vector<std::vector<std::string>> rows_;
 };
 
-/// Characters of a UTF-8 text.
-[[nodiscard]] std::size_t CharactersIn(std::string_view text);
+/// Columns that a UTF-8 text takes on a terminal.
+[[nodiscard]] std::size_t ColumnsOf(std::string_view text);
 
 }  // namespace zolv

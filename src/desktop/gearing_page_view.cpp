@@ -14,8 +14,10 @@
 #include "desktop/canvas_view.h"
 #include "desktop/page_parts.h"
 #include "desktop/run_table.h"
+#include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
+#include "language/texts.h"
 
 namespace zolv {
 namespace {
@@ -26,15 +28,19 @@ enum Column { kName, kInput, kUnit, kSlider, kResult, kBefore, kAfter, kTorque }
 /// The labels of the ratios panel are GearingLabel(0) to (14), those of the speeds panel the same 15 further on.
 Label& PanelLabel(int mode, int number) { return Zolv.GearingLabel[number + 15 * mode]; }
 
-const QString kWidestRpm = QStringLiteral("24226 rpm");
 const QString kWidestTime = QStringLiteral("88.88s");
 constexpr double kWidestSpeed = 188.8;   // [m/s]
 constexpr double kWidestTorque = 28888;  // [Nm]
 
+/// Width of a box; a figure in the same column is as wide, so that it ends where the numbers in the boxes do.
+int BoxWidth(const QWidget& widget) {
+    return widget.fontMetrics().horizontalAdvance(QStringLiteral("888.888")) + 2 * kGap;
+}
+
 QLineEdit* MakeBox(Binding& binding, TextBox& field, const Field& caption, QWidget* parent) {
     auto* const box = new QLineEdit(parent);
     box->setAlignment(Qt::AlignRight);
-    box->setMaximumWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("888.888")) + 2 * kGap);
+    box->setFixedWidth(BoxWidth(*box));
     binding.Bind(field, *box, &caption);
     return box;
 }
@@ -44,6 +50,15 @@ QSlider* MakeSlider(Binding& binding, Slider& field, const Field& caption, QWidg
     slider->setMinimumWidth(90);
     binding.Bind(field, *slider, &caption);
     return slider;
+}
+
+/// An engine speed, with room for five digits and the word for rpm in any language.
+ValueLabel* MakeRevs(Binding& binding, Label& field, QWidget* parent) {
+    ValueLabel* const revs = MakeFigure(binding, field, parent);
+    binding.OnChanged(OptionsPanel.SpeedPlotY.Units, [revs] {  // the same line of a language
+        revs->ReserveFor({QStringLiteral("24226") + ToQt(texts.RpmSuffix)});
+    });
+    return revs;
 }
 
 }  // namespace
@@ -132,9 +147,9 @@ void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
     if (mode == 1) grid.addWidget(MakeWords(binding_, Zolv.Label_SPD[gear], parent), row, kUnit);
     grid.addWidget(MakeSlider(binding_, panel.InputSlider[gear], name, parent), row, kSlider);
     grid.addWidget(MakeFigure(binding_, panel.Result[gear], parent, speed), row, kResult);
-    grid.addWidget(MakeFigure(binding_, panel.RPM[gear], parent, {kWidestRpm}), row, kBefore);
+    grid.addWidget(MakeRevs(binding_, panel.RPM[gear], parent), row, kBefore);
     // The engine speed after the change out of this gear; the car's top gear has none.
-    if (gear < 6) grid.addWidget(MakeFigure(binding_, panel.RAC[gear], parent, {kWidestRpm}), row, kAfter);
+    if (gear < 6) grid.addWidget(MakeRevs(binding_, panel.RAC[gear], parent), row, kAfter);
     grid.addWidget(MakeFigure(binding_, panel.Torque[gear], parent, WidestTexts(&UnitState::Torque, kWidestTorque)),
                    row, kTorque);
 }
@@ -147,9 +162,11 @@ void GearingPageView::AddReverse(QGridLayout& grid, int mode) {
     const int ratio = mode == 0 ? kInput : kResult;
     const int speed = mode == 0 ? kResult : kInput;
     grid.addWidget(MakeWords(binding_, PanelLabel(mode, 14), parent), row, kName);
-    grid.addWidget(MakeFigure(binding_, panel.GearR, parent), row, ratio);
+    ValueLabel* const reverseRatio = MakeFigure(binding_, panel.GearR, parent);
+    if (ratio == kInput) reverseRatio->setFixedWidth(BoxWidth(*reverseRatio));
+    grid.addWidget(reverseRatio, row, ratio);
     grid.addWidget(MakeFigure(binding_, panel.SpeedR, parent), row, speed, 1, speed == kInput ? 2 : 1);
-    grid.addWidget(MakeFigure(binding_, panel.RPMR, parent), row, kBefore);
+    grid.addWidget(MakeRevs(binding_, panel.RPMR, parent), row, kBefore);
     grid.addWidget(MakeFigure(binding_, panel.TorqueR, parent), row, kTorque);
 }
 
@@ -198,11 +215,14 @@ QWidget* GearingPageView::MakeChoices() {
     const auto add = [&](Label& words, PickList& list) {
         row->addWidget(MakeWords(binding_, words, choices));
         auto* const box = new QComboBox(choices);
-        row->addWidget(box);
+        // Long names of one language must not widen the whole window.
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(10);
+        row->addWidget(box, 1);
         binding_.Bind(list, *box, &words);
     };
     add(Zolv.GearingLabel[39], Zolv.Select_Graphs);
-    row->addStretch(1);
+    row->addSpacing(kGap);
     add(Zolv.GearingLabel[38], Zolv.Select_Tyres2);
     return choices;
 }

@@ -13,8 +13,12 @@ inline QString ToQt(std::string_view text) {
 
 inline std::string FromQt(const QString& text) { return text.toStdString(); }
 
-/// A caption as plain words: "&&" is one ampersand, a single "&" marks a key and is not shown.
+/// A caption as plain words: "&&" is one ampersand, a single "&" marks a key and is not shown, and neither is "(&K)" at
+/// the end, as languages write it whose letters are no keys.
 inline QString PlainCaption(std::string_view caption) {
+    if (caption.size() >= 4 && caption.ends_with(')') && caption.substr(caption.size() - 4).starts_with("(&")) {
+        caption.remove_suffix(4);
+    }
     std::string plain;
     for (std::size_t i = 0; i < caption.size(); ++i) {
         if (caption[i] == '&' && ++i == caption.size()) break;

@@ -33,7 +33,7 @@ bool IsWide(char32_t character) {
 
 std::size_t ColumnsOf(std::string_view text) {
     std::size_t columns = 0;
-    while (!text.empty()) columns += IsWide(TakeCharacter(text)) ? 2 : 1;
+    while (!text.empty()) columns += std::size_t{IsWide(TakeCharacter(text)) ? 2U : 1U};
     return columns;
 }
 

@@ -7,7 +7,7 @@
 namespace zolv {
 namespace {
 
-// Written by hand after the SVG specification, version 1.1 (non-scaling-stroke: SVG Tiny 1.2).
+// Written by hand after the W3C recommendation SVG 1.1 (non-scaling-stroke: SVG Tiny 1.2).
 TEST(Svg, OfAHandMadeCanvas) {
     Canvas canvas(300, 200.5);
     canvas.Line(0, 0, 10, 5);

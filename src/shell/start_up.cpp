@@ -48,6 +48,10 @@ void LoadTablesAndLists() {
     UnitConv.Load();
 }
 
+void ShowIfThere(Picture& picture, const std::string& path) {
+    if (FileExists(path) != 0) picture.SetPath(path);
+}
+
 /// On the very first run the language window stands in front. Without a language to choose it would only be in the way.
 void OfferFirstLanguageChoice() {
     if (language.LanguageIndex != 0 || LanguageSelection.LanguageList.Rows().empty()) return;
@@ -65,6 +69,8 @@ void LoadZolv() {
     AnalyseTyres();
     LoadOptions();  // and with them the first full calculation
     ShowCarPicture();
+    ShowIfThere(Zolv.TitleImage, platform.AppPath + "title.png");
+    ShowIfThere(Zolv.TarmaqLogo, platform.AppPath + "logo.png");
     LoadLanguageList();
     OfferFirstLanguageChoice();
 }

@@ -1,0 +1,26 @@
+# The folder that the programs are started in, build/NAME/data: languages and pictures always as they are now, options
+# and the choice of language as the user left them. ZOLV_MADE holds what the build makes for it.
+set(ZOLV_DATA ${PROJECT_BINARY_DIR}/data)
+set(ZOLV_MADE ${PROJECT_BINARY_DIR}/made)
+set(ZOLV_ICONS ${PROJECT_BINARY_DIR}/icons)
+
+add_custom_target(data ALL
+  COMMAND ${CMAKE_COMMAND} -D "FROM=${PROJECT_SOURCE_DIR}/data$<SEMICOLON>${ZOLV_MADE}" -D TO=${ZOLV_DATA}
+          -P ${PROJECT_SOURCE_DIR}/cmake/fill_data.cmake
+  COMMENT "Filling ${ZOLV_DATA}"
+  VERBATIM)
+add_dependencies(programs data)
+
+find_package(Qt6 QUIET COMPONENTS Gui)
+if(Qt6Gui_FOUND)
+  add_subdirectory(tools/pictures)
+  set(stamp ${PROJECT_BINARY_DIR}/pictures.stamp)
+  add_custom_command(OUTPUT ${stamp}
+    COMMAND zolv-pictures ${ZOLV_MADE} ${ZOLV_ICONS}
+    COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+    DEPENDS zolv-pictures
+    COMMENT "Drawing the cars"
+    VERBATIM)
+  add_custom_target(pictures DEPENDS ${stamp})
+  add_dependencies(data pictures)
+endif()

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+class QPainter;
+
+namespace zolv::pictures {
+
+/// The application's icon, a gear wheel with a rising curve, at a size in pixels. Small ones are fitted to the pixels:
+/// fewer teeth, thicker lines.
+QImage IconOf(int size);
+
+/// Paints the icon into a square.
+void PaintIcon(QPainter& painter, const QRectF& square);
+
+/// The icon as an SVG document, from the same figures.
+QByteArray IconAsSvg();
+
+}  // namespace zolv::pictures

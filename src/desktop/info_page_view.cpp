@@ -1,9 +1,11 @@
 #include "desktop/info_page_view.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -71,17 +73,37 @@ QWidget* MakeWheels(Binding& binding, QWidget* parent) {
     return box;
 }
 
-/// The text scrolls where it does not fit: it may not decide how small the window gets.
+/// A text that scrolls where it does not fit, with a frame while it has the focus.
+class ScrolledText : public QScrollArea {
+public:
+    explicit ScrolledText(QWidget* parent) : QScrollArea(parent) {
+        setFrameShape(QFrame::NoFrame);
+        setViewportMargins(2, 2, 2, 2);
+    }
+
+    bool event(QEvent* event) override {
+        const bool done = QScrollArea::event(event);
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
+        if (event->type() == QEvent::Paint && hasFocus()) {
+            QPainter painter(this);
+            painter.setPen(palette().color(QPalette::Highlight));
+            painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        }
+        return done;
+    }
+};
+
+/// The text may not decide how small the window gets.
 QWidget* MakeAbout(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[2], parent);
-    auto* const area = new QScrollArea(box);
+    auto* const area = new ScrolledText(box);
+    binding.OnChanged(Zolv.InfoPanel[2], [area, box] { area->setAccessibleName(box->accessibleName()); });
     QLabel* const text = MakeWords(binding, Zolv.AboutZolv, area);
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
     area->setWidget(text);
     area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     for (QWidget* widget : {area->viewport(), static_cast<QWidget*>(text)}) widget->setAutoFillBackground(false);

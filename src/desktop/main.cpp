@@ -1,6 +1,7 @@
 // zolv: the program on the desktop. It reads no command line of its own.
 
 #include <QApplication>
+#include <QIcon>
 
 #include "desktop/desktop.h"
 #include "desktop/main_window.h"
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("zolv"));
     QApplication::setDesktopFileName(QStringLiteral("zolv"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zolv"), QIcon(QStringLiteral("zolv.png"))));
     QApplication::setQuitOnLastWindowClosed(false);  // on a first run the main window waits behind the languages
     zolv::ApplyTheme(application);
 

@@ -16,9 +16,9 @@ void PictureView::paintEvent(QPaintEvent*) {
     if (picture_.isNull()) return;
     const QSize size = picture_.size().scaled(this->size(), Qt::KeepAspectRatio);
     const QPoint corner((width() - size.width()) / 2, (height() - size.height()) / 2);
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(QRect(corner, size), picture_);
+    // The painter's own scaling is coarse below half the size.
+    const QPixmap fitted = picture_.scaled(size * devicePixelRatioF(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPainter(this).drawPixmap(QRect(corner, size), fitted);
 }
 
 }  // namespace zolv

@@ -5,10 +5,10 @@
 namespace zolv::pictures {
 
 /// What all pictures share. Each car adds a paint and an accent of its own.
-inline const QColor kSky(0xf3f5f7);
-inline const QColor kFloor(0xe6eaee);
-inline const QColor kGroundLine(0xaab4be);
-inline const QColor kShadow(0xcdd4db);
+inline const QColor kSky(0xe9eff4);
+inline const QColor kFloor(0xdbe2e9);
+inline const QColor kGroundLine(0x9fabb7);
+inline const QColor kShadow(0xbfc9d2);
 inline const QColor kGlass(0x2a3641);
 inline const QColor kGlassLight(0x3f4f5d);
 inline const QColor kTrim(0x23282e);  // sills, splitters, grilles

@@ -2,10 +2,11 @@
 # launcher that gives each user a folder; without the windows there is only the batch program.
 include(GNUInstallDirs)
 set(share ${CMAKE_INSTALL_DATADIR}/zolv)
+set(doc ${CMAKE_INSTALL_DATADIR}/doc/zolv)
 
 install(TARGETS zolv-batch RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} OPTIONAL)
-install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md DESTINATION ${doc} OPTIONAL)
+install(DIRECTORY examples DESTINATION ${doc})
 
 if(TARGET zolv)
   configure_file(packaging/zolv.sh.in ${PROJECT_BINARY_DIR}/packaging/zolv.sh @ONLY)

@@ -212,18 +212,18 @@ QWidget* GearingPageView::MakeChoices() {
     auto* const row = new QHBoxLayout(choices);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kGap);
-    const auto add = [&](Label& words, PickList& list) {
+    const auto add = [&](Label& words, PickList& list, int stretch) {
         row->addWidget(MakeWords(binding_, words, choices));
         auto* const box = new QComboBox(choices);
         // Long names of one language must not widen the whole window.
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->setMinimumContentsLength(10);
-        row->addWidget(box, 1);
+        row->addWidget(box, stretch);
         binding_.Bind(list, *box, &words);
     };
-    add(Zolv.GearingLabel[39], Zolv.Select_Graphs);
+    add(Zolv.GearingLabel[39], Zolv.Select_Graphs, 2);
     row->addSpacing(kGap);
-    add(Zolv.GearingLabel[38], Zolv.Select_Tyres2);
+    add(Zolv.GearingLabel[38], Zolv.Select_Tyres2, 1);
     return choices;
 }
 

@@ -1,0 +1,150 @@
+// zolv-screenshots FOLDER [LANGUAGE] [dark]: pictures of every window and page, as PNG files in FOLDER. It starts in
+// the current directory as Zolv does. scripts/screenshots calls it for each theme, language and display scale.
+
+#include <QApplication>
+#include <QPalette>
+#include <functional>
+#include <iostream>
+
+#include "desktop/desktop.h"
+#include "desktop/main_window.h"
+#include "desktop/texts_of_qt.h"
+#include "desktop/theme.h"
+#include "fields/windows.h"
+#include "platform/dialogs.h"
+#include "shell/fresh_start.h"
+#include "shell/start_up.h"
+
+namespace zolv {
+namespace {
+
+/// What stands before the picture is taken; the steps build on each other.
+struct Shot {
+    const char* name;
+    Window& window;
+    std::function<void()> before;
+};
+
+std::vector<Shot> PageShots() {
+    const auto page = [](int number) { return [number] { Zolv.Select_Page.Pick(number); }; };
+    return {
+        {"info", Zolv, page(0)},
+        {"gearing", Zolv, page(1)},
+        {"gearing-wrong-order", Zolv, [] { Zolv.Ratios.Input[2].Enter("4"); }},
+        {"gearing-time", Zolv,
+         [] {
+             Zolv.Ratios.Input[2].Enter("2.4");
+             Zolv.Select_Graphs.Pick(1);
+         }},
+        {"gearing-table", Zolv, [] { Zolv.Select_Graphs.Pick(2); }},
+        {"gearing-speeds", Zolv,
+         [] {
+             Zolv.Select_Graphs.Pick(0);
+             Zolv.Direction2.Choose();
+         }},
+        {"tyres", Zolv, page(2)},
+        {"aero", Zolv, page(3)},
+        {"info-winged", Zolv,
+         [] {
+             Zolv.Direction1.Choose();
+             Zolv.Select_Car.SetText("Series Mu");
+             Zolv.Select_Page.Pick(0);
+         }},
+        {"gearing-winged", Zolv, page(1)},
+        {"tyres-blown", Zolv,
+         [] {
+             Zolv.Select_Page.Pick(2);
+             Zolv.BlowTyres.SetChecked(true);
+         }},
+        {"aero-winged", Zolv,
+         [] {
+             Zolv.BlowTyres.SetChecked(false);
+             Zolv.Select_Page.Pick(3);
+         }},
+    };
+}
+
+std::vector<Shot> WindowShots() {
+    const auto options = [](int number) {
+        return [number] {
+            OptionsPanel.SetVisible(true);
+            OptionsPanel.Select_Options.Pick(number);
+        };
+    };
+    return {
+        {"options-units", OptionsPanel, options(0)},
+        {"options-graphs", OptionsPanel, options(1)},
+        {"options-misc", OptionsPanel, options(2)},
+        {"presets", CustomPresets,
+         [] {
+             CustomPresets.SetVisible(true);
+             CustomPresets.NewCar.SetText("Sable T");
+         }},
+        {"converter", UnitConv, [] { UnitConv.SetVisible(true); }},
+        {"languages", LanguageSelection, [] { LanguageSelection.SetVisible(true); }},
+    };
+}
+
+QWidget* WidgetOf(const Window& window) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == ToQt(window.Name())) return widget;
+    }
+    return nullptr;
+}
+
+class Camera {
+public:
+    Camera(Desktop& desktop, QString folder) : desktop_(desktop), folder_(std::move(folder)) {}
+
+    bool Take(const std::vector<Shot>& shots, const QString& suffix = {}) {
+        for (const Shot& shot : shots) {
+            desktop_.TheBinding().Act(shot.before);
+            QApplication::processEvents();
+            QApplication::processEvents();
+            const QString path = folder_ + u'/' + QLatin1String(shot.name) + suffix + QStringLiteral(".png");
+            if (WidgetOf(shot.window)->grab().save(path)) continue;
+            std::cerr << "zolv-screenshots: cannot write " << FromQt(path) << '\n';
+            return false;
+        }
+        return true;
+    }
+
+private:
+    Desktop& desktop_;
+    QString folder_;
+};
+
+int TakeAll(const QStringList& arguments) {
+    FreshStart();
+    Desktop desktop;
+    LoadZolv();
+    const auto choose = [&] { LanguageSelection.LanguageList.SetText(FromQt(arguments.value(2))); };
+    if (arguments.size() > 2) desktop.TheBinding().Act(choose);
+    desktop.Open();
+    desktop.TheBinding().Act([] {
+        LanguageSelection.SetVisible(false);
+        Zolv.SetVisible(true);
+    });
+    Camera camera(desktop, arguments.at(1));
+    desktop.Main().resize(1280, 780);
+    if (!camera.Take(PageShots()) || !camera.Take(WindowShots())) return 1;
+
+    desktop.TheBinding().Act([] { Zolv.Select_Car.SetText("Pell S"); });
+    desktop.Main().resize(1, 1);  // as small as it gets
+    return camera.Take(PageShots(), QStringLiteral("-small")) ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace zolv
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 2) {
+        std::cerr << "usage: zolv-screenshots FOLDER [LANGUAGE] [dark]\n";
+        return 2;
+    }
+    if (arguments.contains(QStringLiteral("dark"))) QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    zolv::ApplyTheme(application);
+    return zolv::TakeAll(arguments);
+}

@@ -9,6 +9,7 @@
 
 #include "batch/script.h"
 #include "batch/script_dialogs.h"
+#include "platform/text_files.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
 
@@ -77,6 +78,7 @@ bool RunZolv(const std::vector<std::string>& names) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
+    zolv::SurviveSizeLimit();
     std::vector<std::string> names;
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i];

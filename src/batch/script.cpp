@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <memory>
 #include <vector>
 
 #include "batch/field_access.h"
@@ -120,6 +121,29 @@ constexpr Command kCommands[] = {
 };
 constexpr const char* kAnswer = "answer";
 
+/// The lines of a script, one after the other.
+class LineReader {
+public:
+    explicit LineReader(std::istream& input) : input_(input) {}
+
+    /// Takes the next line, without its line feed; false behind the last one, or where the input can be read no
+    /// further. A line that no command can have is not read to its end: there may be none.
+    bool Take(std::string_view& line) {
+        input_.getline(buffer_.get(), kSize);
+        const auto taken = static_cast<std::size_t>(input_.gcount());
+        if (input_.bad() || (input_.eof() && taken == 0)) return false;
+        if (input_.fail()) throw ScriptError("the line is longer than " + std::to_string(kSize - 1) + " bytes");
+        line = {buffer_.get(), input_.eof() ? taken : taken - 1};
+        return true;
+    }
+
+private:
+    static constexpr std::size_t kSize = (std::size_t{1} << 20U) + 1;
+
+    std::istream& input_;
+    std::unique_ptr<char[]> buffer_ = std::make_unique_for_overwrite<char[]>(kSize);
+};
+
 [[noreturn]] void FailUnknown(std::string_view word) {
     std::vector<std::string> names{kAnswer};
     for (const Command& command : kCommands) names.emplace_back(command.name);
@@ -140,20 +164,21 @@ void Script::RunLine(std::string_view line) {
 }
 
 bool Script::Run(std::istream& input, const std::string& name) {
-    std::string line;
-    for (int number = 1; !shell.Ended && std::getline(input, line); ++number) {
-        std::string_view text = line;
-        if (number == 1 && text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
-        if (text.ends_with('\r')) text.remove_suffix(1);
-        try {
-            RunLine(text);
-        } catch (const ScriptError& error) {
-            std::cout.flush();
-            std::cerr << "zolv-batch: " << name << ':' << number << ": " << OneLine(error.what()) << '\n';
-            return false;
+    LineReader lines(input);
+    int number = 1;
+    try {
+        for (std::string_view line; !shell.Ended && lines.Take(line); ++number) {
+            if (number == 1 && line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
+            if (line.ends_with('\r')) line.remove_suffix(1);
+            RunLine(line);
+            // Whoever waits for the answer before he writes the next line gets it now.
+            if (input.rdbuf()->in_avail() <= 0) std::cout.flush();
         }
-        // Whoever waits for the answer before he writes the next line gets it now.
-        if (input.rdbuf()->in_avail() <= 0) std::cout.flush();
+        if (input.bad()) throw ScriptError("cannot be read");
+    } catch (const ScriptError& error) {
+        std::cout.flush();
+        std::cerr << "zolv-batch: " << name << ':' << number << ": " << OneLine(error.what()) << '\n';
+        return false;
     }
     return true;
 }

@@ -7,11 +7,13 @@
 #include "desktop/main_window.h"
 #include "desktop/theme.h"
 #include "desktop/window_dialogs.h"
+#include "platform/text_files.h"
 #include "shell/fresh_start.h"
 #include "shell/shell_state.h"
 #include "shell/start_up.h"
 
 int main(int argc, char** argv) {
+    zolv::SurviveSizeLimit();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("zolv"));
     QApplication::setDesktopFileName(QStringLiteral("zolv"));

@@ -1,6 +1,7 @@
 #include "platform/text_files.h"
 
 #include <cerrno>
+#include <csignal>
 #include <filesystem>
 #include <random>
 #include <system_error>
@@ -96,12 +97,19 @@ bool MayWrite([[maybe_unused]] const fs::path& path) {
 
 }  // namespace
 
+void SurviveSizeLimit() {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
+}
+
 std::string CurrentDirectory() {
     std::error_code error;
     const std::u8string folder = fs::current_path(error).u8string();
     std::string path(folder.begin(), folder.end());
+    if (path.empty()) path = ".";  // a folder that was removed: never the root of the file system in its place
     constexpr char kSeparator = static_cast<char>(fs::path::preferred_separator);
-    if (path.empty() || path.back() != kSeparator) path += kSeparator;
+    if (path.back() != kSeparator) path += kSeparator;
     return path;
 }
 
@@ -173,10 +181,10 @@ std::string WriteTextFile(const std::string& path, std::string_view text) {
     // Renaming asks the folder alone for permission; a file that its owner has locked must stay as it is all the same.
     if (fs::exists(old) && !MayWrite(target)) return ReasonOf(EACCES);
 
-    // Names of one save never meet another's, also when two programs save into one folder.
+    // Names of one save never meet another's, also when two programs save into one folder. They do not grow with the
+    // target's, which may be as long as a name can be.
     std::random_device random;
-    fs::path temporary = target;
-    temporary += "." + std::to_string(random()) + ".tmp";
+    const fs::path temporary = target.parent_path() / ("zolv-" + std::to_string(random()) + ".tmp");
     if (const int failure = WriteNewFile(temporary, text); failure != 0) {
         if (failure != EEXIST) fs::remove(temporary, error);
         return ReasonOf(failure);

@@ -14,6 +14,10 @@ struct PlatformState {
 };
 extern PlatformState platform;
 
+/// For the start of a program: a file that grows beyond the user's limit is from then on a failed write with its
+/// message, and no longer the end of the program.
+void SurviveSizeLimit();
+
 /// The current directory followed by the platform's own separator ("\" only where that is the separator).
 std::string CurrentDirectory();
 

@@ -135,6 +135,14 @@ TEST_F(Batch, TellsAScriptThatCannotBeRead) {
     }
 }
 
+TEST_F(Batch, TellsWhereTheInputBreaksOffUnread) {
+    EXPECT_EQ(RunBatch("", "- < .").errors, "zolv-batch: -:1: cannot be read\n");
+    EXPECT_EQ(RunBatch("", "- < /dev/zero").errors, "zolv-batch: -:1: the line is longer than 1048576 bytes\n");
+    const std::string longest = "# " + std::string((std::size_t{1} << 20U) - 2, 'x');
+    EXPECT_EQ(RunBatch(longest + '\n' + longest).errors, "");
+    EXPECT_EQ(RunBatch("\n" + longest + "x\n").errors, "zolv-batch: -:2: the line is longer than 1048576 bytes\n");
+}
+
 TEST_F(Batch, ReadsEveryKindOfLineEnd) {
     for (const char* script : {"set NewName a b\nget NewName", "set NewName a b\r\nget NewName\r\n",
                                "\xEF\xBB\xBFset NewName a b\nget NewName\n",

@@ -122,6 +122,13 @@ TEST_F(TextFiles, WithoutAPlaceAreNotWritten) {
     EXPECT_TRUE(Names().empty());
 }
 
+TEST_F(TextFiles, UnderTheLongestNameAreWritten) {
+    constexpr std::size_t kLongestName = 255;  // bytes, on the usual file systems
+    const std::string name(kLongestName, 'n');
+    EXPECT_EQ(WriteTextFile(name, "new"), "");
+    EXPECT_EQ(ContentOf(name), "new");
+}
+
 /// A limit on the size of files, which stands in for a disk that is full.
 class FullDisk {
 public:
@@ -173,6 +180,13 @@ TEST_F(TextFiles, TheCurrentDirectoryEndsInASeparator) {
     EXPECT_EQ(CurrentDirectory(), fs::current_path().string() + '/');
     fs::current_path("/");
     EXPECT_EQ(CurrentDirectory(), "/");
+}
+
+TEST_F(TextFiles, AFolderThatWasRemovedIsNotTheRoot) {
+    fs::create_directory("gone");
+    fs::current_path("gone");
+    fs::remove("../gone");
+    EXPECT_EQ(CurrentDirectory(), "./");
 }
 
 }  // namespace

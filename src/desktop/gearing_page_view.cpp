@@ -45,6 +45,14 @@ QLineEdit* MakeBox(Binding& binding, TextBox& field, const Field& caption, QWidg
     return box;
 }
 
+/// As wide as its widest row in the language in force.
+QComboBox* MakeList(Binding& binding, PickList& field, const Field& caption, QWidget* parent) {
+    auto* const list = new QComboBox(parent);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    binding.Bind(field, *list, &caption);
+    return list;
+}
+
 QSlider* MakeSlider(Binding& binding, Slider& field, const Field& caption, QWidget* parent) {
     auto* const slider = new QSlider(Qt::Horizontal, parent);
     slider->setMinimumWidth(90);
@@ -95,6 +103,8 @@ QWidget* GearingPageView::MakeDirections() {
         binding_.Bind(*field, *button);
     }
     row->addStretch(1);
+    row->addWidget(MakeWords(binding_, Zolv.GearingLabel[38], directions));
+    row->addWidget(MakeList(binding_, Zolv.Select_Tyres2, Zolv.GearingLabel[38], directions));
     return directions;
 }
 
@@ -212,18 +222,8 @@ QWidget* GearingPageView::MakeChoices() {
     auto* const row = new QHBoxLayout(choices);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kGap);
-    const auto add = [&](Label& words, PickList& list, int stretch) {
-        row->addWidget(MakeWords(binding_, words, choices));
-        auto* const box = new QComboBox(choices);
-        // Long names of one language must not widen the whole window.
-        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        box->setMinimumContentsLength(10);
-        row->addWidget(box, stretch);
-        binding_.Bind(list, *box, &words);
-    };
-    add(Zolv.GearingLabel[39], Zolv.Select_Graphs, 2);
-    row->addSpacing(kGap);
-    add(Zolv.GearingLabel[38], Zolv.Select_Tyres2, 1);
+    row->addWidget(MakeWords(binding_, Zolv.GearingLabel[39], choices));
+    row->addWidget(MakeList(binding_, Zolv.Select_Graphs, Zolv.GearingLabel[39], choices), 1);
     return choices;
 }
 

@@ -45,9 +45,10 @@ QSize RoomForText(const QWidget& widget) {
         if (!label->wordWrap()) return label->sizeHint();
         return {0, label->heightForWidth(label->width())};
     }
-    if (qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
-        qobject_cast<const QComboBox*>(&widget) != nullptr) {
-        return widget.minimumSizeHint();
+    if (qobject_cast<const QAbstractButton*>(&widget) != nullptr) return widget.minimumSizeHint();
+    if (const auto* const list = qobject_cast<const QComboBox*>(&widget)) {
+        constexpr int kFrameAndArrow = 28;
+        return {list->fontMetrics().horizontalAdvance(list->currentText()) + kFrameAndArrow, 0};
     }
     return {};
 }
@@ -223,7 +224,7 @@ std::map<QString, QString> TextsOf(QWidget& window) {
 QStringList CutOff(QWidget& window) {
     QStringList cut;
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        if (!widget->isVisible()) continue;
+        if (!widget->isVisible() || widget->objectName().isEmpty()) continue;
         const QSize room = RoomForText(*widget);
         if (room.width() <= widget->width() && room.height() <= widget->height()) continue;
         cut.push_back(QStringLiteral("%1: %2 x %3 in %4 x %5")

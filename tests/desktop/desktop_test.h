@@ -108,7 +108,7 @@ void Settle();
 /// rows of lists, tabs, menu entries, tool tips, the title.
 std::map<QString, QString> TextsOf(QWidget& window);
 
-/// Figures and words in view that their widgets have no room for.
+/// Figures and words in view that their widgets have no room for. A box may hold more than it shows.
 QStringList CutOff(QWidget& window);
 
 /// A language whose line n reads as `line(n)`.

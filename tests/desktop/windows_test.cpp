@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSlider>
 #include <QTabBar>
 
@@ -132,6 +133,15 @@ void WindowsTogether::NothingIsCutOff() {
         Windows().TheBinding().Act([&] { Zolv.Select_Car.SetText(car); });
         for (int page = 0; page < 4; ++page) {
             ClickTab("Select_Page", page);
+            ExpectNone(CutOff(main));
+        }
+        ClickTab("Select_Page", 1);
+        for (int graph = 2; graph >= 0; --graph) {
+            PickWithKeys(Find<QComboBox>("Select_Graphs"), graph);
+            ExpectNone(CutOff(main));
+        }
+        for (const char* direction : {"Direction2", "Direction1"}) {
+            Click(Find<QRadioButton>(direction));
             ExpectNone(CutOff(main));
         }
     }

@@ -137,7 +137,9 @@ std::int32_t ToInt32(double value) { return Saturated<std::int32_t>(value); }
 
 double Round(double value, int decimals) {
     const double scale = kPowersOfTen[decimals];
-    return std::nearbyint(value * scale) / scale;
+    const double scaled = value * scale;
+    // A number whose multiple no double holds is whole long since; and what is infinite or no number stays so.
+    return std::isfinite(scaled) ? std::nearbyint(scaled) / scale : value;
 }
 
 std::string NumberText(double value) { return DecimalText(value, std::numeric_limits<double>::digits10); }

@@ -78,6 +78,8 @@ bool RunZolv(const std::vector<std::string>& names) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
+    std::cin.tie(
+        nullptr);  // which would write the answer to each line by itself; a script tells when one is waited for
     zolv::SurviveSizeLimit();
     std::vector<std::string> names;
     for (int i = 1; i < argc; ++i) {

@@ -87,11 +87,12 @@ void SyncFolder([[maybe_unused]] const fs::path& folder) {
 #endif
 }
 
-bool MayWrite([[maybe_unused]] const fs::path& path) {
+/// Why a file may not be written; 0 if it may.
+int WriteBar(const fs::path& path) {
 #ifdef _WIN32
-    return ::_waccess(path.c_str(), 2) == 0;
+    return ::_waccess(path.c_str(), 2) == 0 ? 0 : errno;
 #else
-    return ::access(path.c_str(), W_OK) == 0;
+    return ::access(path.c_str(), W_OK) == 0 ? 0 : errno;
 #endif
 }
 
@@ -179,7 +180,7 @@ std::string WriteTextFile(const std::string& path, std::string_view text) {
     if (fs::is_directory(old)) return ReasonOf(EISDIR);
     if (fs::exists(old) && !fs::is_regular_file(old)) return "Not a regular file";
     // Renaming asks the folder alone for permission; a file that its owner has locked must stay as it is all the same.
-    if (fs::exists(old) && !MayWrite(target)) return ReasonOf(EACCES);
+    if (const int bar = fs::exists(old) ? WriteBar(target) : 0; bar != 0) return ReasonOf(bar);
 
     // Names of one save never meet another's, also when two programs save into one folder. They do not grow with the
     // target's, which may be as long as a name can be.

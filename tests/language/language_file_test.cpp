@@ -192,7 +192,7 @@ const RefusedCase kRefused[] = {
     {"OneLineLess", "Test", [](const std::string& path) { WriteContent(path, MadeUp(338)); }, kLineCount},
     {"OneLineMore", "Test", [](const std::string& path) { WriteContent(path, MadeUp() + "\r\n"); }, kLineCount},
     {"LineFeedsAlone", "Test", [](const std::string& path) { WriteContent(path, MadeUp(339, "\n")); }, kLineCount},
-    {"TooLong", "Test", [](const std::string& path) { WriteContent(path, MadeUp() + std::string(1 << 20, 'x')); },
+    {"TooLong", "Test", [](const std::string& path) { WriteContent(path, MadeUp() + std::string(65536, 'x')); },
      kLineCount},
 };
 INSTANTIATE_TEST_SUITE_P(Files, RefusedLanguage, testing::ValuesIn(kRefused),

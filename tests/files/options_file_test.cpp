@@ -1,11 +1,9 @@
 #include "files/options_file.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
-#include <functional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "fields/windows.h"
 #include "files/file_state.h"
@@ -43,10 +41,8 @@ constexpr const char* kOtherFile =
     "VLoads: True\r\nRevsMax: True\r\nRevLimit: True\r\nAutoRevs: False\r\nCustomRevs: 7000\r\n"
     "Acceleration: False\r\n";
 
-class OptionsFile : public ZolvTest {
+class OptionsFile : public StartedTest {
 protected:
-    void SetUp() override { Start(); }
-
     /// What a save would write now.
     std::string InMemory() {
         fs::remove_all(kName);
@@ -61,15 +57,12 @@ protected:
     }
 };
 
-TEST_F(OptionsFile, IsWrittenByteForByte) {
-    SaveOptions();
-    EXPECT_EQ(ContentOf(kName), kStartFile);
-}
-
 TEST_F(OptionsFile, BringsBackEveryOptionAndAppliesIt) {
     int refreshed = 0;
     files.OptionsLoaded = [&] { ++refreshed; };
-    WriteContent(kName, kOtherFile);
+    EXPECT_EQ(InMemory(), kStartFile);
+    // As an editor may leave it: with a byte order mark, and no line end at its end.
+    WriteContent(kName, "\xEF\xBB\xBF" + std::string(kOtherFile, std::string_view(kOtherFile).size() - 2));
     LoadOptions();
     EXPECT_EQ(refreshed, 1);
     EXPECT_EQ(units.Distance.Suffix, " ft");
@@ -89,102 +82,56 @@ TEST_F(OptionsFile, LeavesTheNumbersOfTheSpeedBoxesAlone) {
     EXPECT_EQ(Zolv.Speeds.InputSlider[6].Max(), 720);
 }
 
-/// Lines that are read by position and not by key.
-struct ReadCase {
-    const char* name;
-    const char* line;   // of the start file
-    const char* other;  // in its place
-    const char* kept;   // what is written back
-};
-
-class OptionsLine : public OptionsFile, public testing::WithParamInterface<ReadCase> {};
-
-TEST_P(OptionsLine, IsRead) {
-    const ReadCase& row = GetParam();
-    WriteContent(kName, With(row.line, row.other));
-    LoadOptions();
-    EXPECT_EQ(InMemory(), With(row.line, row.kept));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    ByPosition, OptionsLine,
-    testing::Values(
-        ReadCase{"KeysAreNotRead", "AccUnits: 0", "whatever 3", "AccUnits: 3"},
-        ReadCase{"OnlyTheLastDigitOfAUnit", "AccUnits: 0", "AccUnits: 13", "AccUnits: 3"},
-        ReadCase{"OnlyTheLastFourDigits", "SpeedPlotY: 1000", "SpeedPlotY: 91500", "SpeedPlotY: 1500"},
-        ReadCase{"TheBlankOfTheKeyIsSkipped", "TractiveX: 10", "TractiveX: 5", "TractiveX: 5"},
-        ReadCase{"ThreeDigitRevsTakeTheColonAlong", "CustomRevs: 0", "CustomRevs: 900", "CustomRevs: 0"},
-        ReadCase{"FourDigitRevs", "CustomRevs: 0", "CustomRevs: 1000", "CustomRevs: 1000"},
-        ReadCase{"FiveDigitRevs", "CustomRevs: 0", "CustomRevs: 12345", "CustomRevs: 12345"},
-        ReadCase{"TrueIsExact", "Redline: False", "Redline: true", "Redline: False"},
-        ReadCase{"TrueHasNothingBehindIt", "Redline: False", "Redline: True ", "Redline: False"},
-        ReadCase{"TrueStandsInItsPlace", "Redline: False", "Redline:  True", "Redline: False"},
-        ReadCase{"ALineShorterThanItsKey", "RevLimit: False", "Rev", "RevLimit: False"},
-        ReadCase{"StyleThatIsSet", "AltGraphStyle: \r\n", "AltGraphStyle: False\r\n", "AltGraphStyle: False\r\n"},
-        ReadCase{"StyleOfOtherWords", "AltGraphStyle: \r\n", "AltGraphStyle: Yes\r\n", "AltGraphStyle: False\r\n"}),
-    [](const auto& row) { return std::string(row.param.name); });
-
-TEST_F(OptionsFile, NeedsNoLineEndAtItsEnd) {
-    std::string text = kOtherFile;
-    WriteContent(kName, "\xEF\xBB\xBF" + text.substr(0, text.size() - 2));
-    LoadOptions();
-    EXPECT_EQ(InMemory(), kOtherFile);
-}
-
-std::string Repeated(const std::string& text, int times) {
-    std::string all;
-    for (int i = 0; i < times; ++i) all += text;
-    return all;
-}
-
-std::string Replaced(std::string text, const std::string& what, const std::string& other) {
-    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + other.size())) {
-        text.replace(at, what.size(), other);
+// One line of the start file in place of another, and what is written back. They are read by position, not by key.
+TEST_F(OptionsFile, LinesAreReadByPosition) {
+    struct {
+        const char *line, *other, *kept;
+    } const kCases[] = {
+        {"AccUnits: 0", "whatever 13", "AccUnits: 3"},  // only the last digit counts
+        {"SpeedPlotY: 1000", "SpeedPlotY: 91500", "SpeedPlotY: 1500"},
+        {"TractiveX: 10", "TractiveX: 5", "TractiveX: 5"},
+        {"CustomRevs: 0", "CustomRevs: 900", "CustomRevs: 0"},  // three digits take the colon along
+        {"CustomRevs: 0", "CustomRevs: 1000", "CustomRevs: 1000"},
+        {"CustomRevs: 0", "CustomRevs: 12345", "CustomRevs: 12345"},
+        {"Redline: False", "Redline: true", "Redline: False"},
+        {"Redline: False", "Redline: True ", "Redline: False"},
+        {"Redline: False", "Redline:  True", "Redline: False"},
+        {"RevLimit: False", "Rev", "RevLimit: False"},
+        {"AltGraphStyle: \r\n", "AltGraphStyle: Yes\r\n", "AltGraphStyle: False\r\n"},
+    };
+    for (const auto& row : kCases) {
+        WriteContent(kName, With(row.line, row.other));
+        LoadOptions();
+        EXPECT_EQ(InMemory(), With(row.line, row.kept)) << row.other;
     }
-    return text;
 }
 
-struct RefusedCase {
-    const char* name;
-    std::function<void()> make;
-    const char* reason;
-};
-
-std::function<void()> File(std::string text) {
-    return [text] { WriteContent(kName, text); };
-}
-std::function<void()> FileWith(const char* line, const char* other) { return File(Replaced(kStartFile, line, other)); }
-
-class RefusedOptions : public OptionsFile, public testing::WithParamInterface<RefusedCase> {};
-
-TEST_P(RefusedOptions, AreReportedOnceAndChangeNothing) {
+TEST_F(OptionsFile, ThatIsNoneIsReportedOnceAndChangesNothing) {
     WriteContent(kName, kOtherFile);
     LoadOptions();
-    fs::remove(kName);
     int refreshed = 0;
     files.OptionsLoaded = [&] { ++refreshed; };
-    GetParam().make();
-    LoadOptions();
-    ExpectMessage(AllOf(HasSubstr(InFolder(kName)), HasSubstr(GetParam().reason)));
-    EXPECT_EQ(refreshed, 1) << "a start needs its first calculation all the same";
-    EXPECT_EQ(InMemory(), kOtherFile);
+    std::string rubbish;
+    for (int i = 0; i < 40; ++i) rubbish += "\x80\xFF\x01\r\n";
+    struct {
+        std::string text;
+        const char* reason;
+    } const kCases[] = {{With("Acceleration: True\r\n", ""), "30 of the 31 lines"},
+                        {Replaced(kStartFile, "\r\n", "\n"), "1 of the 31 lines"},
+                        {rubbish, "Line 13 holds 0"},
+                        {With("StfUnits: 0", "StfUnits: 2"), "Line 7 holds 2, which is not from 0 to 1"},
+                        {With("T2WUnits: 0", "T2WUnits: 6"), "Line 12 holds 6"},
+                        {With("SpeedPlotX: 20", "SpeedPlotX: 9"), "Line 13 holds 9, which is not from 10 to 50"},
+                        {With("TorqueY: 500", "TorqueY: 2501"), "Line 16 holds 2501"},
+                        {kStartFile + std::string(65536, ' '), "Longer than 65536 bytes"}};
+    for (const auto& row : kCases) {
+        WriteContent(kName, row.text);
+        LoadOptions();
+        ExpectMessage(AllOf(HasSubstr(InFolder(kName)), HasSubstr(row.reason)));
+        EXPECT_EQ(std::exchange(refreshed, 0), 1) << "a start needs its first calculation all the same";
+        EXPECT_EQ(InMemory(), kOtherFile) << row.reason;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    BadFile, RefusedOptions,
-    testing::Values(RefusedCase{"ThirtyLines", FileWith("Acceleration: True\r\n", ""), "30 of the 31 lines"},
-                    RefusedCase{"LineFeedsAlone", File(Replaced(kStartFile, "\r\n", "\n")), "1 of the 31 lines"},
-                    RefusedCase{"Rubbish", File(Repeated("\x80\xFF\x01\r\n", 40)), "Line 13 holds 0"},
-                    RefusedCase{"UnitBeyondItsTable", FileWith("StfUnits: 0", "StfUnits: 2"),
-                                "Line 7 holds 2, which is not from 0 to 1"},
-                    RefusedCase{"LastUnitBeyondItsTable", FileWith("T2WUnits: 0", "T2WUnits: 6"), "Line 12 holds 6"},
-                    RefusedCase{"ScaleBelowItsSlider", FileWith("SpeedPlotX: 20", "SpeedPlotX: 9"),
-                                "Line 13 holds 9, which is not from 10 to 50"},
-                    RefusedCase{"ScaleBeyondItsSlider", FileWith("TorqueY: 500", "TorqueY: 2501"),
-                                "Line 16 holds 2501"},
-                    RefusedCase{"TooLong", File(kStartFile + std::string(65536, ' ')), "Longer than 65536 bytes"},
-                    RefusedCase{"AFolder", [] { fs::create_directory(kName); }, "s a directory"}),
-    [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(OptionsFile, MissingOrEmptyIsSaidAndTheOptionsInMemoryAreApplied) {
     for (const bool empty : {false, true}) {
@@ -199,8 +146,10 @@ TEST_F(OptionsFile, MissingOrEmptyIsSaidAndTheOptionsInMemoryAreApplied) {
     }
 }
 
-TEST_F(OptionsFile, AFailedWriteNamesFileAndReason) {
+TEST_F(OptionsFile, AFolderInItsPlaceIsNamedWithTheReason) {
     fs::create_directory(kName);
+    LoadOptions();
+    ExpectMessage(AllOf(HasSubstr(InFolder(kName)), HasSubstr("s a directory")));
     SaveOptions();
     ExpectMessage(AllOf(HasSubstr(InFolder(kName)), HasSubstr("s a directory")));
 }

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "gearing/gearing_state.h"
 #include "support/zolv_test.h"
 

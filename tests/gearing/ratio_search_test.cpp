@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "gearing/gear_speeds.h"
-
 namespace zolv {
 namespace {
 
@@ -70,31 +68,6 @@ TEST(RatioSearch, FixedShiftPointsNeedNoSearch) {
     EXPECT_FALSE(found.Raised);
     ExpectGears(found.Ratios, {12.5, 2.5, 1.25, 1, 1});
     ExpectGears(found.Revs, {5000, 5000, 5000, 5000, 6900});
-}
-
-TEST(RatioSearch, FindsTheRatiosFromWhichTheSpeedsCame) {
-    RollingCar car;
-    car.Air.Mass = 900;
-    car.Air.WeightDist = 0.45;
-    car.Air.AirDensity = 1.2;
-    car.Air.RearWing = {0.1F, -0.8F, 1.1F};
-    car.Rear = {.UnloadedRadius = 0.31, .Stiffness = 300'000, .MaxDeformation = 0.1};
-    car.RearDriven = true;
-    car.TyreSlip = 0.01;
-    const ShiftRules rules{.PowerRPM = 7200, .NumGears = 6};
-    const ByGear ratios{0, 3.4F, 2.3F, 1.71F, 1.36F, 1.12F, 0.95F};
-    const ByGear revs = ShiftPoints(rules, ratios);
-    ByGear speeds{}, factors{};
-    for (std::size_t gear = 1; gear <= 6; ++gear) {
-        const SettledGear settled = SettleGear(car, revs[gear], ratios[gear], 3.9, kForwardRounds);
-        speeds[gear] = settled.Speed;
-        factors[gear] = settled.SpeedFactor;
-    }
-    const FoundRatios found = SearchRatios(rules, speeds, factors, 3.9F);
-    for (std::size_t gear = 1; gear <= 6; ++gear) {
-        EXPECT_NEAR(found.Ratios[gear], ratios[gear], 1e-5) << gear;
-        EXPECT_NEAR(found.Revs[gear], revs[gear], 0.02) << gear;
-    }
 }
 
 }  // namespace

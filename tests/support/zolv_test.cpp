@@ -1,6 +1,7 @@
 #include "support/zolv_test.h"
 
 #include <cctype>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -135,9 +136,9 @@ std::string Shown(std::string_view name) {
     return field != nullptr ? TextOf(*field) : std::string();
 }
 
-std::string Shown(const std::vector<std::string>& names) {
+std::string Shown(std::initializer_list<std::string_view> names) {
     std::string shown;
-    for (const std::string& name : names) shown += Shown(name) + '|';
+    for (const std::string_view name : names) shown += Shown(name) + '|';
     return shown;
 }
 
@@ -197,6 +198,24 @@ void WriteContent(const std::string& path, std::string_view content) {
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file.write(content.data(), static_cast<std::streamsize>(content.size()));
     EXPECT_TRUE(file.good()) << path;
+}
+
+std::string Replaced(std::string text, const std::string& what, const std::string& other) {
+    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + other.size())) {
+        text.replace(at, what.size(), other);
+    }
+    return text;
+}
+
+FullDisk::FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+FullDisk::~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
 }
 
 }  // namespace zolv

@@ -2,9 +2,11 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <deque>
 #include <filesystem>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -70,12 +72,18 @@ private:
     RecordingDialogs dialogs_;
 };
 
+/// The program as it stands after its load.
+class StartedTest : public ZolvTest {
+protected:
+    StartedTest() { Start(); }
+};
+
 /// What the field of that name shows: the text of a box or of the picked row, the number of a slider, "on" or "off",
 /// the caption of anything else. The test fails if there is no such field.
 std::string Shown(std::string_view name);
 
 /// The same of several, each with "|" behind it.
-std::string Shown(const std::vector<std::string>& names);
+std::string Shown(std::initializer_list<std::string_view> names);
 
 /// What a user does at the field of that name, with the text as he would read it. The test fails if there is no such
 /// field, or nothing that takes it.
@@ -97,5 +105,24 @@ void ExpectOnlyNumbers();
 /// A file's whole content; the test fails if it cannot be read.
 std::string ContentOf(const std::string& path);
 void WriteContent(const std::string& path, std::string_view content);
+
+/// The text with another in place of each `what`.
+std::string Replaced(std::string text, const std::string& what, const std::string& other);
+
+/// While it lives, no file of this process grows beyond that size, as on a disk that fills up.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes);
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+    ~FullDisk();
+
+private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
+/// The name of a row of a parametrised table.
+inline constexpr auto kRowName = [](const auto& row) { return std::string(row.param.name); };
 
 }  // namespace zolv

@@ -1,10 +1,6 @@
 #include "language/language_file.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -33,10 +29,8 @@ std::string MadeUp(int lines = 339, const char* lineEnd = "\r\n") {
 
 std::string PathOf(const std::string& language) { return platform.AppPath + "language_" + language + ".txt"; }
 
-class LanguageFile : public ZolvTest {
+class LanguageFile : public StartedTest {
 protected:
-    LanguageFile() { Start(); }
-
     void Load(const std::string& language) {
         LanguageSelection.LanguageList.Clear();
         LanguageSelection.LanguageList.Add(language);
@@ -82,7 +76,6 @@ TEST_F(LanguageFile, LinesWithAnAdditionAndTextsBuiltFromLines) {
     LoadText(MadeUp());
     EXPECT_EQ(Zolv.AboutZolv.Caption(), "L46\r\nL47\r\n\r\nL48\r\n\r\nL49\r\n\r\nL50\r\n\r\nL51");
     EXPECT_EQ(CustomPresets.Label_Perc[2].Caption(), "% L189");
-    EXPECT_EQ(OptionsPanel.Title(), "L15");
     EXPECT_EQ(OptionsPanel.SpeedPlotX.Units.Caption(), " m/s");
     EXPECT_THAT(Zolv.Select_Tyres.Rows(),
                 ElementsAre("L64", "L65", "L66", "L67", "L68 R1", "L68 R2", "L68 R3", "L68 R4"));
@@ -111,10 +104,8 @@ TEST_F(LanguageFile, ListsKeepTheirRows) {
     CustomPresets.New.Drivetrain.Pick(2);
     const std::string speed = Zolv.Speeds.Input[3].Text();
     LoadText(MadeUp());
-    EXPECT_EQ(Zolv.Select_Tyres.Text(), "L68 R3");
-    EXPECT_EQ(Zolv.Select_Tyres2.Text(), "L68 R3");
+    EXPECT_EQ(Shown({"Select_Tyres", "Select_Tyres2", "Select_Graphs", "NewDrivetrain"}), "L68 R3|L68 R3|L71|L41|");
     EXPECT_EQ(tyres.TyreMu, 1.55F);
-    EXPECT_EQ(Zolv.Select_Graphs.Text(), "L71");
     EXPECT_TRUE(Zolv.SpeedTimeGraph.Visible());
     EXPECT_EQ(OptionsPanel.Units[0].Select.Text(), "L253");
     EXPECT_EQ(units.Speed.Unit, 2);
@@ -122,7 +113,6 @@ TEST_F(LanguageFile, ListsKeepTheirRows) {
     EXPECT_EQ(OptionsPanel.SpeedPlotX.Units.Caption(), " mph");
     EXPECT_EQ(OptionsPanel.Units[11].Select.Text(), "L309");
     EXPECT_EQ(units.T2W.Unit, 5);
-    EXPECT_EQ(CustomPresets.New.Drivetrain.Text(), "L41");
     EXPECT_THAT(CustomPresets.Edit.Drivetrain.Rows(), ElementsAre("L39", "L40", "L41"));
     EXPECT_EQ(CustomPresets.Edit.Drivetrain.Picked(), -1);
 }
@@ -134,18 +124,9 @@ TEST_F(LanguageFile, FollowUpComesOnceWithAllLinesInPlace) {
     EXPECT_THAT(seen, ElementsAre("L338"));
 }
 
-TEST_F(LanguageFile, ListWithoutCurrentRowComesBackOnTheFirst) {
-    Zolv.Select_Tyres.Clear();
-    Zolv.Select_Graphs.Clear();
-    LoadText(MadeUp());
-    EXPECT_EQ(Zolv.Select_Tyres.Picked(), 0);
-    EXPECT_EQ(Zolv.Select_Graphs.Picked(), 0);
-}
-
 TEST_F(LanguageFile, WordsAreTakenAsTheyStand) {
-    std::string text = "\xEF\xBB\xBF" + MadeUp();
-    text.replace(text.find("L3\r\n"), 2, "  \xC3\x96&ffnen &&& & \t");
-    text.replace(text.find("L8\r\n"), 2, "");
+    std::string text = "\xEF\xBB\xBF" + Replaced(MadeUp(), "\nL3\r", "\n  \xC3\x96&ffnen &&& & \t\r");
+    text = Replaced(text, "\nL8\r", "\n\r");
     text.erase(text.rfind("L338"));  // 338 lines, and the last line end makes an empty one
     LoadText(text);
     EXPECT_EQ(LanguageSelection.LanguageNow.Caption(), "L0");
@@ -157,48 +138,30 @@ TEST_F(LanguageFile, WordsAreTakenAsTheyStand) {
 constexpr const char* kNotFound = "The language file cannot be found: ";
 constexpr const char* kLineCount = "Language file does not have the correct number of lines. Loading failed.";
 
-struct RefusedCase {
-    const char* name;
-    const char* language;
-    std::function<void(const std::string& path)> make;
-    const char* message;  // kNotFound has the path behind it
-};
-
-void PrintTo(const RefusedCase& row, std::ostream* out) { *out << row.name; }
-
-class RefusedLanguage : public LanguageFile, public testing::WithParamInterface<RefusedCase> {};
-
-TEST_P(RefusedLanguage, SaysWhyAndChangesNothing) {
-    const RefusedCase& row = GetParam();
-    const std::string path = PathOf(row.language);
-    row.make(path);
-    Load(row.language);
-    ExpectMessage(row.message == kNotFound ? kNotFound + path : row.message);
+TEST_F(LanguageFile, ThatIsNoneIsRefusedAndChangesNothing) {
+    fs::create_directory(PathOf("folder"));
+    fs::create_directory(platform.AppPath + "language_a");
+    WriteContent(PathOf("a/b"), MadeUp());  // in another folder
+    WriteContent(PathOf("empty"), "");
+    WriteContent(PathOf("short"), MadeUp(338));
+    WriteContent(PathOf("long"), MadeUp() + "\r\n");
+    WriteContent(PathOf("line feeds"), MadeUp(339, "\n"));
+    WriteContent(PathOf("huge"), MadeUp() + std::string(1 << 20, 'x'));
+    for (const char* name : {"missing", "empty", "folder", "a/b"}) {
+        Load(name);
+        ExpectMessage(kNotFound + PathOf(name));
+    }
+    for (const char* name : {"short", "long", "line feeds", "huge"}) {
+        Load(name);
+        ExpectMessage(kLineCount);
+    }
     EXPECT_EQ(LanguageSelection.LanguageNow.Caption(), "English");
     EXPECT_EQ(Zolv.Select_Tyres.Rows()[0], "Road Super");
     EXPECT_EQ(texts.TextOptionsMissing, "Error: Options.ini does not exist.");
 }
 
-const RefusedCase kRefused[] = {
-    {"Missing", "Gone", [](const std::string&) {}, kNotFound},
-    {"Empty", "Test", [](const std::string& path) { WriteContent(path, ""); }, kNotFound},
-    {"AFolder", "Test", [](const std::string& path) { fs::create_directory(path); }, kNotFound},
-    {"InAnotherFolder", "a/b",
-     [](const std::string& path) {
-         fs::create_directory(platform.AppPath + "language_a");
-         WriteContent(path, MadeUp());
-     },
-     kNotFound},
-    {"OneLineLess", "Test", [](const std::string& path) { WriteContent(path, MadeUp(338)); }, kLineCount},
-    {"OneLineMore", "Test", [](const std::string& path) { WriteContent(path, MadeUp() + "\r\n"); }, kLineCount},
-    {"LineFeedsAlone", "Test", [](const std::string& path) { WriteContent(path, MadeUp(339, "\n")); }, kLineCount},
-    {"TooLong", "Test", [](const std::string& path) { WriteContent(path, MadeUp() + std::string(65536, 'x')); },
-     kLineCount},
-};
-INSTANTIATE_TEST_SUITE_P(Files, RefusedLanguage, testing::ValuesIn(kRefused),
-                         [](const auto& row) { return std::string(row.param.name); });
-
 TEST_F(LanguageFile, BuiltInLanguageIsWrittenWholeAndLoadsAgain) {
+    EXPECT_THAT(WriteBuiltInLanguage("no such folder/English.txt"), HasSubstr("No such file"));
     ASSERT_EQ(WriteBuiltInLanguage(PathOf("English")), "");
     const std::string text = ContentOf(PathOf("English"));
     EXPECT_EQ(SplitLines(text).size(), 339U);
@@ -211,10 +174,6 @@ TEST_F(LanguageFile, BuiltInLanguageIsWrittenWholeAndLoadsAgain) {
     EXPECT_NE(EverythingShown(), english);
     Load("English");
     EXPECT_EQ(EverythingShown(), english);
-}
-
-TEST_F(LanguageFile, WritingNowhereHasAReason) {
-    EXPECT_THAT(WriteBuiltInLanguage(platform.AppPath + "no such folder/English.txt"), HasSubstr("No such file"));
 }
 
 }  // namespace

@@ -1,12 +1,8 @@
 #include "language/language_list.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
-#include <functional>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "fields/windows.h"
 #include "language/language_state.h"
@@ -35,135 +31,90 @@ protected:
     int picks = 0;
 };
 
-struct LoadCase {
-    const char* name;
-    std::string content;
-    int index;
-    std::vector<std::string> rows;
-    int picked;  // -1 is none, with a message
-};
-
-void PrintTo(const LoadCase& row, std::ostream* out) { *out << row.name; }
-
-class LoadedList : public LanguageList, public testing::WithParamInterface<LoadCase> {};
-
-TEST_P(LoadedList, PicksTheStoredLanguage) {
-    WriteContent(Path(), GetParam().content);
-    LoadLanguageList();
-    EXPECT_EQ(language.LanguageIndex, GetParam().index);
-    EXPECT_EQ(List().Rows(), GetParam().rows);
-    EXPECT_EQ(List().Picked(), GetParam().picked);
-    const bool valid = GetParam().picked >= 0;
-    EXPECT_EQ(picks, valid ? 1 : 0);
-    if (!valid) ExpectMessage("Invalid language selection.");
-}
-
-const std::vector<std::string> kThirteen{"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l", "m"};
-
-const LoadCase kLoads[] = {
-    {"Stored", "Language: 2\r\nEnglish\r\nDeutsch\r\n", 2, {"English", "Deutsch"}, 1},
-    {"NoneYet", "Language: 0\r\nEnglish\r\nDeutsch\r\n", 0, {"English", "Deutsch"}, 0},
-    {"NoNumber", "Language: \r\nEnglish\r\nDeutsch\r\n", 0, {"English", "Deutsch"}, 0},
-    {"NoLastLineEnd", "Language: 2\r\nEnglish\r\nDeutsch", 2, {"English", "Deutsch"}, 1},
-    {"OnlyTwoDigitsCount", "Language: 112\r\na\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\nk\r\nl\r\nm\r\n", 12,
-     kThirteen, 11},
-    {"EmptyLinesAreEntries", "Language: 1\r\nEnglish\r\n\r\n\r\n", 1, {"English", "", ""}, 0},
-    {"BelowZero", "Language: -1\r\nEnglish\r\n", 0, {"English"}, 0},
-    {"ShortFirstLine", "2\r\nEnglish\r\nDeutsch\r\n", 2, {"English", "Deutsch"}, 1},
-    {"ByteOrderMark",
-     "\xEF\xBB\xBF"
-     "2\r\nEnglish\r\nDeutsch\r\n",
-     2,
-     {"English", "Deutsch"},
-     1},
-    {"BeyondTheList", "Language: 3\r\nEnglish\r\nDeutsch\r\n", 3, {"English", "Deutsch"}, -1},
-};
-INSTANTIATE_TEST_SUITE_P(Files, LoadedList, testing::ValuesIn(kLoads),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-struct SaveCase {
-    const char* name;
-    const char* before;
-    int pick;  // -1 is none
-    const char* after;
-};
-
-void PrintTo(const SaveCase& row, std::ostream* out) { *out << row.name; }
-
-class SavedList : public LanguageList, public testing::WithParamInterface<SaveCase> {};
-
-TEST_P(SavedList, HoldsTheNumberAndAllNames) {
-    WriteContent(Path(), GetParam().before);
-    LoadLanguageList();
-    if (GetParam().pick < 0) ExpectMessage("Invalid language selection.");
-    List().Pick(GetParam().pick);
-    SaveLanguageChoice();
-    EXPECT_EQ(ContentOf(Path()), GetParam().after);
-}
-
-const SaveCase kSaves[] = {
-    {"Second", "Language: 1\r\nA\r\nB\r\n", 1, "Language: 2\r\nA\r\nB\r\n"},
-    {"LaterEqualLineWins", "Language: 1\r\nA\r\nB\r\nA\r\n", 0, "Language: 3\r\nA\r\nB\r\nA\r\n"},
-    {"LineEndAdded", "Language: 1\r\nA\r\nB", 1, "Language: 2\r\nA\r\nB\r\n"},
-    {"EmptyLinesStay", "Language: 2\r\nA\r\nB\r\n\r\n\r\n", 0, "Language: 1\r\nA\r\nB\r\n\r\n\r\n"},
-    {"TwoDigits", "Language: 9\r\na\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj", 9,
-     "Language: 10\r\na\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\n"},
-    {"NonePicked", "Language: 9\r\nA\r\nB", -1, "Language: \r\nA\r\nB\r\n"},
-};
-INSTANTIATE_TEST_SUITE_P(Choices, SavedList, testing::ValuesIn(kSaves),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-constexpr const char* kMissing = "The language list does not exist - the language cannot be ";
-
-struct RefusedCase {
-    const char* name;
-    std::function<void(const std::string& path)> make;
-    const char* reason;  // empty where the list counts as missing
-};
-
-void PrintTo(const RefusedCase& row, std::ostream* out) { *out << row.name; }
-
-class RefusedList : public LanguageList, public testing::WithParamInterface<RefusedCase> {
-protected:
-    void ExpectRefusal(const std::string& lost) {
-        const std::string reason = GetParam().reason;
-        if (reason.empty()) {
-            ExpectMessage(kMissing + lost + ".");
-        } else {
-            ExpectMessage(AllOf(HasSubstr(Path()), HasSubstr(reason)));
+TEST_F(LanguageList, TheStoredLanguageIsPicked) {
+    struct {
+        std::string first;  // line
+        int index;
+        int picked;  // -1 is none, with a message
+    } const kCases[] = {{"Language: 2", 2, 1},
+                        {"Language: 0", 0, 0},
+                        {"Language: ", 0, 0},
+                        {"Language: 112", 12, 11},
+                        {"Language: -1", 0, 0},
+                        {"\xEF\xBB\xBF"
+                         "2",
+                         2, 1},
+                        {"Language: 14", 14, -1}};
+    for (const auto& row : kCases) {
+        for (const char* end : {"", "\r\n"}) {
+            WriteContent(Path(), row.first + "\r\na\r\nb\r\nc\r\nd\r\n\r\nf\r\ng\r\nh\r\ni\r\nj\r\nk\r\nl\r\nm" + end);
+            picks = 0;
+            LoadLanguageList();
+            EXPECT_EQ(language.LanguageIndex, row.index) << row.first;
+            EXPECT_THAT(List().Rows(), ElementsAre("a", "b", "c", "d", "", "f", "g", "h", "i", "j", "k", "l", "m"));
+            EXPECT_EQ(List().Picked(), row.picked) << row.first;
+            EXPECT_EQ(picks, row.picked >= 0 ? 1 : 0);
+            if (row.picked < 0) ExpectMessage("Invalid language selection.");
         }
     }
-};
-
-TEST_P(RefusedList, SaysWhyAndChangesNothing) {
-    GetParam().make(Path());
-    const std::string content = fs::is_regular_file(Path()) ? ContentOf(Path()) : "";
-    List().Add("Old");
-    language.LanguageIndex = 7;
-    LanguageSelection.SetVisible(true);
-
-    LoadLanguageList();
-    ExpectRefusal("changed");
-    EXPECT_FALSE(LanguageSelection.Visible());
-    EXPECT_THAT(List().Rows(), ElementsAre("Old"));
-    EXPECT_EQ(language.LanguageIndex, 7);
-
-    SaveLanguageChoice();
-    ExpectRefusal("saved");
-    EXPECT_EQ(fs::is_regular_file(Path()) ? ContentOf(Path()) : "", content);
 }
 
-const RefusedCase kRefused[] = {
-    {"Missing", [](const std::string&) {}, ""},
-    {"Empty", [](const std::string& path) { WriteContent(path, ""); }, ""},
-    {"AFolder", [](const std::string& path) { fs::create_directory(path); }, ""},
-    {"TooLong", [](const std::string& path) { WriteContent(path, "Language: 1\r\n" + std::string(65536, 'x')); },
-     "Longer than 65536 bytes"},
-    {"LineFeedsAlone", [](const std::string& path) { WriteContent(path, "Language: 1\nEnglish\n"); }, "CR LF"},
-    {"NoNames", [](const std::string& path) { WriteContent(path, "Language: 0\r\n"); }, "name"},
-};
-INSTANTIATE_TEST_SUITE_P(Files, RefusedList, testing::ValuesIn(kRefused),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_F(LanguageList, ASaveHoldsTheNumberAndAllNames) {
+    struct {
+        const char* before;
+        int pick;  // -1 is none
+        const char* after;
+    } const kCases[] = {
+        {"Language: 1\r\nA\r\nB\r\n", 1, "Language: 2\r\nA\r\nB\r\n"},
+        {"Language: 1\r\nA\r\nB\r\nA\r\n", 0, "Language: 3\r\nA\r\nB\r\nA\r\n"},  // the later equal line wins
+        {"Language: 2\r\nA\r\nB\r\n\r\n\r\n", 0, "Language: 1\r\nA\r\nB\r\n\r\n\r\n"},
+        {"Language: 9\r\na\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj", 9,
+         "Language: 10\r\na\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\n"},
+        {"Language: 9\r\nA\r\nB", -1, "Language: \r\nA\r\nB\r\n"},
+    };
+    for (const auto& row : kCases) {
+        WriteContent(Path(), row.before);
+        LoadLanguageList();
+        if (row.pick < 0) ExpectMessage("Invalid language selection.");
+        List().Pick(row.pick);
+        SaveLanguageChoice();
+        EXPECT_EQ(ContentOf(Path()), row.after);
+    }
+}
+
+TEST_F(LanguageList, ThatIsNoneSaysWhyAndChangesNothing) {
+    List().Add("Old");
+    language.LanguageIndex = 7;
+    const auto expectRefusals = [&](const std::string& reason) {
+        const std::string content = fs::is_regular_file(Path()) ? ContentOf(Path()) : "";
+        LanguageSelection.SetVisible(true);
+        LoadLanguageList();
+        SaveLanguageChoice();
+        for (const char* lost : {"changed.", "saved."}) {
+            ExpectMessage(
+                reason.empty()
+                    ? HasSubstr(std::string("The language list does not exist - the language cannot be ") + lost)
+                    : HasSubstr(Path() + ": " + reason));
+        }
+        EXPECT_FALSE(LanguageSelection.Visible());
+        EXPECT_THAT(List().Rows(), ElementsAre("Old"));
+        EXPECT_EQ(language.LanguageIndex, 7);
+        EXPECT_EQ(fs::is_regular_file(Path()) ? ContentOf(Path()) : "", content);
+    };
+    expectRefusals("");
+    WriteContent(Path(), "");
+    expectRefusals("");
+    for (const auto& [text, reason] :
+         {std::pair("Language: 1\r\n" + std::string(65536, 'x'), "Longer than 65536 bytes"),
+          std::pair(std::string("Language: 1\nEnglish\n"), "Not a language list"),
+          std::pair(std::string("Language: 0\r\n"), "Not a language list")}) {
+        WriteContent(Path(), text);
+        expectRefusals(reason);
+    }
+    fs::remove(Path());
+    fs::create_directory(Path());
+    expectRefusals("");
+}
 
 TEST_F(LanguageList, FailedSaveNamesFileAndReason) {
     WriteContent(Path(), "Language: 1\r\nA\r\nB\r\n");

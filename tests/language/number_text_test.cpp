@@ -50,23 +50,16 @@ TEST(Round, IsHalfToEven) {
     }
 }
 
-TEST(NumberText, OfDoublesHasUpTo15Digits) {
-    EXPECT_EQ(NumberText(100.0), "100");
+TEST(NumberText, HasUpTo15DigitsOfDoublesAnd7OfSingles) {
+    EXPECT_EQ(NumberText(1.0F / 3), "0.3333333");
+    EXPECT_EQ(NumberText(3.35F), "3.35");
+    EXPECT_EQ(NumberText(-17), "-17");
     EXPECT_EQ(NumberText(1.0 / 3), "0.333333333333333");
     EXPECT_EQ(NumberText(0.1 + 0.2), "0.3");
-    EXPECT_EQ(NumberText(-1234.5), "-1234.5");
-    EXPECT_EQ(NumberText(123456789012345.0), "123456789012345");
     EXPECT_EQ(NumberText(-0.0), "0");
     EXPECT_EQ(NumberText(-0.00004), "-0.00004");
     EXPECT_EQ(NumberText(1.5e16), "15000000000000000");
     EXPECT_EQ(NumberText(1e300), '1' + std::string(300, '0'));
-}
-
-TEST(NumberText, OfSinglesHasUpTo7Digits) {
-    EXPECT_EQ(NumberText(0.1F), "0.1");
-    EXPECT_EQ(NumberText(1.0F / 3), "0.3333333");
-    EXPECT_EQ(NumberText(3.35F), "3.35");
-    EXPECT_EQ(NumberText(100.0F), "100");
 }
 
 TEST(NumberText, OfNoNumberIsNotAvailable) {
@@ -77,12 +70,6 @@ TEST(NumberText, OfNoNumberIsNotAvailable) {
         EXPECT_EQ(WithUnit(value, 2, " Hz"), "N/A");
     }
     EXPECT_EQ(WithUnit(8.336, 2, " Hz"), "8.34 Hz");
-}
-
-TEST(NumberText, OfWholeNumbersAndBooleans) {
-    EXPECT_EQ(NumberText(-17), "-17");
-    EXPECT_EQ(BooleanText(true), "True");
-    EXPECT_EQ(BooleanText(false), "False");
 }
 
 // The fast writer against the general one, over signs, sizes and decimals; where the general one takes no exponent.
@@ -105,9 +92,7 @@ TEST(NumberText, ExactTextReadsBackAsTheSameDouble) {
 
 TEST(WholeNumbers, AreRoundedHalfToEvenAndSaturate) {
     EXPECT_EQ(ToInt16(2.5), 2);
-    EXPECT_EQ(ToInt16(3.5), 4);
     EXPECT_EQ(ToInt16(-1e9), -32768);
-    EXPECT_EQ(ToInt16(32767.4), 32767);
     EXPECT_EQ(ToInt16(kInfinity), 32767);
     EXPECT_EQ(ToInt32(13.5), 14);
     EXPECT_EQ(ToInt32(1e300), 2147483647);

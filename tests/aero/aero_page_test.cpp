@@ -8,10 +8,8 @@
 namespace zolv {
 namespace {
 
-class AeroPage : public ZolvTest {
+class AeroPage : public StartedTest {
 protected:
-    AeroPage() { Start(); }
-
     void ExpectVerdict(const char* verdict, Rgb colour) {
         EXPECT_EQ(Zolv.Aero_AeroDistribution.ToolTip(), verdict);
         EXPECT_EQ(Zolv.Aero_AeroDistribution.Colour(), colour);
@@ -21,14 +19,11 @@ protected:
 TEST_F(AeroPage, AtStandstillOnlyTheWeightIsLeft) {
     Set("Select_Car", "Series Lo");
     Set("Select_AeroSpeed", "0");
-    for (const char* name : {"Aero_BodyLDR", "Aero_UndertrayLDR", "Aero_FrontWingLDR", "Aero_RearWingLDR",
-                             "Aero_TotalLDR", "Aero_AeroDistribution"}) {
-        EXPECT_EQ(Shown(name), "N/A") << name;
-    }
+    EXPECT_EQ(Shown({"Aero_BodyLDR", "Aero_UndertrayLDR", "Aero_FrontWingLDR", "Aero_RearWingLDR", "Aero_TotalLDR",
+                     "Aero_AeroDistribution"}),
+              "N/A|N/A|N/A|N/A|N/A|N/A|");
     ExpectVerdict("N/A", kBlack);
-    EXPECT_EQ(Shown("Aero_DragSplit"), "0% / 100%");
-    EXPECT_EQ(Shown("Aero_WeightMultiple"), "1");
-    EXPECT_EQ(Shown("Aero_ForceDistribution"), "47% / 53%");
+    EXPECT_EQ(Shown({"Aero_DragSplit", "Aero_WeightMultiple", "Aero_ForceDistribution"}), "0% / 100%|1|47% / 53%|");
 }
 
 // From a separate calculation in Python, at 7 and 14 degrees.
@@ -60,11 +55,9 @@ TEST_F(AeroPage, DividesTheLiftOfTheUndertrayByItsOwnPosition) {
 TEST_F(AeroPage, TheSpeedsOfBothPagesAreTwins) {
     Set("OptionsPanel.Select_SpeedUnits", "Kilometers per Hour");
     Set("Select_AeroSpeed", "100");
-    EXPECT_EQ(Shown("Select_AeroSpeed_TyreTab"), "100");
-    EXPECT_EQ(Shown("AeroSpeed"), "360 km/h");
+    EXPECT_EQ(Shown({"Select_AeroSpeed_TyreTab", "AeroSpeed"}), "100|360 km/h|");
     Set("Select_AeroSpeed_TyreTab", "50");
-    EXPECT_EQ(Shown("Select_AeroSpeed"), "50");
-    EXPECT_EQ(Shown("AeroSpeed_TyreTab"), "180 km/h");
+    EXPECT_EQ(Shown({"Select_AeroSpeed", "AeroSpeed_TyreTab"}), "50|180 km/h|");
     EXPECT_EQ(aero.AeroSpeedValue, 50);
 }
 
@@ -85,17 +78,13 @@ TEST_F(AeroPage, AtTheTopSpeedTheSlidersOnlyShowTheirOwn) {
     Set("UseFixedSpeed", "on");
     EXPECT_FALSE(Zolv.Select_AeroSpeed.Enabled());
     EXPECT_FALSE(Zolv.Select_AeroSpeed_TyreTab.Enabled());
-    EXPECT_EQ(Shown("Aero_TopSpeed"), "77.6 m/s");
-    EXPECT_EQ(Shown("Aero_TotalDrag"), "3282 N");
-    EXPECT_EQ(Shown("Aero_TotalLift"), "-10788 N");
-    EXPECT_EQ(Shown("AeroSpeed"), "41 m/s");
+    EXPECT_EQ(Shown({"Aero_TopSpeed", "Aero_TotalDrag", "Aero_TotalLift", "AeroSpeed"}),
+              "77.6 m/s|3282 N|-10788 N|41 m/s|");
     Set("Select_AeroSpeed", "10");
-    EXPECT_EQ(Shown("Aero_TotalDrag"), "3282 N");
-    EXPECT_EQ(Shown("AeroSpeed"), "10 m/s");
+    EXPECT_EQ(Shown({"Aero_TotalDrag", "AeroSpeed"}), "3282 N|10 m/s|");
     Set("Select_FrontWingAngle", "15");
     Set("Select_RearWingAngle", "0");
-    EXPECT_EQ(Shown("Aero_TopSpeed"), "77.7 m/s");
-    EXPECT_EQ(Shown("Aero_TotalDrag"), "3302 N");
+    EXPECT_EQ(Shown({"Aero_TopSpeed", "Aero_TotalDrag"}), "77.7 m/s|3302 N|");
     Set("UseSliderSpeed", "on");
     EXPECT_TRUE(Zolv.Select_AeroSpeed.Enabled());
     EXPECT_EQ(aero.AeroSpeedValue, 10);
@@ -124,14 +113,6 @@ TEST_F(AeroPage, AWingThatMovesDuringABulkRewriteWaits) {
     guards.Busy = false;
     CalcAeroCoefficients();
     EXPECT_NE(Shown("Aero_RearWingLift"), before);
-}
-
-TEST_F(AeroPage, ABodyAloneCanLift) {
-    UseCustomCar("Pell S", {{CarField::Cl, 0.2}});
-    EXPECT_EQ(Shown("Aero_AeroDistribution"), "56.1% / 43.9%");
-    ExpectVerdict("Neutral", Rgb{0, 160, 0});
-    EXPECT_EQ(Shown("Aero_BodyLDR"), "-0.31 : 1");  // 0.2 / (0.35 * 1.83)
-    EXPECT_LT(Shown("Aero_WeightMultiple"), "1");
 }
 
 }  // namespace

@@ -70,37 +70,27 @@ TEST_F(RunPlots, AxesAreInSecondsAndInTheUnitShown) {
     EXPECT_EQ(force.y.unit, "kN");
 }
 
-struct ForceCase {
-    const char* name;
-    std::int16_t drivetrain;
-    float frontLoad, rearLoad;
-    bool loadsOn;
-    double newtons;  // at the top of the frame
-};
-void PrintTo(const ForceCase& row, std::ostream* out) { *out << row.name; }
-
-class LargestForce : public RunPlots, public testing::WithParamInterface<ForceCase> {};
-
-TEST_P(LargestForce, FillsTheHeight) {
-    Run(10);
-    vehicle.CurrentCar.DrivetrainType = GetParam().drivetrain;
-    aero.FrontWheelForce = GetParam().frontLoad;
-    aero.RearWheelForce = GetParam().rearLoad;
-    options.VLoadsOn = GetParam().loadsOn;
-    DrawGearingPlots();
-    EXPECT_NEAR(-2715 / Zolv.TractiveEffortPlot.Drawing().PresentAxes().y.scale, GetParam().newtons, 1e-3);
-}
-
 // By hand: 400 Nm at the wheels over 0.95 times the radius, 0.5 m in front and 0.25 m behind; 1.6 times the driven
 // axle's load at most; with the loads drawn 1.05 times the larger one at least.
-INSTANTIATE_TEST_SUITE_P(ByHand, LargestForce,
-                         testing::Values(ForceCase{"FrontDriven", 0, 1000, 1500, false, 842.105},
-                                         ForceCase{"RearDriven", 1, 1000, 1500, false, 1684.211},
-                                         ForceCase{"AllDrivenCountsAsFront", 2, 1000, 1500, false, 842.105},
-                                         ForceCase{"FrontTyresGiveWay", 0, 400, 1500, false, 640},
-                                         ForceCase{"LargerLoadBehind", 0, 1000, 1500, true, 1575},
-                                         ForceCase{"ForceAboveTheLoads", 1, 1000, 1500, true, 1684.211}),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_F(RunPlots, TheLargestForceFillsTheHeight) {
+    struct {
+        std::int16_t drivetrain;
+        float frontLoad, rearLoad;
+        bool loadsOn;
+        double newtons;  // at the top of the frame
+    } const kCases[] = {{0, 1000, 1500, false, 842.105}, {1, 1000, 1500, false, 1684.211},
+                        {2, 1000, 1500, false, 842.105}, {0, 400, 1500, false, 640},
+                        {0, 1000, 1500, true, 1575},     {1, 1000, 1500, true, 1684.211}};
+    Run(10);
+    for (const auto& row : kCases) {
+        vehicle.CurrentCar.DrivetrainType = row.drivetrain;
+        aero.FrontWheelForce = row.frontLoad;
+        aero.RearWheelForce = row.rearLoad;
+        options.VLoadsOn = row.loadsOn;
+        DrawGearingPlots();
+        EXPECT_NEAR(-2715 / Zolv.TractiveEffortPlot.Drawing().PresentAxes().y.scale, row.newtons, 1e-3);
+    }
+}
 
 TEST_F(RunPlots, StayBlankWithoutARun) {
     for (const bool on : {false, true}) {
@@ -112,49 +102,18 @@ TEST_F(RunPlots, StayBlankWithoutARun) {
     }
 }
 
-TEST_F(RunPlots, ACarThatCannotBeEndsAndStaysFinite) {
-    Run(1);
-    gearing.AccelRows = {};
-    gearing.GearRatio = {};
-    gearing.FinalDrive = {};
-    gearing.GearSpeed = {};
-    vehicle.CurrentCar = {};
-    aero = {};
-    options.EngineTorqueOn = options.VLoadsOn = options.TorqueLineOn = true;
-    DrawGearingPlots();
-    for (const CanvasField* field :
-         {&Zolv.SpeedPlot, &Zolv.TorquePlot, &Zolv.TractiveEffortPlot, &Zolv.SpeedTimeGraph}) {
-        EXPECT_TRUE(AllFinite(field->Drawing())) << field->Name();
-        EXPECT_FALSE(field->Drawing().PresentAxes().present) << field->Name();
+TEST_F(RunPlots, EachPageOfGraphsShowsItsOwnAndSurvivesARedraw) {
+    for (const std::size_t page : {0U, 1U, 2U}) {
+        Zolv.Select_Graphs.SetText(texts.GraphNames[page]);
+        for (const bool redrawn : {false, true}) {
+            if (redrawn) DrawGearingPlots();
+            EXPECT_EQ(Zolv.SpeedPlot.Visible(), page == 0) << redrawn;
+            EXPECT_EQ(Zolv.TractiveEffortPlot.Visible(), page == 1) << redrawn;
+            EXPECT_EQ(Zolv.SpeedTimeGraph.Visible(), page == 1) << redrawn;
+            EXPECT_EQ(Zolv.AccelerationData.Visible(), page == 2) << redrawn;
+        }
     }
 }
-
-struct PageCase {
-    const char* name;
-    std::size_t row;
-    bool speedAndTorque, run, table;
-};
-void PrintTo(const PageCase& row, std::ostream* out) { *out << row.name; }
-
-class GraphPage : public RunPlots, public testing::WithParamInterface<PageCase> {};
-
-TEST_P(GraphPage, ShowsItsOwnAndSurvivesARedraw) {
-    const PageCase& page = GetParam();
-    Zolv.Select_Graphs.SetText(texts.GraphNames[page.row]);
-    for (const bool redrawn : {false, true}) {
-        if (redrawn) DrawGearingPlots();
-        EXPECT_EQ(Zolv.SpeedPlot.Visible(), page.speedAndTorque) << redrawn;
-        EXPECT_EQ(Zolv.TractiveEffortPlot.Visible(), page.run) << redrawn;
-        EXPECT_EQ(Zolv.SpeedTimeGraph.Visible(), page.run) << redrawn;
-        EXPECT_EQ(Zolv.AccelerationData.Visible(), page.table) << redrawn;
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, GraphPage,
-                         testing::Values(PageCase{"SpeedAndTorque", 0, true, false, false},
-                                         PageCase{"Run", 1, false, true, false},
-                                         PageCase{"Table", 2, false, false, true}),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
 }  // namespace zolv

@@ -29,13 +29,6 @@ TEST_F(SpeedPlot, GridRunsToTheFirstLineBeyondTheFrame) {
                                    "line 200,-626.538 4540,-626.538 black 1"));
 }
 
-TEST_F(SpeedPlot, GridWithoutStepsEnds) {
-    options.SpeedPlotXScale = options.SpeedPlotYScale = 0;
-    DrawGearingPlots();
-    const Canvas& plot = Zolv.SpeedPlot.Drawing();
-    EXPECT_EQ(Drawn(plot).size() - DrawnBesideGrid(plot).size(), 2U * 101);
-}
-
 TEST_F(SpeedPlot, MarksAndRaysOfTheGearsThatTheCarHas) {
     options.TorqueLineOn = true;
     options.RedlineOn = true;
@@ -108,32 +101,21 @@ TEST_F(TorquePlot, EngineStandsInFrontInBlueAndWiderUnlessItsFitFailed) {
     for (const std::string& line : DrawnBesideGrid(plot)) EXPECT_NE(line.find(" red "), std::string::npos) << line;
 }
 
-struct ExtentCase {
-    const char* name;
-    bool engineOn;
-    float topRatio, finalDrive;
-    double rpm;  // at the right end of the frame
-};
-void PrintTo(const ExtentCase& row, std::ostream* out) { *out << row.name; }
-
-class TorquePlotExtent : public HandMadeCar, public testing::WithParamInterface<ExtentCase> {};
-
-TEST_P(TorquePlotExtent, IsThatOfTheFasterShaft) {
-    options.EngineTorqueOn = GetParam().engineOn;
-    gearing.GearRatio[0][2] = GetParam().topRatio;
-    gearing.FinalDrive[0] = GetParam().finalDrive;
-    DrawGearingPlots();
-    EXPECT_NEAR(4540 / Zolv.TorquePlot.Drawing().PresentAxes().x.scale, GetParam().rpm, 1e-6);
-}
-
 // By hand from 5000 * 1.3 = 6500 rpm of the engine.
-INSTANTIATE_TEST_SUITE_P(ByHand, TorquePlotExtent,
-                         testing::Values(ExtentCase{"WheelsAloneSlower", false, 1, 4, 1625},
-                                         ExtentCase{"WheelsAloneFaster", false, 0.5F, 1, 13000},
-                                         ExtentCase{"EngineFaster", true, 1, 4, 6500},
-                                         ExtentCase{"WheelsFaster", true, 0.5F, 1, 13000},
-                                         ExtentCase{"BothAlike", true, 0.5F, 2, 6500}),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_F(TorquePlot, ExtentIsThatOfTheFasterShaft) {
+    struct {
+        bool engineOn;
+        float topRatio, finalDrive;
+        double rpm;  // at the right end of the frame
+    } const kCases[] = {{false, 1, 4, 1625}, {false, 0.5F, 1, 13000}, {true, 1, 4, 6500}, {true, 0.5F, 1, 13000}};
+    for (const auto& row : kCases) {
+        options.EngineTorqueOn = row.engineOn;
+        gearing.GearRatio[0][2] = row.topRatio;
+        gearing.FinalDrive[0] = row.finalDrive;
+        DrawGearingPlots();
+        EXPECT_NEAR(4540 / Zolv.TorquePlot.Drawing().PresentAxes().x.scale, row.rpm, 1e-6);
+    }
+}
 
 TEST_F(TorquePlot, StepIsInTheUnitShown) {
     SelectUnit(units, 9, 1);  // kgfm: 1 / 9.80665 of a newton metre

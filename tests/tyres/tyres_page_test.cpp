@@ -24,7 +24,6 @@ TEST_F(TyresPage, ShowsTheTyreThatIsAnalysed) {
         const char *car, *tyre, *blown, *shown;
     };
     constexpr Case kCases[] = {
-        {"Mote 900", "FrontTyreAnal", "off", "160 mm|81 mm|232 mm|4 mm|229 mm / 1437 mm|76 mm|1.97 : 1|8.34 Hz|"},
         {"Mote 900", "FrontTyreAnal", "on", "160 mm|185 mm|232 mm|19 mm|213 mm / 1339 mm|61 mm|0.87 : 1|3.6 Hz|"},
         {"Series Lo", "RearTyreAnal", "off", "390 mm|113 mm|321 mm|5 mm|316 mm / 1986 mm|151 mm|3.46 : 1|8.46 Hz|"},
     };

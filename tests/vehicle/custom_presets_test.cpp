@@ -216,16 +216,6 @@ TEST_F(CustomPresetsTest, PellSTakesItsRearTyreFromTheFront) {
     EXPECT_THAT(std::vector<float>(stored.begin() + 14, stored.begin() + 17), ElementsAre(195, 0.45F, 17));
 }
 
-TEST_F(CustomPresetsTest, NamesOfAnyScriptStandUntrimmed) {
-    const std::string name = " \u8D5B\u8F66 \u0413\u043E\u043D\u043A\u0430 caf\u00E9 1234567890 abcde\u00DF";
-    Add(name, "Corvane");  // 32 characters: the box takes them all
-    EXPECT_EQ(vehicle.CustomName[0], name);
-
-    CustomPresets.NewName.Enter(name.substr(1));
-    AddPreset();
-    EXPECT_EQ(TakeMessage(), "Added custom preset: " + name.substr(1)) << "a name with a blank in front is another";
-}
-
 TEST_F(CustomPresetsTest, DrivetrainIsTakenByTheWordsInForce) {
     CustomPresets.NewName.Enter("Mine");
     CustomPresets.NewCar.SetText("Corvane");

@@ -137,10 +137,11 @@ def save(display, window, path):
 
 
 def reach_third_gear(display):
-    """From the list of cars: tabs of the pages, Right to Gearing, the directions, then box and slider of each gear."""
+    """From the list of cars: tabs of the pages, Right to Gearing, the direction, the tyre type, then box and slider of
+    each gear."""
     display.do("key", "Tab")
     display.do("key", "Right")
-    for _ in range(1 + 2 * 2 + 1):
+    for _ in range(2 + 2 * 2 + 1):
         display.do("key", "Tab")
 
 

@@ -137,12 +137,10 @@ def save(display, window, path):
 
 
 def reach_third_gear(display):
-    """From the list of cars: tabs of the pages, Right to Gearing, the direction, the tyre type, then box and slider of
-    each gear."""
-    display.do("key", "Tab")
-    display.do("key", "Right")
-    for _ in range(2 + 2 * 2 + 1):
-        display.do("key", "Tab")
+    """From the list of cars: tabs of the pages, Right to Gearing, the directions, the tyres, box and slider of two
+    gears, and the box of the third."""
+    display.do("key", "Tab", "Right")
+    display.do("key", *["Tab"] * (1 + 1 + 2 * 2 + 1))
 
 
 def main():

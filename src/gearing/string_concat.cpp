@@ -2,13 +2,10 @@
 
 namespace zolv {
 
-char* StringConcat::Room(std::size_t size) {
-    if (lngUsed_ + size > lngAllocated_) {
-        const std::size_t blocks = (lngUsed_ + size - lngAllocated_) / lngAllocSize_ + 1;
-        lngAllocated_ += blocks * lngAllocSize_;
-        buffer_.resize(lngAllocated_, ' ');
-    }
-    return buffer_.data() + lngUsed_;
+void StringConcat::Grow(std::size_t size) {
+    const std::size_t blocks = (lngUsed_ + size - lngAllocated_) / lngAllocSize_ + 1;
+    lngAllocated_ += blocks * lngAllocSize_;
+    buffer_.resize(lngAllocated_, ' ');
 }
 
 void StringConcat::Add(std::string_view strAddString) {

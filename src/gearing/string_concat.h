@@ -16,7 +16,10 @@ public:
 
     /// Room for `size` characters behind what is used, for a writer that knows its length only afterwards; Use then
     /// takes up to there.
-    char* Room(std::size_t size);
+    char* Room(std::size_t size) {
+        if (lngUsed_ + size > lngAllocated_) Grow(size);
+        return buffer_.data() + lngUsed_;
+    }
     void Use(const char* end) { lngUsed_ = static_cast<std::size_t>(end - buffer_.data()); }
 
     /// What has been added so far.
@@ -28,6 +31,8 @@ public:
     [[nodiscard]] std::string_view View() const { return std::string_view(buffer_).substr(0, lngUsed_); }
 
 private:
+    void Grow(std::size_t size);
+
     std::string buffer_;               // as long as lngAllocated_
     std::size_t lngUsed_ = 0;          // characters in use
     std::size_t lngAllocated_ = 0;     // capacity

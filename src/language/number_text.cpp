@@ -1,8 +1,10 @@
 #include "language/number_text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <iterator>
 #include <limits>
 
@@ -74,23 +76,61 @@ Whole Saturated(double value) {
     return static_cast<Whole>(nearest);
 }
 
-/// The digits of `value`, two at a time.
+/// "00" to "99".
+constexpr auto kPairs = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < 100; ++i) {
+        pairs[2 * i] = static_cast<char>('0' + i / 10);
+        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+    }
+    return pairs;
+}();
+
+int CountDigits(std::uint64_t value) {
+    for (int count = 1;; count += 4, value /= 10'000) {
+        if (value < 10) return count;
+        if (value < 100) return count + 1;
+        if (value < 1'000) return count + 2;
+        if (value < 10'000) return count + 3;
+    }
+}
+
+/// The digits of `value`, two at a time from the last.
 char* WriteWhole(char* out, std::uint64_t value) {
-    char digits[20];
-    char* first = digits + sizeof digits;
-    while (value >= 100) {
-        const auto pair = value % 100;
-        value /= 100;
-        *--first = static_cast<char>('0' + pair % 10);
-        *--first = static_cast<char>('0' + pair / 10);
-    }
+    char* const end = out + CountDigits(value);
+    char* at = end;
+    const auto writePair = [&](std::uint64_t pair) {
+        at -= 2;
+        std::memcpy(at, &kPairs[2 * pair], 2);
+    };
+    for (; value >= 100; value /= 100) writePair(value % 100);
     if (value >= 10) {
-        *--first = static_cast<char>('0' + value % 10);
-        value /= 10;
+        writePair(value);
+    } else {
+        *out = static_cast<char>('0' + value);
     }
-    *--first = static_cast<char>('0' + value);
-    while (first != digits + sizeof digits) *out++ = *first++;
-    return out;
+    return end;
+}
+
+/// `value` divided by that power of ten. The usual ones are constants, by which a processor divides much faster.
+std::uint64_t WithoutDecimals(std::uint64_t value, int decimals) {
+    switch (decimals) {
+        case 1: return value / 10;
+        case 2: return value / 100;
+        case 3: return value / 1'000;
+        default: return value / kWholePowersOfTen[decimals];
+    }
+}
+
+/// A point and that many digits of `fraction`, which is above 0, without the zeros at the end.
+char* WriteFraction(char* out, std::uint64_t fraction, int decimals) {
+    *out = '.';
+    for (int place = decimals; place > 0; --place, fraction /= 10) {
+        out[place] = static_cast<char>('0' + fraction % 10);
+    }
+    char* end = out + decimals + 1;
+    while (end[-1] == '0') --end;
+    return end;
 }
 
 /// `value` with that many significant digits at most, written out in full however large or small it is.
@@ -163,16 +203,10 @@ char* WriteRounded(char* out, double value, int decimals) {
     const auto size = static_cast<std::uint64_t>(nearest < 0 ? -nearest : nearest);
     if (decimals == 0) return WriteWhole(out, size);
 
-    const std::uint64_t scale = kWholePowersOfTen[decimals];
-    out = WriteWhole(out, size / scale);
-    std::uint64_t fraction = size % scale;
-    if (fraction == 0) return out;
-    *out++ = '.';
-    for (std::uint64_t place = scale / 10; fraction != 0; place /= 10) {
-        *out++ = static_cast<char>('0' + fraction / place);
-        fraction %= place;
-    }
-    return out;
+    const std::uint64_t whole = WithoutDecimals(size, decimals);
+    const std::uint64_t fraction = size - whole * kWholePowersOfTen[decimals];
+    out = WriteWhole(out, whole);
+    return fraction == 0 ? out : WriteFraction(out, fraction, decimals);
 }
 
 std::string RoundedText(double value, int decimals) {

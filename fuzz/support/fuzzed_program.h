@@ -64,8 +64,8 @@ private:
 void PutFile(const std::string& name, std::string_view content);
 std::string FileContent(const std::string& name);
 
-/// The options of a first start, but without the acceleration run, which takes longer than all the rest; and a list with
-/// English alone.
+/// The options of a first start, but without the acceleration run, which takes longer than all the rest; and a list
+/// with English alone.
 std::map<std::string, std::string> FilesOfStart();
 
 }  // namespace zolv

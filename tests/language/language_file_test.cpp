@@ -61,7 +61,7 @@ std::string TextOf(const Target& target) {
     return {};
 }
 
-TEST_F(LanguageFile, EachLineReachesAllItsTargets) {
+TEST_F(LanguageFile, EachLineReachesAllItsTargetsAndWhatIsBuiltFromIt) {
     LoadText(MadeUp());
     for (const CaptionLine& line : CaptionTable()) {
         for (const Target& target : line.targets) {
@@ -70,10 +70,8 @@ TEST_F(LanguageFile, EachLineReachesAllItsTargets) {
             EXPECT_EQ(TextOf(target), std::string(target.before) + "L" + std::to_string(line.number)) << target.field;
         }
     }
-}
 
-TEST_F(LanguageFile, LinesWithAnAdditionAndTextsBuiltFromLines) {
-    LoadText(MadeUp());
+    // Lines with an addition, and texts that are built from lines.
     EXPECT_EQ(Zolv.AboutZolv.Caption(), "L46\r\nL47\r\n\r\nL48\r\n\r\nL49\r\n\r\nL50\r\n\r\nL51");
     EXPECT_EQ(CustomPresets.Label_Perc[2].Caption(), "% L189");
     EXPECT_EQ(OptionsPanel.SpeedPlotX.Units.Caption(), " m/s");

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -49,12 +48,6 @@ inline std::vector<std::string> DrawnBesideGrid(const Canvas& canvas) {
         return operation.kind == DrawingOperation::Kind::Line && operation.colour == kBlack && operation.width == 1;
     });
     return Drawn(operations);
-}
-
-inline bool AllFinite(const Canvas& canvas) {
-    return std::ranges::all_of(canvas.Operations(), [](const DrawingOperation& operation) {
-        return std::isfinite(operation.x1 + operation.y1 + operation.x2 + operation.y2);
-    });
 }
 
 inline void PrintTo(const LegendEntry& entry, std::ostream* out) {

@@ -117,5 +117,16 @@ TEST_F(TorquePlot, ExtentIsThatOfTheFasterShaft) {
     }
 }
 
+TEST_F(TorquePlot, StepIsInTheUnitShown) {
+    SelectUnit(units, 9, 1);  // kgfm: 1 / 9.80665 of a newton metre
+    options.TorquePlotYScale = 10;
+    DrawGearingPlots();
+    const Canvas& plot = Zolv.TorquePlot.Drawing();
+    EXPECT_NEAR(plot.PresentAxes().y.scale, -6.464286 * 9.80665, 1e-4);
+    EXPECT_EQ(plot.PresentAxes().y.unit, "kgfm");
+    // The curves stay where they are in any unit.
+    EXPECT_EQ(DrawnBesideGrid(plot)[12], "line 1204.038,189.888 1258.606,137.366 black 2");
+}
+
 }  // namespace
 }  // namespace zolv

@@ -71,7 +71,7 @@ int Run(const Car& c, Row* rows) {  // NOLINT(readability-function-size)
             clutch = static_cast<float>(0.5 + (revs / launch) / 2);
             revs = launch;
         }
-        if (revs > c.ShiftRevs[gear] && gear < c.NumGears) {
+        if (gear < c.NumGears && revs > c.ShiftRevs[gear]) {
             ++gear;
             revs = wheel * c.FinalDrive * c.Ratios[gear];
             shifting = true;

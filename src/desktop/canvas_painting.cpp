@@ -64,8 +64,13 @@ std::vector<QPointF> Straightened(std::span<const QPointF> points) {
 class StrokePainter {
 public:
     StrokePainter(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QRect& ground, double scale)
-        : painter_(painter), canvas_(canvas), ground_(ground), scale_(scale), whole_(place.part), cut_(place.part) {
-        map_ = MapOnto(place.part, ground.x(), ground.y(), ground.width(), ground.height());
+        : painter_(painter),
+          canvas_(canvas),
+          ground_(ground),
+          scale_(scale),
+          whole_(place.part),
+          cut_(place.part),
+          map_(MapOnto(place.part, ground.x(), ground.y(), ground.width(), ground.height())) {
         const double reserveX = place.part.Width() * 0.05;  // keeps the ends of cut lines out of sight
         const double reserveY = place.part.Height() * 0.05;
         cut_ = {cut_.left - reserveX, cut_.top - reserveY, cut_.right + reserveX, cut_.bottom + reserveY};

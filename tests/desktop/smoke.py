@@ -33,12 +33,14 @@ class Display:
     def __init__(self, folder):
         self.screen = Path(folder, "Xvfb_screen0")
         reading, writing = os.pipe()
+        # A number that no other run has: two servers that look for a free one at once can take each other's.
+        number = 100 + os.getpid() % 59000
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{SIZE[0]}x{SIZE[1]}x24", "-fbdir", folder,
+            ["Xvfb", f":{number}", "-displayfd", str(writing), "-screen", "0", f"{SIZE[0]}x{SIZE[1]}x24", "-fbdir", folder,
              "-nolisten", "tcp"], pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
-        with os.fdopen(reading) as number:
-            self.name = ":" + number.readline().strip()
+        with os.fdopen(reading) as ready:
+            self.name = ":" + ready.readline().strip()
         if self.name == ":":
             sys.exit("smoke: Xvfb did not start")
 

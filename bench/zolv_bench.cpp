@@ -5,59 +5,25 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "aero/aero_state.h"
 #include "fields/windows.h"
 #include "gearing/acceleration_page.h"
 #include "gearing/acceleration_run.h"
-#include "gearing/acceleration_targets.h"
 #include "gearing/gearing_state.h"
+#include "language/language_file.h"
 #include "language/number_text.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
-#include "tyres/tyre_state.h"
-#include "units/unit_state.h"
-#include "vehicle/vehicle_state.h"
+#include "started_program.h"
 #include "yardstick.h"
 
 namespace zolv {
 namespace {
-
-/// The program in a folder without files, with a set-up whose run fills all 1801 rows: a car that is geared so long
-/// that it still gains speed after 90 seconds.
-void StartProgram() {
-    static const bool once = [] {
-        const auto folder = std::filesystem::temp_directory_path() / "zolv-bench";
-        std::filesystem::create_directories(folder);
-        std::filesystem::current_path(folder);
-        return true;
-    }();
-    static_cast<void>(once);
-    FreshStart();
-    LoadZolv();
-    Zolv.Ratios.FinalDrive.Enter("2");
-}
-
-/// What the program gives its own run.
-AccelerationSetup PresentSetup() {
-    const CarRecord& car = vehicle.CurrentCar;
-    return {.Car = PresentRollingCar(),
-            .Motor = EngineOf(car),
-            .Curve = gearing.Curve,
-            .Efficiency = car.Efficiency,
-            .Wheelbase = car.Wheelbase,
-            .NumGears = car.NumGears,
-            .DrivetrainType = car.DrivetrainType,
-            .TyreMu = tyres.TyreMu,
-            .Ratios = gearing.GearRatio[0],
-            .FinalDrive = gearing.FinalDrive[0],
-            .ShiftRevs = gearing.GearRevs[0],
-            .LongDistance = AccelTargetTable[0].Distances[1]};
-}
 
 yardstick::Car FlatCar(const AccelerationSetup& setup) {
     const AirProfile& air = setup.Car.Air;
@@ -231,6 +197,22 @@ void ChangeOfSpeedUnit(benchmark::State& state) {
     }
 }
 BENCHMARK(ChangeOfSpeedUnit)->Unit(benchmark::kMicrosecond);
+
+/// Between two files with the built-in texts: every caption is written, every list rebuilt, every unit refreshed.
+void ChangeOfLanguage(benchmark::State& state) {
+    StartProgram("languages");
+    for (const char* name : {"language_A.txt", "language_B.txt"}) {
+        if (!WriteBuiltInLanguage(name).empty()) return state.SkipWithError("no language file could be written");
+    }
+    std::ofstream("languages.lst", std::ios::binary) << "Language: 1\r\nA\r\nB\r\n";
+    StartProgram("languages");
+    int language = 0;
+    for (auto _ : state) {
+        language = 1 - language;
+        LanguageSelection.LanguageList.Pick(language);
+    }
+}
+BENCHMARK(ChangeOfLanguage)->Unit(benchmark::kMicrosecond);
 
 void StartUp(benchmark::State& state) {
     StartProgram();

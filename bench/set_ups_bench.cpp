@@ -1,0 +1,98 @@
+// Many set-ups through the model alone, without fields or files: what a search for the best one costs, on one thread
+// and on two.
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <thread>
+#include <vector>
+
+#include "aero/aero_model.h"
+#include "gearing/acceleration_run.h"
+#include "gearing/engine_curve.h"
+#include "gearing/gear_speeds.h"
+#include "gearing/gearing_state.h"
+#include "gearing/ratio_search.h"
+#include "gearing/shift_points.h"
+#include "started_program.h"
+#include "vehicle/vehicle_state.h"
+
+namespace zolv {
+namespace {
+
+constexpr std::size_t kSetUps = 10'000;
+
+/// What all set-ups share.
+struct Base {
+    AccelerationSetup setup;
+    ShiftRules rules;
+};
+
+/// Gears that differ from one set-up to the next, all in falling order.
+ByGear RatiosOf(const Base& base, std::size_t number) {
+    ByGear ratios = base.setup.Ratios;
+    for (std::size_t gear = 1; gear <= kGears; ++gear) {
+        const auto part = static_cast<double>((number * (gear + 2)) % 101) / 101;
+        ratios[gear] = static_cast<float>(ratios[gear] * (1 + 0.02 * part));
+    }
+    return ratios;
+}
+
+/// Engine, shift points and speeds of the gears; from the speeds back to the ratios; top speed; the run.
+double EndSpeedOf(const Base& base, std::size_t number, std::vector<AccelRow>& rows) {
+    AccelerationSetup setup = base.setup;
+    setup.Curve = FittedCurve(setup.Motor);
+    const ByGear ratios = RatiosOf(base, number);
+    const ByGear revs = ShiftPoints(base.rules, ratios);
+    ByGear speeds{};
+    ByGear factors{};
+    for (std::size_t gear = 1; gear <= kGears; ++gear) {
+        const SettledGear settled = SettleGear(setup.Car, revs[gear], ratios[gear], setup.FinalDrive, kForwardRounds);
+        speeds[gear] = settled.Speed;
+        factors[gear] = settled.SpeedFactor;
+    }
+    const FoundRatios found = SearchRatios(base.rules, speeds, factors, static_cast<float>(setup.FinalDrive));
+    setup.Ratios = found.Ratios;
+    setup.ShiftRevs = found.Revs;
+    setup.FinalDrive = found.FinalDrive;
+    const TopSpeedResult top = TopSpeedOf(setup.Car.Air, setup.Motor.Power * setup.Efficiency);
+    const AccelerationResult run = Accelerate(setup, std::span<AccelRow, kAccelRows>(rows));
+    return run.Speed + static_cast<double>(top.speed);
+}
+
+std::vector<double> EndSpeeds(const Base& base, std::size_t threads) {
+    std::vector<double> speeds(kSetUps);
+    std::vector<std::thread> workers;
+    for (std::size_t worker = 0; worker < threads; ++worker) {
+        workers.emplace_back([&, worker] {
+            std::vector<AccelRow> rows(kAccelRows);
+            const std::size_t end = kSetUps * (worker + 1) / threads;
+            for (std::size_t i = kSetUps * worker / threads; i < end; ++i) speeds[i] = EndSpeedOf(base, i, rows);
+        });
+    }
+    for (std::thread& worker : workers) worker.join();
+    return speeds;
+}
+
+void TenThousandSetUps(benchmark::State& state) {
+    StartProgram();
+    const Base base{PresentSetup(), PresentShiftRules()};
+    static const std::vector<double> kExpected = EndSpeeds(base, 1);
+    for (auto _ : state) {
+        if (EndSpeeds(base, static_cast<std::size_t>(state.range(0))) != kExpected) {
+            state.SkipWithError("two threads give other speeds than one");
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kSetUps));
+}
+BENCHMARK(TenThousandSetUps)
+    ->ArgName("threads")
+    ->Arg(1)
+    ->Arg(2)
+    ->Iterations(1)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace zolv

@@ -51,14 +51,6 @@ TEST(AeroModel, WhatACarLacksAddsNothing) {
     }
 }
 
-TEST(AeroModel, AtStandstillOnlyRollingResistanceIsLeft) {
-    const AirForces forces = ForcesAt(0, WingedCar());
-    EXPECT_EQ(forces.TotalDrag, 0);
-    EXPECT_EQ(forces.TotalLift, 0);
-    EXPECT_DOUBLE_EQ(forces.TotalFriction, 0.009999999776482582 * 9806.65);
-    EXPECT_DOUBLE_EQ(AxleLoadsAt(0, WingedCar()).front, 9806.65 * 0.4);
-}
-
 // By hand: 0.5 * 1.2 * 10^2 = 60 Pa. The lift of the body has no area in it.
 TEST(AeroModel, ForcesAreThoseOfTheDynamicPressure) {
     AirProfile car = WingedCar();

@@ -181,9 +181,10 @@ TEST_F(SettingsFile, ThatIsNoneIsReportedOnceAndChangesNothing) {
 }
 
 TEST_F(SettingsFile, OfAnUnknownCarIsRefusedAndCloses) {
+    int refreshed = 0;
     for (const char* car : {"Nobody", "series lo"}) {
         Open("good.zolv", kOtherFile);
-        int refreshed = 0;
+        refreshed = 0;
         files.SettingsOpened = [&] { ++refreshed; };
         Open("bad.zolv", Replaced(kStartFile, "Pell S", car));
         ExpectMessage("That car is not supported by Tarmaq Zolv.\r\nTry adding it from the Custom Presets panel.");

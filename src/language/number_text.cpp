@@ -155,7 +155,8 @@ std::string DecimalText(double value, int significant) {
     } else if (place < count - 1) {
         digits.insert(static_cast<std::size_t>(place) + 1, 1, '.');
     } else {
-        digits.append(static_cast<std::size_t>(place - count + 1), '0');
+        const int zeros = place - count + 1;
+        digits.append(static_cast<std::size_t>(zeros), '0');
     }
     return value < 0 ? '-' + digits : digits;
 }

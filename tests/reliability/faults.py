@@ -557,16 +557,20 @@ def big_lines(reader):
             yield b"\r\n".join([*lines[:i], lines[i] + b"9" * size, *lines[i + 1:]])
 
 
-def odd_places(path, user):
-    """What else can be under a file's name; a session as `user` sees it."""
+def odd_places(path):
+    """What else can be under a file's name."""
     yield "missing", lambda: None
     yield "a folder in its place", path.mkdir
     yield "a pipe in its place", lambda: os.mkfifo(path)
     yield "a link to a device without an end", lambda: path.symlink_to("/dev/zero")
     yield "a link in a circle", lambda: path.symlink_to(path)
     yield "a dangling link", lambda: path.symlink_to("gone")
-    if user or not ROOT:
-        yield "without permission to read", lambda: (path.touch(), path.write_bytes(b"x"), path.chmod(0))
+
+
+def unreadable_places(path):
+    """The same, for whoever is not root."""
+    yield from odd_places(path)
+    yield "without permission to read", lambda: (path.write_bytes(b"x"), path.chmod(0))
 
 
 def remove(path):
@@ -607,7 +611,7 @@ def damaged_files():
             expect(read_once(session, reader, "a file of 16 GiB"), "a file of 16 GiB", reader.name, "taken")
             expect(session.peak() < MOST_MEMORY, "memory", reader.name, f"{session.peak()} bytes")
 
-            for fault, make in odd_places(reader.file, user):
+            for fault, make in unreadable_places(reader.file):
                 remove(reader.file)
                 make()
                 if user and reader.file.is_file() and not reader.file.is_symlink():
@@ -661,7 +665,7 @@ def damaged_at_start():
                 start(cwd, "a line up to the longest file, or of 4 MiB", what)
             os.truncate(path, 1 << 34)
             start(cwd, "a file of 16 GiB", what)
-            for fault, make in odd_places(path, user):
+            for fault, make in unreadable_places(path):
                 remove(path)
                 make()
                 if user and path.is_file() and not path.is_symlink():
@@ -679,7 +683,7 @@ def pictures():
         give_to(user, cwd)
         session = Session(cwd, user)
         see = ["set Select_Car Wisp 4", "get Info_CarPic"]
-        for fault, make in [*odd_places(path, None), ("empty", path.touch)]:
+        for fault, make in [*odd_places(path), ("empty", path.touch)]:
             remove(path)
             make()
             if expect(session.ask(see) == f"Info_CarPic = {unknown}\n", fault, "car picture", "another picture"):

@@ -60,6 +60,7 @@ TEST(NumberText, HasUpTo15DigitsOfDoublesAnd7OfSingles) {
     EXPECT_EQ(NumberText(-0.00004), "-0.00004");
     EXPECT_EQ(NumberText(1.5e16), "15000000000000000");
     EXPECT_EQ(NumberText(1e300), '1' + std::string(300, '0'));
+    EXPECT_EQ(RoundedText(1e300, 9), '1' + std::string(300, '0'));  // 1e309 is beyond a double
 }
 
 TEST(NumberText, OfNoNumberIsNotAvailable) {

@@ -12,7 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 /// In a folder of its own, which is the current directory.
 class TextFiles : public testing::Test {

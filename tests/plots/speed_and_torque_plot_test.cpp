@@ -74,8 +74,8 @@ TEST_F(TorquePlot, CurvesOfTheGears) {
     DrawGearingPlots();
     const std::vector<std::string> drawn = DrawnBesideGrid(Zolv.TorquePlot.Drawing());
     ASSERT_EQ(drawn.size(), 64U);
-    const std::string first = drawn.front();
-    const std::string last = drawn.back();
+    const std::string& first = drawn.front();
+    const std::string& last = drawn.back();
     EXPECT_TRUE(first.starts_with("line 549.231,1098.929 ")) << first;  // gear 1: half as far, twice as high
     EXPECT_TRUE(first.ends_with(" black 2")) << first;
     EXPECT_TRUE(last.ends_with(" 4390.769,1810 black 2")) << last;

@@ -1,5 +1,6 @@
 // zolv-screenshots FOLDER [LANGUAGE] [dark]: pictures of every window and page, as PNG files in FOLDER. It starts in
 // the current directory as Zolv does. scripts/screenshots calls it for each theme, language and display scale.
+// zolv-screenshots FOLDER --documents EXAMPLES: the pictures of the manual, of set-ups in the folder EXAMPLES.
 
 #include <QApplication>
 #include <QPalette>
@@ -11,6 +12,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "fields/windows.h"
+#include "files/settings_file.h"
 #include "platform/dialogs.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
@@ -85,6 +87,40 @@ std::vector<Shot> WindowShots() {
     };
 }
 
+/// What the manual shows: two set-ups that a driver would use, in units that he would choose.
+std::vector<Shot> DocumentShots(const std::string& examples) {
+    const auto unit = [](int quantity, int row) {
+        OptionsPanel.Units[static_cast<std::size_t>(quantity)].Select.Pick(row);
+    };
+    return {
+        {"info", Zolv,
+         [=] {
+             OpenSettingsFile(examples + "/sable_t_road.zolv");
+             unit(0, 1);  // km/h
+         }},
+        {"gearing", Zolv, [] { Zolv.Select_Page.Pick(1); }},
+        {"tyres", Zolv,
+         [=] {
+             Zolv.Select_Page.Pick(2);
+             unit(1, 2);  // mm
+             unit(2, 1);  // cm^2
+         }},
+        {"aerodynamics", Zolv,
+         [=] {
+             unit(1, 0);
+             unit(2, 0);
+             OpenSettingsFile(examples + "/series_lo_high_downforce.zolv");
+             Zolv.Select_Page.Pick(3);
+         }},
+        {"options", OptionsPanel, [] { OptionsPanel.SetVisible(true); }},
+        {"presets", CustomPresets,
+         [] {
+             CustomPresets.SetVisible(true);
+             CustomPresets.NewCar.SetText("Ondo T");
+         }},
+    };
+}
+
 QWidget* WidgetOf(const Window& window) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget->objectName() == ToQt(window.Name())) return widget;
@@ -118,8 +154,9 @@ int TakeAll(const QStringList& arguments) {
     FreshStart();
     Desktop desktop;
     LoadZolv();
+    const bool documents = arguments.value(2) == QStringLiteral("--documents");
     const auto choose = [&] { LanguageSelection.LanguageList.SetText(FromQt(arguments.value(2))); };
-    if (arguments.size() > 2) desktop.TheBinding().Act(choose);
+    if (arguments.size() > 2 && !documents) desktop.TheBinding().Act(choose);
     desktop.Open();
     desktop.TheBinding().Act([] {
         LanguageSelection.SetVisible(false);
@@ -127,6 +164,7 @@ int TakeAll(const QStringList& arguments) {
     });
     Camera camera(desktop, arguments.at(1));
     desktop.Main().resize(1280, 780);
+    if (documents) return camera.Take(DocumentShots(FromQt(arguments.value(3)))) ? 0 : 1;
     if (!camera.Take(PageShots()) || !camera.Take(WindowShots())) return 1;
 
     desktop.TheBinding().Act([] { Zolv.Select_Car.SetText("Pell S"); });
@@ -141,7 +179,8 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2) {
-        std::cerr << "usage: zolv-screenshots FOLDER [LANGUAGE] [dark]\n";
+        std::cerr << "usage: zolv-screenshots FOLDER [LANGUAGE] [dark]\n"
+                     "       zolv-screenshots FOLDER --documents EXAMPLES\n";
         return 2;
     }
     if (arguments.contains(QStringLiteral("dark"))) QApplication::setPalette(QPalette(QColor(40, 40, 40)));

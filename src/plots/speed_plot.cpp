@@ -54,9 +54,11 @@ void DrawSpeedPlot() {
     DrawMarks(plot, frame);
 
     plot.SetLineWidth(3);
-    const auto drawGear = options.AltGraphStyle.value_or(false) ? DrawSawTooth : DrawRay;
+    const bool sawTooth = options.AltGraphStyle.value_or(false);
     DrawRay(plot, frame, mode, 1);
-    for (std::size_t gear = 2; gear <= top; ++gear) drawGear(plot, frame, mode, gear);
+    for (std::size_t gear = 2; gear <= top; ++gear) (sawTooth ? DrawSawTooth : DrawRay)(plot, frame, mode, gear);
+    if (sawTooth) return;  // one line through all gears, which has no name
+    for (std::size_t gear = 1; gear <= top; ++gear) plot.AddLegend(texts.GearNames[gear], kBlack);
 }
 
 }  // namespace zolv

@@ -138,7 +138,7 @@ BENCHMARK(StartToFirstPaintedWindow)->Unit(benchmark::kMillisecond)->UseRealTime
 int main(int argc, char** argv) {
     if (std::getenv("QT_QPA_PLATFORM") == nullptr) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    zolv::ApplyTheme(application);
+    zolv::ApplyTheme();
     if (!QDir::setCurrent(QStringLiteral(ZOLV_DATA))) return 1;
     if (argc > 1 && std::strcmp(argv[1], zolv::kStartOnly) == 0) {
         zolv::StartProgram();

@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("zolv"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zolv"), QIcon(QStringLiteral("zolv.png"))));
     QApplication::setQuitOnLastWindowClosed(false);  // on a first run the main window waits behind the languages
-    zolv::ApplyTheme(application);
+    zolv::ApplyTheme();
 
     zolv::WindowDialogs dialogs;
     zolv::UseDialogs(&dialogs);

@@ -45,10 +45,10 @@ QPalette PaletteOf(const Colours& colours) {
 
 bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
 
-void ApplyTheme(QApplication& application) {
-    const bool dark = IsDark(application.palette());
-    application.setStyle(new ZolvStyle);
-    application.setPalette(PaletteOf(dark ? kDark : kLight));
+void ApplyTheme() {
+    const bool dark = IsDark(QApplication::palette());
+    QApplication::setStyle(new ZolvStyle);
+    QApplication::setPalette(PaletteOf(dark ? kDark : kLight));
 }
 
 QColor TextColour(std::optional<Rgb> colour, const QPalette& palette) {

@@ -6,8 +6,6 @@
 
 #include "platform/colour.h"
 
-class QApplication;
-
 namespace zolv {
 
 /// Spacing of every layout: one grid.
@@ -15,8 +13,8 @@ inline constexpr int kGap = 8;       // between rows and columns
 inline constexpr int kMargin = 12;   // around a page or inside a frame
 inline constexpr int kSection = 16;  // between groups
 
-/// Sets the style and the light or dark colours, whichever the system has at start.
-void ApplyTheme(QApplication& application);
+/// Sets the style and the light or dark colours, whichever the system has at start. A QApplication must exist.
+void ApplyTheme();
 
 /// Whether `palette` is a dark one.
 bool IsDark(const QPalette& palette);

@@ -47,7 +47,7 @@ public:
         for (int i = 0; i < Count; ++i) fields_.emplace_back(owner, NameOf(name, i));
     }
 
-    static constexpr int Size() { return Count; }
+    int Size() const { return Count; }
 
     Kind& operator[](int i) {
         assert(i >= 0 && i < Count);

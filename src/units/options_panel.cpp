@@ -35,7 +35,7 @@ const std::array<PlotFlag, 6>& PlotFlags() { return kPlotFlags; }
 const std::array<PlotScale, 8>& PlotScales() { return kPlotScales; }
 
 bool PlotFlag::On() const {
-    return std::visit([](auto member) { return options.*member == true; }, flag);
+    return std::visit([](auto member) { return std::optional<bool>(options.*member).value_or(false); }, flag);
 }
 
 void SwitchPlotFlag(const PlotFlag& flag) {

@@ -62,7 +62,7 @@ private Q_SLOTS:
     void init() { Start(); }
     void cleanup();
 
-private:
+private:  // NOLINT(readability-redundant-access-specifiers): ends the slots
     QString before_;
     std::unique_ptr<QTemporaryDir> folder_;
     ScriptedDialogs dialogs_;

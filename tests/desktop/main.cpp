@@ -28,7 +28,7 @@ bool HasWantedLocale() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    zolv::ApplyTheme(application);
+    zolv::ApplyTheme();
     if (!HasWantedLocale()) return 1;
 
     QStringList suites = QApplication::arguments().mid(1);

@@ -184,6 +184,6 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (arguments.contains(QStringLiteral("dark"))) QApplication::setPalette(QPalette(QColor(40, 40, 40)));
-    zolv::ApplyTheme(application);
+    zolv::ApplyTheme();
     return zolv::TakeAll(arguments);
 }

@@ -131,7 +131,7 @@ void Words::UnitOfSpeedReachesAllLabels() {
     int followed = 0;
     for (const auto& [name, text] : before) {
         if (!text.endsWith(metric)) continue;
-        const QString other = now.at(name);
+        const QString& other = now.at(name);
         QVERIFY2(other.endsWith(suffix.trimmed()), qPrintable(name + u' ' + other));
         bool isNumber = false;
         const double number = text.chopped(metric.size()).remove(QLatin1String("@ ")).toDouble(&isNumber);

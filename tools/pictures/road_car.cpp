@@ -39,7 +39,7 @@ public:
         PaintWheels();
         if (style_.cycleWings) PaintCycleWing();
         if (size_.rearWing > 0) PaintWing();
-        if (style_.frontDoor.size() > 0) PaintMirror();
+        if (!style_.frontDoor.empty()) PaintMirror();
     }
 
 private:

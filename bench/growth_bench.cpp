@@ -21,7 +21,7 @@ namespace {
 
 /// A run of some `rows` rows: one that may end anywhere, of a car whose air resistance is raised until it does.
 AccelerationSetup SetupOf(int rows) {
-    AccelerationSetup setup = PresentSetup();
+    AccelerationSetup setup = PresentAccelerationSetup();
     setup.LongDistance = 0;
     std::vector<AccelRow> room(kAccelRows);
     while (Accelerate(setup, std::span<AccelRow, kAccelRows>(room)).LastRow >= rows) setup.Car.Air.Cd *= 1.02;

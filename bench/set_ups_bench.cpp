@@ -76,7 +76,7 @@ std::vector<double> EndSpeeds(const Base& base, std::size_t threads) {
 
 void TenThousandSetUps(benchmark::State& state) {
     StartProgram();
-    const Base base{PresentSetup(), PresentShiftRules()};
+    const Base base{PresentAccelerationSetup(), PresentShiftRules()};
     static const std::vector<double> kExpected = EndSpeeds(base, 1);
     for (auto _ : state) {
         if (EndSpeeds(base, static_cast<std::size_t>(state.range(0))) != kExpected) {

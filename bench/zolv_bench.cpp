@@ -88,7 +88,7 @@ std::vector<char> flatText(kTableRoom);
 
 /// The program and the yardstick give the same rows and the same text, to the last character.
 void CompareYardstick() {
-    const int last = yardstick::Run(FlatCar(PresentSetup()), flatRows.data());
+    const int last = yardstick::Run(FlatCar(PresentAccelerationSetup()), flatRows.data());
     Expect(last == gearing.AccelLastRow && last == kAccelRows - 1, "number of rows");
     for (std::size_t row = 0; row < kAccelRows; ++row) {
         for (std::size_t column = 0; column < kAccelColumns; ++column) {
@@ -130,7 +130,7 @@ BENCHMARK(NumberFromText);
 void RunYardstick(benchmark::State& state) {
     StartProgram();
     CompareYardstick();
-    const yardstick::Car car = FlatCar(PresentSetup());
+    const yardstick::Car car = FlatCar(PresentAccelerationSetup());
     for (auto _ : state) {
         benchmark::DoNotOptimize(yardstick::Run(car, flatRows.data()));
         benchmark::ClobberMemory();
@@ -140,7 +140,7 @@ BENCHMARK(RunYardstick)->Unit(benchmark::kMicrosecond);
 
 void Run(benchmark::State& state) {
     StartProgram();
-    const AccelerationSetup setup = PresentSetup();
+    const AccelerationSetup setup = PresentAccelerationSetup();
     for (auto _ : state) {
         benchmark::DoNotOptimize(Accelerate(setup, gearing.AccelRows));
         benchmark::ClobberMemory();
@@ -151,7 +151,7 @@ BENCHMARK(Run)->Unit(benchmark::kMicrosecond);
 void RunAndTableYardstick(benchmark::State& state) {
     StartProgram();
     CompareYardstick();
-    const yardstick::Car car = FlatCar(PresentSetup());
+    const yardstick::Car car = FlatCar(PresentAccelerationSetup());
     for (auto _ : state) {
         const int last = yardstick::Run(car, flatRows.data());
         benchmark::DoNotOptimize(yardstick::WriteTable(flatRows.data(), last, FlatColumns(), flatText.data()));

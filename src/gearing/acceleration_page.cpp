@@ -14,31 +14,12 @@
 #include "gearing/string_concat.h"
 #include "language/number_text.h"
 #include "language/texts.h"
-#include "tyres/tyre_state.h"
 #include "units/unit_state.h"
-#include "vehicle/vehicle_state.h"
 
 namespace zolv {
 namespace {
 
 const AccelTargets& PresentTargets() { return AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)]; }
-
-AccelerationSetup PresentSetup() {
-    const auto mode = static_cast<std::size_t>(gearing.Mode());
-    const CarRecord& car = vehicle.CurrentCar;
-    return {.Car = PresentRollingCar(),
-            .Motor = EngineOf(car),
-            .Curve = gearing.Curve,
-            .Efficiency = car.Efficiency,
-            .Wheelbase = car.Wheelbase,
-            .NumGears = car.NumGears,
-            .DrivetrainType = car.DrivetrainType,
-            .TyreMu = tyres.TyreMu,
-            .Ratios = gearing.GearRatio[mode],
-            .FinalDrive = gearing.FinalDrive[mode],
-            .ShiftRevs = gearing.GearRevs[mode],
-            .LongDistance = PresentTargets().Distances[1]};
-}
 
 /// How one column of the table is written.
 struct ColumnText {
@@ -153,7 +134,7 @@ void ShowFigures(const AccelResults& results, double endSpeed) {
 }  // namespace
 
 void RunAcceleration() {
-    const AccelerationResult run = Accelerate(PresentSetup(), gearing.AccelRows);
+    const AccelerationResult run = Accelerate(PresentAccelerationSetup(), gearing.AccelRows);
     gearing.AccelLastRow = static_cast<std::int16_t>(run.LastRow);
     aero.FrontWheelForce = run.FrontLoad;
     aero.RearWheelForce = run.RearLoad;

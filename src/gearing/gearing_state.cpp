@@ -1,8 +1,10 @@
 #include "gearing/gearing_state.h"
 
 #include "aero/aero_state.h"
+#include "gearing/acceleration_targets.h"
 #include "tyres/tyre_state.h"
 #include "units/option_state.h"
+#include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
@@ -28,6 +30,23 @@ ShiftRules PresentShiftRules() {
             .CustomRevs = static_cast<double>(options.CustomRevs),
             .RevLimitOn = options.RevLimitOn,
             .RevsMaxMode = options.RevsMaxMode};
+}
+
+AccelerationSetup PresentAccelerationSetup() {
+    const auto mode = static_cast<std::size_t>(gearing.Mode());
+    const CarRecord& car = vehicle.CurrentCar;
+    return {.Car = PresentRollingCar(),
+            .Motor = EngineOf(car),
+            .Curve = gearing.Curve,
+            .Efficiency = car.Efficiency,
+            .Wheelbase = car.Wheelbase,
+            .NumGears = car.NumGears,
+            .DrivetrainType = car.DrivetrainType,
+            .TyreMu = tyres.TyreMu,
+            .Ratios = gearing.GearRatio[mode],
+            .FinalDrive = gearing.FinalDrive[mode],
+            .ShiftRevs = gearing.GearRevs[mode],
+            .LongDistance = AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)].Distances[1]};
 }
 
 }  // namespace zolv

@@ -44,4 +44,7 @@ extern GearingState gearing;
 [[nodiscard]] RollingCar PresentRollingCar();
 [[nodiscard]] ShiftRules PresentShiftRules();
 
+/// The car with the gearbox of the page that is the input, ready to start.
+[[nodiscard]] AccelerationSetup PresentAccelerationSetup();
+
 }  // namespace zolv

@@ -107,7 +107,6 @@ public:
     /// The fields that changed since this was last asked, each once. The front end asks after each user event and
     /// repaints just those.
     std::vector<Field*> TakeChanged() { return std::exchange(changedFields_, ForgetChanged()); }
-    bool HasChanged() const { return !changedFields_.empty(); }
 
     /// Opens the window, or brings it to the front where it is open already.
     void Show() {

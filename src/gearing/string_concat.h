@@ -28,7 +28,6 @@ public:
         buffer_.resize(lngUsed_);
         return std::move(buffer_);
     }
-    [[nodiscard]] std::string_view View() const { return std::string_view(buffer_).substr(0, lngUsed_); }
 
 private:
     void Grow(std::size_t size);

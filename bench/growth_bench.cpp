@@ -6,12 +6,12 @@
 #include <cstddef>
 #include <vector>
 
+#include "drawing/canvas.h"
+#include "drawing/svg.h"
 #include "fields/windows.h"
 #include "gearing/acceleration_page.h"
-#include "gearing/acceleration_run.h"
 #include "gearing/gearing_state.h"
-#include "plots/canvas.h"
-#include "plots/svg.h"
+#include "model/acceleration_run.h"
 #include "started_program.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"

@@ -7,13 +7,13 @@
 #include <thread>
 #include <vector>
 
-#include "aero/aero_model.h"
-#include "gearing/acceleration_run.h"
-#include "gearing/engine_curve.h"
-#include "gearing/gear_speeds.h"
 #include "gearing/gearing_state.h"
-#include "gearing/ratio_search.h"
-#include "gearing/shift_points.h"
+#include "model/acceleration_run.h"
+#include "model/aero_model.h"
+#include "model/engine_curve.h"
+#include "model/gear_speeds.h"
+#include "model/ratio_search.h"
+#include "model/shift_points.h"
 #include "started_program.h"
 #include "vehicle/vehicle_state.h"
 

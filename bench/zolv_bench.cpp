@@ -13,13 +13,13 @@
 
 #include "fields/windows.h"
 #include "gearing/acceleration_page.h"
-#include "gearing/acceleration_run.h"
 #include "gearing/gearing_state.h"
 #include "language/language_file.h"
-#include "language/number_text.h"
+#include "model/acceleration_run.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
 #include "started_program.h"
+#include "text/number_text.h"
 #include "yardstick.h"
 
 namespace zolv {

@@ -8,8 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "language/number_text.h"
+#include "model/whole_number.h"
 #include "support/expect.h"
+#include "text/number_text.h"
 
 namespace zolv {
 namespace {

@@ -2,9 +2,9 @@
 
 #include "files/options_file.h"
 
-#include "language/texts.h"
 #include "support/expect.h"
 #include "support/fuzzed_program.h"
+#include "text/texts.h"
 
 namespace zolv {
 namespace {

@@ -9,10 +9,11 @@
 
 #include "fields/guards.h"
 #include "files/options_file.h"
-#include "language/number_text.h"
+#include "model/whole_number.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
 #include "support/expect.h"
+#include "text/number_text.h"
 #include "units/options_panel.h"
 
 namespace zolv {

@@ -3,11 +3,12 @@
 #include <cmath>
 #include <string>
 
-#include "aero/aero_model.h"
 #include "aero/aero_state.h"
 #include "fields/guards.h"
 #include "fields/windows.h"
-#include "language/number_text.h"
+#include "model/aero_model.h"
+#include "model/whole_number.h"
+#include "text/number_text.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "aero/aero_model.h"
+#include "model/aero_model.h"
 #include "platform/hook.h"
 
 namespace zolv {

@@ -5,8 +5,9 @@
 
 #include "batch/output.h"
 #include "batch/script_error.h"
-#include "language/number_text.h"
-#include "platform/nearest_name.h"
+#include "model/whole_number.h"
+#include "text/nearest_name.h"
+#include "text/number_text.h"
 
 namespace zolv {
 namespace {

@@ -10,8 +10,8 @@
 #include "fields/windows.h"
 #include "files/file_state.h"
 #include "gearing/gearing_state.h"
-#include "language/number_text.h"
-#include "language/texts.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "units/option_state.h"
 #include "vehicle/vehicle_state.h"
 

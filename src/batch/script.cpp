@@ -9,12 +9,12 @@
 #include "batch/output.h"
 #include "batch/report.h"
 #include "batch/script_error.h"
+#include "drawing/svg.h"
 #include "fields/windows.h"
 #include "language/language_file.h"
-#include "platform/nearest_name.h"
 #include "platform/text_files.h"
-#include "plots/svg.h"
 #include "shell/shell_state.h"
+#include "text/nearest_name.h"
 
 namespace zolv {
 namespace {

@@ -6,9 +6,9 @@
 #include "desktop/canvas_painting.h"
 #include "desktop/plot_marks.h"
 #include "desktop/theme.h"
+#include "drawing/svg.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
-#include "plots/svg.h"
 
 namespace zolv {
 namespace {

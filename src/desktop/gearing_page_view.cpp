@@ -17,7 +17,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
-#include "language/texts.h"
+#include "text/texts.h"
 
 namespace zolv {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "plots/canvas.h"
+#include "drawing/canvas.h"
 
 /// What a view of a canvas works out before it paints: the part shown, where it lands, the numbers along its axes.
 /// View units are the pixels of the layout.

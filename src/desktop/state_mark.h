@@ -5,7 +5,7 @@
 #include <QRectF>
 #include <optional>
 
-#include "platform/colour.h"
+#include "drawing/colour.h"
 
 namespace zolv {
 

@@ -4,7 +4,7 @@
 #include <QPalette>
 #include <optional>
 
-#include "platform/colour.h"
+#include "drawing/colour.h"
 
 namespace zolv {
 

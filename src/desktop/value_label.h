@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/colour.h"
+#include "drawing/colour.h"
 
 namespace zolv {
 

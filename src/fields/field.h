@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/colour.h"
+#include "drawing/colour.h"
 #include "platform/hook.h"
 
 /// Fields: the controls of the windows without a toolkit. A field holds what its control holds and raises the control's

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "drawing/canvas.h"
 #include "fields/field.h"
 #include "platform/hook.h"
-#include "plots/canvas.h"
 
 /// The kinds of fields. Each has two ways in: what a user does (Enter, Drag, Pick, Click, Choose) and what the program
 /// does (the Set... calls); the two differ in which events they raise.

@@ -1,6 +1,6 @@
 #include "fields/windows.h"
 
-#include "platform/nearest_name.h"
+#include "text/nearest_name.h"
 
 namespace zolv {
 

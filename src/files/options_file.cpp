@@ -10,10 +10,11 @@
 #include <vector>
 
 #include "files/file_state.h"
-#include "language/number_text.h"
-#include "language/texts.h"
+#include "model/whole_number.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "units/apply_units.h"
 #include "units/option_state.h"
 #include "units/options_panel.h"

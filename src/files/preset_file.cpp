@@ -10,10 +10,10 @@
 
 #include "fields/windows.h"
 #include "files/file_state.h"
-#include "language/number_text.h"
-#include "language/texts.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "vehicle/custom_presets.h"
 #include "vehicle/preset_figures.h"
 #include "vehicle/preset_state.h"

@@ -9,10 +9,11 @@
 #include "fields/guards.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
-#include "language/number_text.h"
-#include "language/texts.h"
+#include "model/whole_number.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {

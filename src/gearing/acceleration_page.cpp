@@ -8,12 +8,12 @@
 
 #include "aero/aero_state.h"
 #include "fields/windows.h"
-#include "gearing/acceleration_run.h"
-#include "gearing/acceleration_targets.h"
 #include "gearing/gearing_state.h"
 #include "gearing/string_concat.h"
-#include "language/number_text.h"
-#include "language/texts.h"
+#include "model/acceleration_run.h"
+#include "model/acceleration_targets.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "units/unit_state.h"
 
 namespace zolv {

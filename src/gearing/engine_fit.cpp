@@ -1,7 +1,7 @@
 #include "gearing/engine_fit.h"
 
-#include "gearing/engine_curve.h"
 #include "gearing/gearing_state.h"
+#include "model/engine_curve.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {

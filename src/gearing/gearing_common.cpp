@@ -1,8 +1,8 @@
 #include "gearing/gearing_common.h"
 
 #include "fields/windows.h"
-#include "language/number_text.h"
-#include "language/texts.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "tyres/tyre_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"

@@ -5,7 +5,8 @@
 #include "gearing/gearing_state.h"
 #include "gearing/ratios_page.h"
 #include "gearing/speeds_page.h"
-#include "language/number_text.h"
+#include "model/whole_number.h"
+#include "text/number_text.h"
 #include "tyres/tyres_page.h"
 
 namespace zolv {

@@ -1,7 +1,7 @@
 #include "gearing/gearing_state.h"
 
 #include "aero/aero_state.h"
-#include "gearing/acceleration_targets.h"
+#include "model/acceleration_targets.h"
 #include "tyres/tyre_state.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"

@@ -3,10 +3,10 @@
 #include <array>
 #include <cstdint>
 
-#include "gearing/acceleration_run.h"
-#include "gearing/engine_curve.h"
-#include "gearing/gear_speeds.h"
-#include "gearing/shift_points.h"
+#include "model/acceleration_run.h"
+#include "model/engine_curve.h"
+#include "model/gear_speeds.h"
+#include "model/shift_points.h"
 #include "platform/hook.h"
 
 namespace zolv {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "language/texts.h"
+#include "text/texts.h"
 #include "units/unit_state.h"
 
 namespace zolv {

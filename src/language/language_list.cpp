@@ -8,9 +8,10 @@
 
 #include "fields/windows.h"
 #include "language/language_state.h"
-#include "language/number_text.h"
+#include "model/whole_number.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
+#include "text/number_text.h"
 
 namespace zolv {
 namespace {

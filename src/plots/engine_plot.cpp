@@ -1,11 +1,11 @@
 #include "plots/engine_plot.h"
 
 #include "fields/windows.h"
-#include "gearing/engine_curve.h"
 #include "gearing/engine_fit.h"
 #include "gearing/gearing_state.h"
-#include "language/texts.h"
+#include "model/engine_curve.h"
 #include "plots/plot_frame.h"
+#include "text/texts.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
 

@@ -1,10 +1,10 @@
 #include "plots/gearing_plots.h"
 
 #include "fields/windows.h"
-#include "language/texts.h"
 #include "plots/run_plots.h"
 #include "plots/speed_plot.h"
 #include "plots/torque_plot.h"
+#include "text/texts.h"
 #include "units/option_state.h"
 
 namespace zolv {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "gearing/shift_points.h"
+#include "model/shift_points.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "drawing/canvas.h"
 #include "fields/kinds.h"
-#include "plots/canvas.h"
 
 /// What the four plots of the gearing page have in common: frame, grid, and how a pair of data lands on the canvas.
 namespace zolv {

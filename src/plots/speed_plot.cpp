@@ -2,8 +2,8 @@
 
 #include "fields/windows.h"
 #include "gearing/gearing_state.h"
-#include "language/texts.h"
 #include "plots/plot_frame.h"
+#include "text/texts.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"

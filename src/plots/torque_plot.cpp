@@ -3,10 +3,10 @@
 #include <array>
 
 #include "fields/windows.h"
-#include "gearing/engine_curve.h"
 #include "gearing/gearing_state.h"
-#include "language/texts.h"
+#include "model/engine_curve.h"
 #include "plots/plot_frame.h"
+#include "text/texts.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"

@@ -6,14 +6,14 @@
 #include "files/options_file.h"
 #include "language/language_list.h"
 #include "language/language_state.h"
-#include "language/texts.h"
 #include "platform/text_files.h"
-#include "shell/info_page.h"
 #include "shell/shell_state.h"
+#include "text/texts.h"
 #include "tyres/tyres_page.h"
 #include "units/apply_units.h"
 #include "vehicle/car_selection.h"
 #include "vehicle/custom_presets.h"
+#include "vehicle/info_page.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {

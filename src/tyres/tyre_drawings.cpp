@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "fields/windows.h"
+#include "model/tyre_geometry.h"
 #include "tyres/tyre_state.h"
 #include "units/unit_state.h"
-#include "vehicle/tyre_geometry.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {

@@ -3,13 +3,13 @@
 #include "aero/aero_state.h"
 #include "fields/guards.h"
 #include "fields/windows.h"
-#include "language/number_text.h"
-#include "language/texts.h"
+#include "model/tyre_geometry.h"
+#include "model/tyre_model.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "tyres/tyre_drawings.h"
-#include "tyres/tyre_model.h"
 #include "tyres/tyre_state.h"
 #include "units/unit_state.h"
-#include "vehicle/tyre_geometry.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {

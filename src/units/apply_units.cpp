@@ -5,7 +5,7 @@
 
 #include "fields/guards.h"
 #include "fields/windows.h"
-#include "language/number_text.h"
+#include "text/number_text.h"
 #include "units/option_state.h"
 #include "units/options_panel.h"
 #include "units/unit_catalogue.h"

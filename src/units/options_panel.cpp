@@ -1,8 +1,9 @@
 #include "units/options_panel.h"
 
 #include "fields/windows.h"
-#include "language/number_text.h"
-#include "language/texts.h"
+#include "model/whole_number.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 
 namespace zolv {
 namespace {

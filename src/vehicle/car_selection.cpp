@@ -2,8 +2,9 @@
 
 #include "fields/guards.h"
 #include "fields/windows.h"
-#include "language/number_text.h"
-#include "vehicle/tyre_geometry.h"
+#include "model/tyre_geometry.h"
+#include "model/whole_number.h"
+#include "text/number_text.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {

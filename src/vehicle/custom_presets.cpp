@@ -8,9 +8,10 @@
 #include <variant>
 
 #include "fields/windows.h"
-#include "language/number_text.h"
-#include "language/texts.h"
+#include "model/whole_number.h"
 #include "platform/dialogs.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "vehicle/preset_figures.h"
 #include "vehicle/preset_state.h"
 #include "vehicle/vehicle_state.h"

@@ -7,7 +7,7 @@
 #include <variant>
 
 #include "fields/custom_presets_window.h"
-#include "vehicle/car_record.h"
+#include "model/car_record.h"
 #include "vehicle/preset_state.h"
 
 namespace zolv {

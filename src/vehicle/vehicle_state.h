@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string>
 
+#include "model/car_record.h"
+#include "model/catalogue.h"
 #include "platform/hook.h"
-#include "vehicle/car_record.h"
-#include "vehicle/catalogue.h"
 
 namespace zolv {
 

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "batch/batch_run.h"
-#include "language/number_text.h"
+#include "text/number_text.h"
 
 namespace zolv {
 namespace {

@@ -1,8 +1,8 @@
 #include "aero/aero_state.h"
 #include "fields/guards.h"
 #include "gearing/gearing_state.h"
-#include "language/texts.h"
 #include "support/zolv_test.h"
+#include "text/texts.h"
 #include "units/option_state.h"
 
 namespace zolv {

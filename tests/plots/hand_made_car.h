@@ -4,8 +4,8 @@
 
 #include "fields/windows.h"
 #include "gearing/gearing_state.h"
-#include "language/texts.h"
 #include "shell/fresh_start.h"
+#include "text/texts.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"

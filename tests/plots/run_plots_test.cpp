@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "aero/aero_state.h"
-#include "language/texts.h"
 #include "plots/gearing_plots.h"
 #include "plots/hand_made_car.h"
 #include "support/drawn.h"
+#include "text/texts.h"
 #include "units/unit_catalogue.h"
 
 namespace zolv {

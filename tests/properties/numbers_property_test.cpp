@@ -9,8 +9,8 @@
 #include <cstring>
 #include <string>
 
-#include "language/number_text.h"
 #include "properties/random.h"
+#include "text/number_text.h"
 
 namespace zolv {
 namespace {

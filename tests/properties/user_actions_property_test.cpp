@@ -4,10 +4,11 @@
 #include <vector>
 
 #include "fields/guards.h"
-#include "language/number_text.h"
+#include "model/whole_number.h"
 #include "properties/random.h"
 #include "shell/shell_state.h"
 #include "support/zolv_test.h"
+#include "text/number_text.h"
 #include "units/options_panel.h"
 
 namespace zolv {

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "language/number_text.h"
-#include "plots/canvas.h"
+#include "drawing/canvas.h"
+#include "text/number_text.h"
 
 namespace zolv {
 

@@ -1,4 +1,5 @@
 #include "support/zolv_test.h"
+#include "model/whole_number.h"
 
 #include <cctype>
 #include <csignal>
@@ -6,11 +7,11 @@
 #include <fstream>
 #include <iterator>
 
-#include "language/number_text.h"
-#include "language/texts.h"
 #include "platform/text_files.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
+#include "text/number_text.h"
+#include "text/texts.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {

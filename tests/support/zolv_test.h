@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "fields/windows.h"
+#include "model/car_record.h"
 #include "platform/dialogs.h"
-#include "vehicle/car_record.h"
 
 /// What the tests of the whole program share: a program that stands fresh in a folder of its own, with dialogs that
 /// record what they are asked.

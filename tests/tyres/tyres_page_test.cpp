@@ -2,8 +2,8 @@
 
 #include "aero/aero_state.h"
 #include "gearing/gearing_state.h"
-#include "language/number_text.h"
 #include "support/zolv_test.h"
+#include "text/number_text.h"
 #include "tyres/tyre_state.h"
 #include "vehicle/vehicle_state.h"
 

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "fields/windows.h"
-#include "language/texts.h"
 #include "support/zolv_test.h"
+#include "text/texts.h"
 #include "units/option_state.h"
 
 namespace zolv {

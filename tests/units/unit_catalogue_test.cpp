@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "language/number_text.h"
+#include "text/number_text.h"
 #include "units/unit_state.h"
 
 namespace zolv {

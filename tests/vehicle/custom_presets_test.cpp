@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "language/texts.h"
 #include "support/preset_window.h"
+#include "text/texts.h"
 #include "vehicle/preset_state.h"
 #include "vehicle/vehicle_state.h"
 

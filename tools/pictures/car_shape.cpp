@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "vehicle/tyre_geometry.h"
+#include "model/tyre_geometry.h"
 
 namespace zolv::pictures {
 namespace {

@@ -3,7 +3,7 @@
 #include <QPainterPath>
 #include <span>
 
-#include "vehicle/car_record.h"
+#include "model/car_record.h"
 
 namespace zolv::pictures {
 

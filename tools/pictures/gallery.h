@@ -3,7 +3,7 @@
 #include <QImage>
 #include <string_view>
 
-#include "vehicle/car_record.h"
+#include "model/car_record.h"
 
 namespace zolv::pictures {
 

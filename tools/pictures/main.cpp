@@ -9,10 +9,10 @@
 #include <QFile>
 #include <cstdio>
 
+#include "model/catalogue.h"
 #include "pictures/gallery.h"
 #include "pictures/icon.h"
 #include "pictures/wordmark.h"
-#include "vehicle/catalogue.h"
 
 namespace zolv::pictures {
 namespace {

@@ -1,0 +1,40 @@
+#include "drawing/canvas.h"
+
+#include <utility>
+
+namespace zolv {
+
+std::string AxisUnit(std::string_view suffix) {
+    if (suffix.starts_with(' ')) suffix.remove_prefix(1);
+    return std::string(suffix);
+}
+
+void Canvas::Clear() {
+    operations_.clear();
+    texts_.clear();
+    axes_.present = false;
+    legend_.clear();
+}
+
+void Canvas::FillRectangle(double x1, double y1, double x2, double y2, Rgb colour) {
+    Record({DrawingOperation::Kind::Rectangle, colour, 0, 0, x1, y1, x2, y2});
+}
+
+void Canvas::FillCircle(double x, double y, double radius, Rgb colour) {
+    Record({DrawingOperation::Kind::Circle, colour, 0, 0, x, y, radius, 0});
+}
+
+void Canvas::Print(std::string_view text) {
+    const auto index = static_cast<std::uint32_t>(texts_.size());
+    texts_.emplace_back(text);
+    Record({DrawingOperation::Kind::Text, ink_, 0, index, 0, 0, 0, 0});
+}
+
+void Canvas::SetAxes(PlotAxis x, PlotAxis y) {
+    const auto readable = [](const PlotAxis& axis) { return std::isfinite(axis.scale) && axis.scale != 0; };
+    if (readable(x) && readable(y)) axes_ = {std::move(x), std::move(y), true};
+}
+
+void Canvas::AddLegend(std::string name, Rgb colour) { legend_.push_back({std::move(name), colour}); }
+
+}  // namespace zolv

@@ -1,7 +1,0 @@
-#include "language/texts.h"
-
-namespace zolv {
-
-Texts texts;
-
-}  // namespace zolv

@@ -1,0 +1,7 @@
+#include "text/texts.h"
+
+namespace zolv {
+
+Texts texts;
+
+}  // namespace zolv

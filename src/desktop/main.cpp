@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
     zolv::UseDialogs(&dialogs);
     zolv::FreshStart();
     zolv::Desktop desktop;
-    zolv::shell.Ending = [] { QApplication::exit(); };  // quit() would ask each open window
+    zolv::shellFollowUps.Ending = [] { QApplication::exit(); };  // quit() would ask each open window
     zolv::LoadZolv();
     dialogs.SetParent(&desktop.Main());
     desktop.Open();

@@ -10,10 +10,14 @@ struct FileState {
     std::string CurrentFileName;  // the settings file that FileSave writes; empty when there is none
     std::string OpenFileName;     // the settings file chosen in the open dialog
     std::string PresetFileName;   // the preset file last chosen in a dialog
+};
+inline FileState files;
 
+/// What follows; shell/wiring says what that is.
+struct FileFollowUps {
     Hook SettingsOpened;  // a settings file was read, whether its car is known or not
     Hook OptionsLoaded;   // the options have been applied, from a file or as they stood
 };
-extern FileState files;
+inline FileFollowUps fileFollowUps;
 
 }  // namespace zolv

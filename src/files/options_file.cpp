@@ -183,7 +183,7 @@ void LoadOptions() {
     const std::string message = ReadOptions();
     if (!message.empty()) ShowMessage(message);
     ApplyOptions();
-    files.OptionsLoaded();
+    fileFollowUps.OptionsLoaded();
 }
 
 }  // namespace zolv

@@ -9,10 +9,10 @@ namespace zolv {
 /// Reads: units, options
 void SaveOptions();
 
-/// Reads the options and applies them; ends with the follow-up files.OptionsLoaded. A file that is missing or empty
-/// shows TextOptionsMissing. One that cannot be read, lacks lines, or holds a unit or a scale that does not exist shows
-/// a message with the reason. In both cases the options in memory are applied, since a start needs them applied once.
-/// Writes: units, options, the options panel
+/// Reads the options and applies them; ends with the follow-up fileFollowUps.OptionsLoaded. A file that is missing or
+/// empty shows TextOptionsMissing. One that cannot be read, lacks lines, or holds a unit or a scale that does not exist
+/// shows a message with the reason. In both cases the options in memory are applied, since a start needs them applied
+/// once. Writes: units, options, the options panel
 void LoadOptions();
 
 }  // namespace zolv

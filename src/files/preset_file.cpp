@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "fields/guards.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
 #include "platform/dialogs.h"
@@ -99,14 +100,12 @@ std::optional<std::size_t> FindBaseCar(float maxPressure, float reverse) {
 }
 
 void ShowBaseCarOf(const Lines& lines) {
-    presets.LoadingPreset = true;
+    const Raised loading(presets.LoadingPreset);
     const auto baseCar = FindBaseCar(static_cast<float>(NumberOf(lines, CarField::RMaxPressure)),
                                      static_cast<float>(NumberOf(lines, CarField::Reverse)));
     if (baseCar) CustomPresets.NewCar.SetText(vehicle.CarName[*baseCar]);
-    presets.LoadingPreset = false;
 }
 
-/// Lines that a text holds; an end of line behind the last one begins no other.
 FileRequest RequestFor(bool saving) {
     return {.forSaving = saving,
             .title = saving ? texts.TextSavePreset : texts.TextLoadPreset,

@@ -126,10 +126,11 @@ bool LoadSettingsFile() {
         ShowMessage(texts.TextCarNotSupported + "\r\n" + texts.TextTryAddingIt);
         return true;
     }
-    guards.Busy = true;
-    Zolv.Select_Car.SetText(name);
-    for (std::size_t i = 0; i < Lines().size(); ++i) Apply(Lines()[i], lines[i + 1]);
-    guards.Busy = false;
+    {
+        const Raised busy(guards.Busy);
+        Zolv.Select_Car.SetText(name);
+        for (std::size_t i = 0; i < Lines().size(); ++i) Apply(Lines()[i], lines[i + 1]);
+    }
     SetCurrentFile(files.OpenFileName);
     return true;
 }
@@ -141,7 +142,7 @@ void OpenSettings() {
 
 void OpenSettingsFile(const std::string& name) {
     files.OpenFileName = name;
-    if (LoadSettingsFile()) files.SettingsOpened();
+    if (LoadSettingsFile()) fileFollowUps.SettingsOpened();
 }
 
 void SaveSettings() {

@@ -16,8 +16,8 @@ void SaveSettingsFile();
 /// @return whether the file could be read, its car known or not
 bool LoadSettingsFile();
 
-/// The menu entries. FileOpen ends with the follow-up files.SettingsOpened, unless the dialog was cancelled or the file
-/// could not be read.
+/// The menu entries. FileOpen ends with the follow-up fileFollowUps.SettingsOpened, unless the dialog was cancelled or
+/// the file could not be read.
 void OpenSettings();
 
 /// Opens a file as FileOpen does with the name that its dialog returned.

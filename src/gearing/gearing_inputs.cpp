@@ -27,9 +27,8 @@ void MoveSlider(TextBox& box, Slider& slider, double scale) {
 template <class Work>
 void UnlessBusy(Work work) {
     if (guards.Busy) return;
-    guards.Busy = true;
+    const Raised busy(guards.Busy);
     work();
-    guards.Busy = false;
 }
 
 }  // namespace

@@ -107,12 +107,13 @@ void CalcGearSpeeds() {
 void ChooseRatiosPage() {
     Zolv.Ratios.Frame.BringToFront();
     gearing.RatiosMode = true;
-    guards.Busy = true;
-    Zolv.Ratios.FinalDriveSlider.SetValue(Zolv.Speeds.FinalDriveSlider.Value());
-    for (int gear = 1; gear <= kGears; ++gear) {
-        Zolv.Ratios.Input[gear].SetText(NumberText(gearing.GearRatio[1][static_cast<std::size_t>(gear)]));
+    {
+        const Raised busy(guards.Busy);
+        Zolv.Ratios.FinalDriveSlider.SetValue(Zolv.Speeds.FinalDriveSlider.Value());
+        for (int gear = 1; gear <= kGears; ++gear) {
+            Zolv.Ratios.Input[gear].SetText(NumberText(gearing.GearRatio[1][static_cast<std::size_t>(gear)]));
+        }
     }
-    guards.Busy = false;
     UpdateSpeeds();
 }
 

@@ -110,13 +110,14 @@ void CalcGearRatios() {
 void ChooseSpeedsPage() {
     Zolv.Speeds.Frame.BringToFront();
     gearing.RatiosMode = false;
-    guards.Busy = true;
-    Zolv.Speeds.FinalDriveSlider.SetValue(Zolv.Ratios.FinalDriveSlider.Value());
-    for (int gear = 1; gear <= kGears; ++gear) {
-        const double speed = gearing.GearSpeed[0][static_cast<std::size_t>(gear)];
-        Zolv.Speeds.Input[gear].SetText(NumberText(speed * units.Speed.Factor));
+    {
+        const Raised busy(guards.Busy);
+        Zolv.Speeds.FinalDriveSlider.SetValue(Zolv.Ratios.FinalDriveSlider.Value());
+        for (int gear = 1; gear <= kGears; ++gear) {
+            const double speed = gearing.GearSpeed[0][static_cast<std::size_t>(gear)];
+            Zolv.Speeds.Input[gear].SetText(NumberText(speed * units.Speed.Factor));
+        }
     }
-    guards.Busy = false;
     UpdateRatios();
 }
 

@@ -79,7 +79,7 @@ void ChangeLanguage() {
         return;
     }
     AssignLines(lines);
-    language.LanguageChanged();
+    languageFollowUps.LanguageChanged();
 }
 
 std::string WriteBuiltInLanguage(const std::string& path) { return WriteTextFile(path, BuiltInLanguage()); }

@@ -34,6 +34,7 @@ void FreshStart() {
     files = {};
     language = {};
     shell = {};
+    shellFollowUps = {};  // no wiring hangs it up anew
     ResetWindows();
     AssignBuiltInCaptions();
     WireEvents();

@@ -6,9 +6,13 @@ namespace zolv {
 
 struct ShellState {
     bool Ended = false;  // the program has been shut down
+};
+inline ShellState shell;
 
+/// What follows; the front end says what that is.
+struct ShellFollowUps {
     Hook Ending;  // the front end is to leave its event loop, or its script
 };
-extern ShellState shell;
+inline ShellFollowUps shellFollowUps;
 
 }  // namespace zolv

@@ -18,8 +18,6 @@
 
 namespace zolv {
 
-ShellState shell;
-
 namespace {
 
 void FillCarList() {
@@ -34,6 +32,7 @@ void FillGraphList() {
 /// Everything that is set up while guards.Loading keeps the handlers from calculating on half-built tables. Numbers
 /// need no switch of the user's decimal separator: no number text asks for it.
 void LoadTablesAndLists() {
+    const Raised loading(guards.Loading);
     InitCatalogue();
     platform.AppPath = CurrentDirectory();
     FillCarList();
@@ -62,9 +61,7 @@ void OfferFirstLanguageChoice() {
 }  // namespace
 
 void LoadZolv() {
-    guards.Loading = true;
     LoadTablesAndLists();
-    guards.Loading = false;
     CalcAeroForces();
     AnalyseTyres();
     LoadOptions();  // and with them the first full calculation
@@ -83,7 +80,7 @@ void ShutDown() {
           static_cast<Window*>(&CustomPresets), static_cast<Window*>(&OptionsPanel), static_cast<Window*>(&Zolv)}) {
         window->SetVisible(false);
     }
-    shell.Ending();
+    shellFollowUps.Ending();
 }
 
 }  // namespace zolv

@@ -58,19 +58,19 @@ void WireFollowUps() {
     };
     gearing.SpeedsFound = DrawGearingPlots;
     gearing.RatiosFound = DrawGearingPlots;
-    options.GearingOptionChanged = Recalculate;
-    options.PlotOptionChanged = DrawGearingPlots;
-    files.OptionsLoaded = [] {
+    optionFollowUps.GearingOptionChanged = Recalculate;
+    optionFollowUps.PlotOptionChanged = DrawGearingPlots;
+    fileFollowUps.OptionsLoaded = [] {
         ShowCarInfo();
         CalcAeroForces();
         AnalyseTyres();
         Recalculate();
     };
-    language.LanguageChanged = [] {
+    languageFollowUps.LanguageChanged = [] {
         ShowCarInfo();
         Recalculate();
     };
-    files.SettingsOpened = [] {
+    fileFollowUps.SettingsOpened = [] {
         ShowCarInfo();
         ShowCarPicture();
         DrawEnginePlot();
@@ -173,37 +173,37 @@ void WireAeroPage() {
 
 /// What a change of unit writes anew.
 void WireUnits() {
-    units.Speed.Picked = [] {
+    unitFollowUps.Speed = [] {
         CalcAeroForces();
         Recalculate();
         ShowCarInfo();
     };
-    units.Distance.Picked = units.Pressure.Picked = [] {
+    unitFollowUps.Distance = unitFollowUps.Pressure = [] {
         AnalyseTyres();
         ShowCarInfo();
     };
-    units.Area.Picked = [] {
+    unitFollowUps.Area = [] {
         CalcAeroForces();
         AnalyseTyres();
         ShowCarInfo();
     };
-    units.Mass.Picked = units.P2W.Picked = units.T2W.Picked = ShowCarInfo;
-    units.Force.Picked = [] {
+    unitFollowUps.Mass = unitFollowUps.P2W = unitFollowUps.T2W = ShowCarInfo;
+    unitFollowUps.Force = [] {
         CalcAeroForces();
         ShowCarInfo();
         RunAcceleration();
         DrawGearingPlots();
     };
-    units.Stiffness.Picked = AnalyseTyres;
-    units.Acc.Picked = [] {
+    unitFollowUps.Stiffness = AnalyseTyres;
+    unitFollowUps.Acc = [] {
         ShowCarInfo();
         RunAcceleration();
     };
-    units.Power.Picked = [] {
+    unitFollowUps.Power = [] {
         ShowCarInfo();
         DrawEnginePlot();
     };
-    units.Torque.Picked = [] {
+    unitFollowUps.Torque = [] {
         ShowCarInfo();
         DrawEnginePlot();
         Recalculate();

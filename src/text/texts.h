@@ -85,6 +85,6 @@ struct Texts {
     std::string RpmSuffix;                       // with its leading blank
     std::array<std::string, 6> AboutParagraphs;  // of AboutZolv
 };
-extern Texts texts;
+inline Texts texts;
 
 }  // namespace zolv

@@ -99,9 +99,10 @@ void AnalyseTyres() {
 }
 
 void PickTyreType() {
-    tyres.CopyingTyreType = true;
-    Zolv.Select_Tyres2.SetText(Zolv.Select_Tyres.Text());
-    tyres.CopyingTyreType = false;
+    {
+        const Raised copying(tyres.CopyingTyreType);
+        Zolv.Select_Tyres2.SetText(Zolv.Select_Tyres.Text());
+    }
     if (guards.Loading) return;
     for (std::size_t type = 0; type < texts.TyreTypeNames.size(); ++type) {
         if (Zolv.Select_Tyres.Text() == texts.TyreTypeNames[type]) tyres.TyreMu = tyres.TyreTypeMu[type];

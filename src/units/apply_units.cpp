@@ -23,6 +23,7 @@ struct Choice {
     explicit Choice(int quantity)
         : rows(UnitCatalogue()[static_cast<std::size_t>(quantity)].rows),
           state(units.*UnitCatalogue()[static_cast<std::size_t>(quantity)].state),
+          picked(unitFollowUps.*UnitCatalogue()[static_cast<std::size_t>(quantity)].picked),
           fields(OptionsPanel.Units[static_cast<std::size_t>(quantity)]) {}
 
     const std::string& NameInForce() const { return state.UnitNames[static_cast<std::size_t>(state.Unit)]; }
@@ -42,6 +43,7 @@ struct Choice {
 
     std::span<const UnitRow> rows;
     Quantity& state;
+    const Hook& picked;
     UnitChoice& fields;
 };
 
@@ -67,16 +69,16 @@ void PickSpeedUnit(const Choice& speed, int row) {
     const std::string_view suffix = speed.rows[static_cast<std::size_t>(row)].suffix;
     const int oldUnit = speed.state.Unit;
 
-    guards.Busy = true;
-    speed.ShowCaption(row);
-    for (Label& label : Zolv.Label_SPD) label.SetCaption(suffix);
-    if (RangeComesFirst(oldUnit, row)) SetSpeedSliderRange(row);
-    ConvertSpeedBoxes(oldUnit, row);
-    SelectUnit(units, kSpeed, row);
-    OptionsPanel.SpeedPlotX.Units.SetCaption(suffix);
-    guards.Busy = false;
-
-    speed.state.Picked();
+    {
+        const Raised busy(guards.Busy);
+        speed.ShowCaption(row);
+        for (Label& label : Zolv.Label_SPD) label.SetCaption(suffix);
+        if (RangeComesFirst(oldUnit, row)) SetSpeedSliderRange(row);
+        ConvertSpeedBoxes(oldUnit, row);
+        SelectUnit(units, kSpeed, row);
+        OptionsPanel.SpeedPlotX.Units.SetCaption(suffix);
+    }
+    speed.picked();
     SetSpeedSliderRange(row);
 }
 
@@ -104,7 +106,7 @@ void PickUnit(int quantity) {
     }
     choice.ShowCaption(row);
     SelectUnit(units, quantity, row);
-    choice.state.Picked();
+    choice.picked();
 }
 
 void ApplyOptions() {

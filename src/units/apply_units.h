@@ -12,10 +12,10 @@ void FillUnitLists();
 /// @param quantity  place in UnitCatalogue()
 void RebuildUnitList(int quantity);
 
-/// A unit was picked in the list of a quantity, maybe the one in force. Ends with the quantity's follow-up `Picked`.
-/// The speed boxes hold input in the unit shown, so that a unit of speed also converts them, rounded to one decimal.
-/// The speed sliders are widened before that and narrowed after the follow-up, so that no speed is cut on its way.
-/// Does nothing during the load.
+/// A unit was picked in the list of a quantity, maybe the one in force. Ends with the quantity's follow-up in
+/// unitFollowUps. The speed boxes hold input in the unit shown, so that a unit of speed also converts them, rounded to
+/// one decimal. The speed sliders are widened before that and narrowed after the follow-up, so that no speed is cut on
+/// its way. Does nothing during the load.
 /// @param quantity  place in UnitCatalogue()
 /// Reads:  OptionsPanel.Units[quantity].Select
 /// Writes: the quantity in `units`, the caption beside its list; for speed also B_Speed1 to B_Speed6 and the ranges of

@@ -33,10 +33,14 @@ struct OptionState {
     bool AutoRevs = true;         // shift points by gear; otherwise all are CustomRevs
     std::int32_t CustomRevs = 0;  // [rpm]
     bool AccelerationOn = true;   // run the acceleration simulation
+};
+inline OptionState options;
 
+/// What follows; shell/wiring says what that is.
+struct OptionFollowUps {
     Hook GearingOptionChanged;  // the page that is the input is to be calculated anew
     Hook PlotOptionChanged;     // the gearing plots are to be drawn anew
 };
-extern OptionState options;
+inline OptionFollowUps optionFollowUps;
 
 }  // namespace zolv

@@ -41,34 +41,34 @@ bool PlotFlag::On() const {
 
 void SwitchPlotFlag(const PlotFlag& flag) {
     std::visit([&](auto member) { options.*member = flag.box.Checked(); }, flag.flag);
-    options.PlotOptionChanged();
+    optionFollowUps.PlotOptionChanged();
 }
 
 void MovePlotScale(const PlotScale& scale) {
     options.*scale.value = scale.slider.Value();
-    options.PlotOptionChanged();
+    optionFollowUps.PlotOptionChanged();
 }
 
 void ChoosePeakPowerRevs() {
     options.RevsMaxMode = true;
-    options.GearingOptionChanged();
+    optionFollowUps.GearingOptionChanged();
 }
 
 void ChooseRedlineRevs() {
     options.RevsMaxMode = false;
-    options.GearingOptionChanged();
+    optionFollowUps.GearingOptionChanged();
 }
 
 void SwitchRevLimit() {
     options.RevLimitOn = OptionsPanel.RevLimitEnable.Checked();
-    options.GearingOptionChanged();
+    optionFollowUps.GearingOptionChanged();
 }
 
 void ChooseAutoRevs() {
     options.AutoRevs = true;
     OptionsPanel.RC_FixedVal.SetEnabled(false);
     OptionsPanel.RevLimitEnable.SetEnabled(true);
-    options.GearingOptionChanged();
+    optionFollowUps.GearingOptionChanged();
 }
 
 void ChooseFixedRevs() {
@@ -80,7 +80,7 @@ void ChooseFixedRevs() {
 
 void ChangeFixedRevs() {
     options.CustomRevs = ToInt32(Val(OptionsPanel.RC_FixedVal.Text()));
-    options.GearingOptionChanged();
+    optionFollowUps.GearingOptionChanged();
 }
 
 void SwitchAcceleration() {
@@ -89,7 +89,7 @@ void SwitchAcceleration() {
     options.AccelerationOn = on;
     if (!on) Zolv.Select_Graphs.SetText(texts.GraphNames[0]);
     Zolv.Select_Graphs.SetLocked(!on);
-    if (on) options.GearingOptionChanged();
+    if (on) optionFollowUps.GearingOptionChanged();
 }
 
 }  // namespace zolv

@@ -8,7 +8,7 @@
 #include "units/option_state.h"
 
 /// What the fields of the options panel do beside the units: each sets its option at once, then raises the follow-up
-/// that shows the effect, options.GearingOptionChanged or options.PlotOptionChanged.
+/// that shows the effect, optionFollowUps.GearingOptionChanged or optionFollowUps.PlotOptionChanged.
 namespace zolv {
 
 /// An option that is on or off.

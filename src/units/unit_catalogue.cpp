@@ -123,18 +123,18 @@ constexpr UnitRow kTorqueToWeight[] = {
 };
 
 constexpr std::array<QuantityUnits, kQuantities> kCatalogue{{
-    {&UnitState::Speed,     kSpeed},
-    {&UnitState::Distance,  kDistance},
-    {&UnitState::Area,      kArea},
-    {&UnitState::Pressure,  kPressure},
-    {&UnitState::Mass,      kMass},
-    {&UnitState::Force,     kForce},
-    {&UnitState::Stiffness, kStiffness},
-    {&UnitState::Acc,       kAcc},
-    {&UnitState::Power,     kPower},
-    {&UnitState::Torque,    kTorque},
-    {&UnitState::P2W,       kPowerToWeight},
-    {&UnitState::T2W,       kTorqueToWeight},
+    {&UnitState::Speed,     &UnitFollowUps::Speed,     kSpeed},
+    {&UnitState::Distance,  &UnitFollowUps::Distance,  kDistance},
+    {&UnitState::Area,      &UnitFollowUps::Area,      kArea},
+    {&UnitState::Pressure,  &UnitFollowUps::Pressure,  kPressure},
+    {&UnitState::Mass,      &UnitFollowUps::Mass,      kMass},
+    {&UnitState::Force,     &UnitFollowUps::Force,     kForce},
+    {&UnitState::Stiffness, &UnitFollowUps::Stiffness, kStiffness},
+    {&UnitState::Acc,       &UnitFollowUps::Acc,       kAcc},
+    {&UnitState::Power,     &UnitFollowUps::Power,     kPower},
+    {&UnitState::Torque,    &UnitFollowUps::Torque,    kTorque},
+    {&UnitState::P2W,       &UnitFollowUps::P2W,       kPowerToWeight},
+    {&UnitState::T2W,       &UnitFollowUps::T2W,       kTorqueToWeight},
 }};
 
 constexpr int kSpeedSliderMaxima[] = {200, 720, 447, 388, 656};

@@ -9,9 +9,10 @@
 
 namespace zolv {
 
-/// One of the twelve quantities: where its state is, and its units.
+/// One of the twelve quantities: where its state is, what follows a pick, and its units.
 struct QuantityUnits {
     Quantity UnitState::*state;
+    Hook UnitFollowUps::*picked;
     std::span<const UnitRow> rows;
 };
 

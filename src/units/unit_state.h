@@ -25,8 +25,6 @@ struct Quantity {
     double Factor = 1;
     std::array<std::string, 7> UnitNames;  // long names of the rows, in the language in force
 
-    Hook Picked;  // another unit, or the same one again, was picked: what shows the quantity is to be written anew
-
     /// "12.5 m/s": the base value in this unit, rounded half to even to its decimals, with the suffix; "N/A" for a
     /// value that is not finite.
     [[nodiscard]] std::string Text(double base) const;
@@ -53,5 +51,12 @@ struct UnitState {
     UnitState();  // row 0 of every quantity, without names
 };
 extern UnitState units;
+
+/// What follows when another unit of a quantity, or the same one again, was picked: what shows it is to be written
+/// anew. shell/wiring says what that is.
+struct UnitFollowUps {
+    Hook Speed, Distance, Area, Pressure, Mass, Force, Stiffness, Acc, Power, Torque, P2W, T2W;
+};
+inline UnitFollowUps unitFollowUps;
 
 }  // namespace zolv

@@ -76,7 +76,7 @@ void DesktopTest::Start() {
     FreshStart();
     Prepare();
     desktop_ = std::make_unique<Desktop>();
-    shell.Ending = [this] { ended_ = true; };
+    shellFollowUps.Ending = [this] { ended_ = true; };
     LoadZolv();
     desktop_->Open();
     for (const char* lacking : {"Options.ini does not exist", "language list does not exist"}) {

@@ -59,7 +59,7 @@ protected:
 
 TEST_F(OptionsFile, BringsBackEveryOptionAndAppliesIt) {
     int refreshed = 0;
-    files.OptionsLoaded = [&] { ++refreshed; };
+    fileFollowUps.OptionsLoaded = [&] { ++refreshed; };
     EXPECT_EQ(InMemory(), kStartFile);
     // As an editor may leave it: with a byte order mark, and no line end at its end.
     WriteContent(kName, "\xEF\xBB\xBF" + std::string(kOtherFile, std::string_view(kOtherFile).size() - 2));
@@ -110,7 +110,7 @@ TEST_F(OptionsFile, ThatIsNoneIsReportedOnceAndChangesNothing) {
     WriteContent(kName, kOtherFile);
     LoadOptions();
     int refreshed = 0;
-    files.OptionsLoaded = [&] { ++refreshed; };
+    fileFollowUps.OptionsLoaded = [&] { ++refreshed; };
     std::string rubbish;
     for (int i = 0; i < 40; ++i) rubbish += "\x80\xFF\x01\r\n";
     struct {
@@ -138,7 +138,7 @@ TEST_F(OptionsFile, MissingOrEmptyIsSaidAndTheOptionsInMemoryAreApplied) {
         if (empty) WriteContent(kName, "");
         options.RedlineOn = true;
         int refreshed = 0;
-        files.OptionsLoaded = [&] { ++refreshed; };
+        fileFollowUps.OptionsLoaded = [&] { ++refreshed; };
         LoadOptions();
         ExpectMessage("Error: Options.ini does not exist.");
         EXPECT_TRUE(OptionsPanel.EnableRedline.Checked());

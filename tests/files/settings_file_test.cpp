@@ -149,7 +149,7 @@ TEST_F(SettingsFile, AppliesEverythingBeforeItCalculates) {
     Zolv.Speeds.Input[6].OnChange = note("B_Speed6");
     Zolv.Select_PressureF.OnChange = note("pressure");
     Zolv.Select_RearWingAngle.OnChange = note("wing");
-    files.SettingsOpened = note("refresh");
+    fileFollowUps.SettingsOpened = note("refresh");
     Open("a.zolv", kOtherFile);
     EXPECT_THAT(order, ElementsAre("car, busy", "pressure, busy", "GearF, busy", "Gear1, busy", "B_Final, busy",
                                    "B_Speed6, busy", "wing, busy", "refresh"));
@@ -185,7 +185,7 @@ TEST_F(SettingsFile, OfAnUnknownCarIsRefusedAndCloses) {
     for (const char* car : {"Nobody", "series lo"}) {
         Open("good.zolv", kOtherFile);
         refreshed = 0;
-        files.SettingsOpened = [&] { ++refreshed; };
+        fileFollowUps.SettingsOpened = [&] { ++refreshed; };
         Open("bad.zolv", Replaced(kStartFile, "Pell S", car));
         ExpectMessage("That car is not supported by Tarmaq Zolv.\r\nTry adding it from the Custom Presets panel.");
         EXPECT_EQ(InMemory(), kOtherFile) << car;

@@ -117,7 +117,7 @@ TEST_F(LanguageFile, ListsKeepTheirRows) {
 
 TEST_F(LanguageFile, FollowUpComesOnceWithAllLinesInPlace) {
     std::vector<std::string> seen;
-    language.LanguageChanged = [&] { seen.push_back(OptionsPanel.OptionsSave.Caption()); };
+    languageFollowUps.LanguageChanged = [&] { seen.push_back(OptionsPanel.OptionsSave.Caption()); };
     Zolv.Select_Graphs.Clear();  // a list without a current row comes back on the first
     LoadText(MadeUp());
     EXPECT_THAT(seen, ElementsAre("L338"));

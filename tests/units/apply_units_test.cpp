@@ -34,7 +34,7 @@ TEST_F(ApplyUnits, EveryRowOfEveryQuantityIsTakenAndFollowedOnce) {
         Quantity& state = units.*quantity.state;
         UnitChoice& choice = OptionsPanel.Units[i];
         int followed = 0;
-        state.Picked = [&] { ++followed; };
+        unitFollowUps.*quantity.picked = [&] { ++followed; };
         ASSERT_EQ(choice.Select.Rows().size(), quantity.rows.size());
         for (int row = static_cast<int>(quantity.rows.size()) - 1; row >= 0; --row) {
             choice.Select.Pick(row);
@@ -92,12 +92,12 @@ TEST_F(ApplyUnits, SpeedRangeIsWidenedBeforeTheConversionAndNarrowedAfterTheRefr
                         {kMs, "200", kKn, false, "388", "388"},   {kFps, "656", kKmh, false, "720", "720"},
                         {kKmh, "720", kFps, true, "656", "656"},  {kKmh, "720", kMph, true, "720", "447"}};
     for (const auto& row : kCases) {
-        units.Speed.Picked = [] {};
+        unitFollowUps.Speed = [] {};
         PickSpeed(row.from);
         Zolv.Speeds.Input[6].Enter(row.top);
         std::string seen;
         bool busy = true;
-        units.Speed.Picked = [&] {
+        unitFollowUps.Speed = [&] {
             seen = Zolv.Speeds.Input[6].Text();
             busy = guards.Busy;
         };

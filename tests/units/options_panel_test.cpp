@@ -15,8 +15,8 @@ class OptionsOnPanel : public ZolvTest {
 protected:
     void SetUp() override {
         Start();
-        options.GearingOptionChanged = [this] { ++recalculated; };
-        options.PlotOptionChanged = [this] { ++redrawn; };
+        optionFollowUps.GearingOptionChanged = [this] { ++recalculated; };
+        optionFollowUps.PlotOptionChanged = [this] { ++redrawn; };
     }
 
     int recalculated = 0;

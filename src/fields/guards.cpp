@@ -1,7 +1,0 @@
-#include "fields/guards.h"
-
-namespace zolv {
-
-Guards guards;
-
-}  // namespace zolv

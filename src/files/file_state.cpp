@@ -1,7 +1,0 @@
-#include "files/file_state.h"
-
-namespace zolv {
-
-FileState files;
-
-}  // namespace zolv

@@ -1,7 +1,0 @@
-#include "language/language_state.h"
-
-namespace zolv {
-
-LanguageState language;
-
-}  // namespace zolv

@@ -1,7 +1,0 @@
-#include "text/texts.h"
-
-namespace zolv {
-
-Texts texts;
-
-}  // namespace zolv

@@ -1,7 +1,0 @@
-#include "units/option_state.h"
-
-namespace zolv {
-
-OptionState options;
-
-}  // namespace zolv

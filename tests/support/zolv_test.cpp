@@ -48,6 +48,8 @@ std::string StateOf(const Field& field) {
     if (field.Kind() == FieldKind::Slider) {
         const auto& slider = static_cast<const Slider&>(field);
         state += " of " + std::to_string(slider.Min()) + " to " + std::to_string(slider.Max());
+    } else if (field.Kind() == FieldKind::Panel && static_cast<const Panel&>(field).InFront()) {
+        state += " in front";
     } else if (field.Kind() == FieldKind::PickList) {
         for (const std::string& row : static_cast<const PickList&>(field).Rows()) state += '|' + row;
     }
@@ -60,6 +62,10 @@ std::string TextOf(const Canvas& drawing) {
         text += '\n';
         for (const double number : {operation.x1, operation.y1, operation.x2, operation.y2}) {
             text += std::to_string(number) + ' ';
+        }
+        for (const int look : {int{operation.width}, int{operation.colour.red}, int{operation.colour.green},
+                               int{operation.colour.blue}}) {
+            text += std::to_string(look) + ' ';
         }
         if (operation.kind == DrawingOperation::Kind::Text) text += drawing.TextOf(operation);
     }

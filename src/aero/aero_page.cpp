@@ -9,6 +9,7 @@
 #include "model/aero_model.h"
 #include "model/whole_number.h"
 #include "text/number_text.h"
+#include "text/words.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
 
@@ -98,26 +99,32 @@ void ShowTotals() {
 }
 
 /// The balance of the lift against that of the weight: within half a per cent either side counts as neutral.
-void ShowAeroDistribution(double share, double weightDist) {
+AirBalance BalanceOf(double share, double weightDist) {
     constexpr double kNeutralBand = 0.005;
+    if (share == 0 || !std::isfinite(share)) return AirBalance::None;
+    if (share < weightDist - kNeutralBand) return AirBalance::Understeer;
+    return share > weightDist + kNeutralBand ? AirBalance::Oversteer : AirBalance::Neutral;
+}
+
+void ShowBalance() {
     Label& field = Zolv.Aero_AeroDistribution;
-    if (share == 0 || !std::isfinite(share)) {
-        field.SetCaption("N/A");
-        field.SetToolTip("N/A");
-        field.SetColour(kBlack);
-        return;
+    const auto show = [&field](const Rgb& colour, const std::string& word) {
+        field.SetColour(colour);
+        field.SetToolTip(word);
+    };
+    switch (aero.Balance) {
+        case AirBalance::None: show(kBlack, "N/A"); break;
+        case AirBalance::Understeer: show(kBlue, words["Understeer"]); break;
+        case AirBalance::Neutral: show(kDarkGreen, words["Neutral"]); break;
+        case AirBalance::Oversteer: show(kRed, words["Oversteer"]); break;
     }
-    if (share < weightDist - kNeutralBand) {
-        field.SetColour(kBlue);
-        field.SetToolTip("Understeer");
-    } else if (share > weightDist + kNeutralBand) {
-        field.SetColour(kRed);
-        field.SetToolTip("Oversteer");
-    } else {
-        field.SetColour(kDarkGreen);
-        field.SetToolTip("Neutral");
-    }
-    field.SetCaption(SplitText(100 * share, (1 - share) * 100, 1));
+}
+
+void ShowAeroDistribution(double share, double weightDist) {
+    aero.Balance = BalanceOf(share, weightDist);
+    ShowBalance();
+    Zolv.Aero_AeroDistribution.SetCaption(
+        aero.Balance == AirBalance::None ? "N/A" : SplitText(100 * share, (1 - share) * 100, 1));
 }
 
 void ShowDistribution(const Distribution& distribution) {
@@ -134,13 +141,18 @@ void ShowAeroSpeed() {
     Zolv.AeroSpeed_TyreTab.SetCaption(speed);
 }
 
+void ShowWingAngles() {
+    const std::string degrees = ' ' + words["Degrees"];
+    Zolv.WingAngleFront.SetCaption(NumberText(Zolv.Select_FrontWingAngle.Value()) + degrees);
+    Zolv.WingAngleRear.SetCaption(NumberText(Zolv.Select_RearWingAngle.Value()) + degrees);
+}
+
 void ShowGeneral() {
     constexpr double kZeroCelsius = 273.15;  // [K]
     Zolv.Aero_TopSpeed.SetCaption(units.Speed.Text(aero.TopSpeed));
     Zolv.Aero_AirDensity.SetCaption(WithUnit(aero.AirDensity, 3, " kg/m^3"));
     Zolv.Aero_AirTemp.SetCaption(WithUnit(aero.AirTemperature - kZeroCelsius, 2, "\u00B0C"));
-    Zolv.WingAngleFront.SetCaption(NumberText(Zolv.Select_FrontWingAngle.Value()) + " degrees");
-    Zolv.WingAngleRear.SetCaption(NumberText(Zolv.Select_RearWingAngle.Value()) + " degrees");
+    ShowWingAngles();
     ShowAeroSpeed();
 }
 
@@ -196,6 +208,11 @@ void CalcAeroForces() {
     ShowAeroPage({.force = front / (static_cast<double>(aero.RearWheelForce) + front),
                   .aero = lift.front == 0 ? 0 : lift.front / (lift.front + lift.rear),
                   .weightMultiple = (weight - aero.TotalLift) / weight});
+}
+
+void ShowAeroWords() {
+    ShowBalance();
+    ShowWingAngles();
 }
 
 void MoveAeroSpeed() {

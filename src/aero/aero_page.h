@@ -16,6 +16,9 @@ void FindTopSpeed();
 /// Writes: aero, the figures of the aerodynamics page
 void CalcAeroForces();
 
+/// The language has changed: writes the words among the page's figures anew and calculates nothing.
+void ShowAeroWords();
+
 /// The user moved one of the twin speed sliders: the other follows, and in slider mode the forces.
 void MoveAeroSpeed();
 void MoveAeroSpeedOfTyreTab();

@@ -7,6 +7,9 @@
 
 namespace zolv {
 
+/// Where the lift lies against the weight: further back, with it, or further forward. None without lift on the front.
+enum class AirBalance : std::uint8_t { None, Understeer, Neutral, Oversteer };
+
 struct AeroState {
     bool FixedSpeedMode = false;      // forces are those at the top speed; otherwise those at the slider's speed
     std::int16_t AeroSpeedValue = 0;  // [m/s] the slider's speed
@@ -24,6 +27,7 @@ struct AeroState {
     float RollingResistance = 0, TotalFriction = 0;
 
     float TopSpeed = 0;  // [m/s]
+    AirBalance Balance = AirBalance::None;
 
     // Vertical load on each whole axle [N] at the speed in force. An acceleration run overwrites them and leaves those
     // of its last step, until the next CalcAeroForces.

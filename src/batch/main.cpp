@@ -32,6 +32,7 @@ constexpr const char* kUsage =
     "  picture FIELD FILE     writes the drawing on a canvas to FILE as SVG\n"
     "  answer PATH            answers the next file dialog; without PATH cancels it\n"
     "  write-language FILE    writes the built-in texts as a language file\n"
+    "  write-words FILE       writes the words that no line of that file has\n"
     "  report                 prints the whole set-up for a reader\n"
     "\n"
     "A line that starts with # is a comment. A line that cannot be used ends the run\n"

@@ -15,6 +15,7 @@
 #include "platform/text_files.h"
 #include "shell/shell_state.h"
 #include "text/nearest_name.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
@@ -105,6 +106,11 @@ void RunWriteLanguage(std::string_view rest) {
     ExpectWritten(path, WriteBuiltInLanguage(path));
 }
 
+void RunWriteWords(std::string_view rest) {
+    const std::string path = TakePath(rest);
+    ExpectWritten(path, WriteTextFile(path, BuiltInWords()));
+}
+
 void RunReport(std::string_view rest) {
     ExpectNoMore(rest);
     PrintReport();
@@ -115,9 +121,10 @@ struct Command {
     void (*run)(std::string_view rest);
 };
 constexpr Command kCommands[] = {
-    {"set", RunSet},       {"click", RunClick},     {"get", RunGet},
-    {"canvas", RunCanvas}, {"picture", RunPicture}, {"write-language", RunWriteLanguage},
-    {"report", RunReport},
+    {"set", RunSet},         {"click", RunClick},
+    {"get", RunGet},         {"canvas", RunCanvas},
+    {"picture", RunPicture}, {"write-language", RunWriteLanguage},
+    {"report", RunReport},   {"write-words", RunWriteWords},
 };
 constexpr const char* kAnswer = "answer";
 

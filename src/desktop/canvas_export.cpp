@@ -9,6 +9,7 @@
 #include "drawing/svg.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
@@ -55,14 +56,17 @@ QImage PictureOf(const Canvas& canvas, CanvasShape shape, const QSize& size, con
     return image;
 }
 
-void SaveAsSvg(const Canvas& canvas) { Save(RequestFor("Save as SVG", "SVG picture", "svg"), SvgOf(canvas)); }
+void SaveAsSvg(const Canvas& canvas) {
+    Save(RequestFor(words["SaveAsSvg"], words["SvgPicture"], "svg"), SvgOf(canvas));
+}
 
 void SaveAsPng(const QImage& picture) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     picture.save(&buffer, "PNG");
-    Save(RequestFor("Save as PNG", "PNG picture", "png"), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    Save(RequestFor(words["SaveAsPng"], words["PngPicture"], "png"),
+         {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 }  // namespace zolv

@@ -10,6 +10,8 @@
 
 #include "desktop/canvas_export.h"
 #include "desktop/plot_marks.h"
+#include "desktop/texts_of_qt.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
@@ -88,9 +90,9 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
     const auto add = [&](const QString& name, const QString& text, auto work) {
         menu->addAction(text, this, work)->setObjectName(name);
     };
-    add(QStringLiteral("CopyPicture"), QStringLiteral("&Copy picture"), [this] { CopyPicture(); });
-    add(QStringLiteral("SaveAsSvg"), QStringLiteral("Save as &SVG..."), [this] { SaveAsSvg(field_.Drawing()); });
-    add(QStringLiteral("SaveAsPng"), QStringLiteral("Save as &PNG..."),
+    add(QStringLiteral("CopyPicture"), ToQt(words["CopyPicture"]), [this] { CopyPicture(); });
+    add(QStringLiteral("SaveAsSvg"), ToQt(words["SaveAsSvgEntry"]), [this] { SaveAsSvg(field_.Drawing()); });
+    add(QStringLiteral("SaveAsPng"), ToQt(words["SaveAsPngEntry"]),
         [this] { SaveAsPng(PictureOf(field_.Drawing(), shape_, size(), font())); });
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     menu->popup(byKey ? mapToGlobal(rect().center()) : event->globalPos());

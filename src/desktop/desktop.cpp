@@ -5,6 +5,7 @@
 #include "desktop/main_window.h"
 #include "desktop/options_window.h"
 #include "desktop/presets_window.h"
+#include "fields/windows.h"
 
 namespace zolv {
 
@@ -14,6 +15,7 @@ Desktop::Desktop() {
     secondary_.push_back(std::make_unique<PresetsWindow>(binding_));
     secondary_.push_back(std::make_unique<ConverterWindow>(binding_));
     secondary_.push_back(std::make_unique<LanguageWindow>(binding_));
+    binding_.OnChanged(LanguageSelection.LanguageList, [this] { qtWords_.Follow(); });
 }
 
 Desktop::~Desktop() = default;

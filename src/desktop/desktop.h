@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "desktop/binding.h"
+#include "desktop/qt_words.h"
 
 namespace zolv {
 
@@ -22,6 +23,7 @@ public:
     MainWindow& Main() { return *main_; }
 
 private:
+    QtWords qtWords_;
     Binding binding_;
     std::vector<std::unique_ptr<QWidget>> secondary_;
     std::unique_ptr<MainWindow> main_;

@@ -51,7 +51,7 @@ private:
 /// The window that adds and edits cars of the user's own, as a form.
 class CustomPresetsWindow : public Window {
 public:
-    CustomPresetsWindow() : Window("CustomPresets", "Custom Presets", false) {}
+    CustomPresetsWindow() : Window("CustomPresets", "", false) {}
 
     // CUPLabel(12) and CUPLabel(29) name the drag coefficient, which no language file translates.
     FieldArray<Label, 37> CUPLabel{*this, "CUPLabel",

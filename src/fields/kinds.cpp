@@ -173,10 +173,19 @@ void PickList::Reset() {
     locked_ = design_.locked;
 }
 
-TabStrip::TabStrip(Window& owner, std::string name, std::vector<std::string> toolTips)
-    : PickList(owner, std::move(name), FieldKind::TabStrip,
-               {.rows = std::vector<std::string>(toolTips.size()), .picked = 0}),
-      toolTips_(std::move(toolTips)) {}
+TabStrip::TabStrip(Window& owner, std::string name, std::size_t tabs)
+    : PickList(owner, std::move(name), FieldKind::TabStrip, {.rows = std::vector<std::string>(tabs), .picked = 0}),
+      toolTips_(tabs) {}
+
+void TabStrip::SetToolTipOf(int tab, std::string_view toolTip) {
+    toolTips_[static_cast<std::size_t>(tab)] = toolTip;
+    MarkChanged();
+}
+
+void TabStrip::Reset() {
+    PickList::Reset();
+    toolTips_.assign(toolTips_.size(), "");
+}
 
 CheckBox::CheckBox(Window& owner, std::string name, CheckState design)
     : Field(owner, std::move(name), FieldKind::CheckBox, design.look),

@@ -197,10 +197,11 @@ private:
 /// start.
 class TabStrip : public PickList {
 public:
-    /// @param toolTips  of each tab; their number is the number of tabs, whose texts come with the language
-    TabStrip(Window& owner, std::string name, std::vector<std::string> toolTips);
+    TabStrip(Window& owner, std::string name, std::size_t tabs);  // their words come with the language
 
     const std::vector<std::string>& ToolTips() const { return toolTips_; }
+    void SetToolTipOf(int tab, std::string_view toolTip);
+    void Reset() override;
 
 private:
     std::vector<std::string> toolTips_;

@@ -33,7 +33,7 @@ public:
     OptionsPanelWindow() : Window("OptionsPanel", "", false) {}
 
     Label Title_Options{*this, "Title_Options"};
-    TabStrip Select_Options{*this, "Select_Options", {"", "", ""}};
+    TabStrip Select_Options{*this, "Select_Options", 3};
     FieldArray<Panel, 3> OptionsPage{*this, "OptionsPage",
                                      [](int i) { return PanelState{.stack = 1, .front = i == 0}; }};
     FieldArray<Panel, 8> OptionsGroup{*this, "OptionsGroup"};

@@ -33,14 +33,11 @@ public:
     ConverterRow Mass{*this, "Mass", {"t", "lb", "Slug", "Tons (Short)", "Tons (Long)"}, "kg"};
     ConverterRow Power{*this, "Power", {"ps", "hp", "ft lbf/s"}, "kW"};
     ConverterRow Torque{*this, "Torque", {"kgfm", "lbf ft", "lbf in"}, "Nm"};
-    TextBox TyreWidthInput{
-        *this, "TyreWidthInput", {.text = "205", .maxLength = 4, .look = {.toolTip = "Input the tyre width in mm"}}};
+    TextBox TyreWidthInput{*this, "TyreWidthInput", {.text = "205", .maxLength = 4}};
     Label InputSlash{*this, "InputSlash", {.caption = "/"}};
-    TextBox TyreHeightInput{
-        *this, "TyreHeightInput", {.text = "585", .maxLength = 4, .look = {.toolTip = "Input the tyre height in mm"}}};
+    TextBox TyreHeightInput{*this, "TyreHeightInput", {.text = "585", .maxLength = 4}};
     Label InputR{*this, "InputR", {.caption = "R"}};
-    TextBox RimSizeInput{
-        *this, "RimSizeInput", {.text = "380", .maxLength = 4, .look = {.toolTip = "Input the rim height in mm"}}};
+    TextBox RimSizeInput{*this, "RimSizeInput", {.text = "380", .maxLength = 4}};
     Label TyreOutput{*this, "TyreOutput"};
     Button CloseConv{*this, "CloseConv"};
 };

@@ -3,7 +3,8 @@
 #include "fields/field_row.h"
 #include "fields/kinds.h"
 
-/// The main window as a form. Captions that a language file can replace are not here: they stand in the caption table.
+/// The main window as a form. Words that a language can replace are not here: they stand in the caption table and in
+/// the table of words.
 namespace zolv {
 
 /// The fields of one direction of the gearing calculation; the two pages have the same ones under other names.
@@ -26,8 +27,7 @@ struct GearingPanel {
           RAC(owner, names.rac),
           Torque(owner, names.torque),
           TorqueR(owner, std::string(names.torque) + 'R'),
-          GearR(owner, names.reverseRatio,
-                {.toolTip = "Tarmaq does not allow you to change the ratio for reverse, so neither does Zolv."}),
+          GearR(owner, names.reverseRatio),
           RPMR(owner, names.reverseRpm),
           SpeedR(owner, names.reverseSpeed) {}
 
@@ -77,12 +77,7 @@ public:
     // Always in view
     Label Label_Car{*this, "Label_Car"};
     PickList Select_Car{*this, "Select_Car"};
-    TabStrip Select_Page{*this,
-                         "Select_Page",
-                         {"Displays various static information about the selected car",
-                          "Anaylse how engine rpms and speeds, and acceleration changes depending on gearing",
-                          "Analyser how the tyre deforms at different pressures and loads",
-                          "Analyse all the forces on the car caused by the vehicles aerodynamic properties"}};
+    TabStrip Select_Page{*this, "Select_Page", 4};
     Label Zolv_version{*this, "Zolv_version", {.caption = "v2.5.3"}};
     Picture TitleImage{*this, "TitleImage"};
     Picture TarmaqLogo{*this, "TarmaqLogo"};
@@ -161,15 +156,9 @@ public:
     Slider Select_AeroSpeed_TyreTab{*this, "Select_AeroSpeed_TyreTab", {.max = 200, .value = 40}};
     CheckBox BlowTyres{*this, "BlowTyres"};
     Label Label_PressureF{*this, "Label_PressureF"};
-    Slider Select_PressureF{
-        *this,
-        "Select_PressureF",
-        {.max = 500, .value = 175, .look = {.toolTip = "Change the pressure to see how this affects deformation."}}};
+    Slider Select_PressureF{*this, "Select_PressureF", {.max = 500, .value = 175}};
     Label Label_PressureR{*this, "Label_PressureR"};
-    Slider Select_PressureR{
-        *this,
-        "Select_PressureR",
-        {.max = 500, .value = 175, .look = {.toolTip = "Change the pressure to see how this affects deformation."}}};
+    Slider Select_PressureR{*this, "Select_PressureR", {.max = 500, .value = 175}};
     OptionButton FrontTyreAnal{*this, "FrontTyreAnal", {.checked = true, .group = 2}};
     OptionButton RearTyreAnal{*this, "RearTyreAnal", {.group = 2}};
     Panel TyreGraphAnal{*this, "TyreGraphAnal"};
@@ -179,22 +168,17 @@ public:
     Slider ZoomSideOn{
         *this, "ZoomSideOn", {.min = 100, .max = 750, .value = 130, .smallStep = 25, .largeStep = 100, .tick = 50}};
     Panel TyreNumAnal{*this, "TyreNumAnal"};
-    Label CPW{*this, "CPW", {.toolTip = "This is the width of the tyre."}};
-    Label CPL{*this, "CPL", {.toolTip = "This is how long the footprint of the tyre is on the road."}};
-    Label CPA{*this, "CPA", {.toolTip = "This is how much rubber is in contact with the road."}};
-    Label CPAR{*this, "CPAR", {.toolTip = "This is the shape of the tyre footprint on the road. Visualised above."}};
-    Label FRCPR{*this,
-                "FRCPR",
-                {.toolTip = "This shows the relative difference in sizes between the front and rear contact patches"}};
-    Label MU{*this, "MU", {.toolTip = "This affects how much grip the tyre has"}};
+    Label CPW{*this, "CPW"};
+    Label CPL{*this, "CPL"};
+    Label CPA{*this, "CPA"};
+    Label CPAR{*this, "CPAR"};
+    Label FRCPR{*this, "FRCPR"};
+    Label MU{*this, "MU"};
     Label TS{*this, "TS"};
     Label TF{*this, "TF"};
     Label UTR{*this, "UTR"};
-    Label TD{*this, "TD", {.toolTip = "How much the tyre has deformed vertically under load."}};
-    Label TRRC{*this,
-               "TRRC",
-               {.toolTip = "This is the effective rolling radius of the tyre after weight has been placed upon the "
-                           "wheel."}};
+    Label TD{*this, "TD"};
+    Label TRRC{*this, "TRRC"};
     Label TWH{*this, "TWH"};
 
     // Page 3: Aerodynamics
@@ -221,9 +205,9 @@ public:
     Label Aero_TotalDrag{*this, "Aero_TotalDrag"};
     Label Aero_TotalLift{*this, "Aero_TotalLift"};
     Label Aero_TotalLDR{*this, "Aero_TotalLDR"};
-    Label Aero_DragSplit{*this, "Aero_DragSplit", {.toolTip = "Air Drag / Rolling Resistance"}};
+    Label Aero_DragSplit{*this, "Aero_DragSplit"};
     Label Aero_RR{*this, "Aero_RR"};
-    Label Aero_TotalFriction{*this, "Aero_TotalFriction", {.toolTip = "Includes all aero drag and rolling resistance"}};
+    Label Aero_TotalFriction{*this, "Aero_TotalFriction"};
     Label Aero_ForceFrontWheels{*this, "Aero_ForceFrontWheels"};
     Label Aero_ForceRearWheels{*this, "Aero_ForceRearWheels"};
     Label Aero_ForceDistribution{*this, "Aero_ForceDistribution"};

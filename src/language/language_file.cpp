@@ -9,6 +9,7 @@
 
 #include "fields/windows.h"
 #include "language/caption_table.h"
+#include "language/field_words.h"
 #include "language/language_state.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
@@ -78,6 +79,7 @@ void ChangeLanguage() {
         ShowMessage("Language file does not have the correct number of lines. Loading failed.");
         return;
     }
+    LoadWords(name);  // first, for the lists that are rebuilt below calculate and show
     AssignLines(lines);
     languageFollowUps.LanguageChanged();
 }

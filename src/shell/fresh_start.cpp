@@ -6,11 +6,13 @@
 #include "files/file_state.h"
 #include "gearing/gearing_state.h"
 #include "language/caption_table.h"
+#include "language/field_words.h"
 #include "language/language_state.h"
 #include "platform/text_files.h"
 #include "plots/engine_plot.h"
 #include "shell/shell_state.h"
 #include "shell/wiring.h"
+#include "text/words.h"
 #include "tyres/tyre_state.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
@@ -23,6 +25,7 @@ void FreshStart() {
     platform = {};
     guards = {};
     texts = {};
+    words = {};
     units = {};
     options = {};
     vehicle = {};
@@ -37,6 +40,7 @@ void FreshStart() {
     shellFollowUps = {};  // no wiring hangs it up anew
     ResetWindows();
     AssignBuiltInCaptions();
+    AssignFieldWords();
     WireEvents();
 }
 

@@ -67,6 +67,8 @@ void WireFollowUps() {
         Recalculate();
     };
     languageFollowUps.LanguageChanged = [] {
+        ShowAeroWords();
+        ShowConverterWords();
         ShowCarInfo();
         Recalculate();
     };

@@ -10,6 +10,11 @@ namespace zolv {
 /// Writes: the row's output
 void ConvertUnits(ConverterRow& row);
 
+/// The language has changed: writes the words among the converter's figures and the long names in its lists anew.
+/// Reads:  the rows, units.Mass.UnitNames
+/// Writes: the rows' outputs, the list of masses
+void ShowConverterWords();
+
 /// Turns the measured sizes of a tyre into width / profile R rim: the profile is the sidewall as a percentage of the
 /// width, the rim in inches. A size below 1 mm is refused with a message, and the output stays; a tyre lower than its
 /// rim is not. Also the load of the window, so that the output stands as soon as the window is open.

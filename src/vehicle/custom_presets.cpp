@@ -12,6 +12,7 @@
 #include "platform/dialogs.h"
 #include "text/number_text.h"
 #include "text/texts.h"
+#include "text/words.h"
 #include "vehicle/preset_figures.h"
 #include "vehicle/preset_state.h"
 #include "vehicle/vehicle_state.h"
@@ -268,7 +269,7 @@ void UpdatePreset() {
 std::optional<int> ChosenPreset() {
     const int preset = vehicle.FindPreset(CustomPresets.EditName.Text());
     if (preset >= 0) return preset;
-    ShowMessage("You must select a custom preset first.");
+    ShowMessage(words["SelectPresetFirst"]);
     return std::nullopt;
 }
 

@@ -62,7 +62,7 @@ TEST_F(Batch, TellsItsUseAndItsVersion) {
     const BatchRun help = RunBatch("", "--help");
     EXPECT_EQ(help.status, 0);
     for (const char* command : {"set FIELD VALUE", "click FIELD", "get FIELD", "canvas FIELD", "picture FIELD FILE",
-                                "answer PATH", "write-language FILE", "report"}) {
+                                "answer PATH", "write-language FILE", "write-words FILE", "report"}) {
         EXPECT_THAT(help.output, HasSubstr(command));
     }
     EXPECT_EQ(RunBatch("", "--version").output, "zolv-batch 2.5.3\n");
@@ -118,13 +118,16 @@ TEST_F(Batch, LosesNoAnswerWithoutAWord) {
 }
 
 TEST_F(Batch, WritesPicturesAndTheBuiltInLanguage) {
-    const BatchRun run = RunBatch("picture SpeedPlot my plot.svg\nwrite-language language_English.txt\nget Zolv\n");
+    const BatchRun run = RunBatch(
+        "picture SpeedPlot my plot.svg\nwrite-language language_English.txt\nwrite-words words_English.txt\n"
+        "get Zolv\n");
     EXPECT_EQ(run.errors, "");
     EXPECT_THAT(run.Answers(), ElementsAre("Zolv = Tarmaq Zolv"));
     EXPECT_THAT(ContentOf("my plot.svg"), AllOf(HasSubstr("<svg "), HasSubstr("viewBox=\"0 0 4635 3015\"")));
     const std::string words = ContentOf("language_English.txt");
     EXPECT_THAT(words, StartsWith("English\r\n"));
     EXPECT_EQ(std::count(words.begin(), words.end(), '\n'), 338) << "339 lines, the last without an end";
+    EXPECT_THAT(ContentOf("words_English.txt"), HasSubstr("\nDegrees = degrees\n"));
 }
 
 // Figures of the set-up at start, as the scripts have them from a separate calculation.

@@ -1,8 +1,13 @@
 // Words and units: another language, another unit, another locale.
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QSlider>
@@ -12,11 +17,12 @@
 #include "desktop/value_label.h"
 #include "language/caption_table.h"
 #include "suites.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
 
-class Words : public DesktopTest {
+class WordsSuite : public DesktopTest {
     Q_OBJECT
 
     void Prepare() override {
@@ -24,10 +30,15 @@ class Words : public DesktopTest {
         QVERIFY(Write("language_English.txt", QByteArray::fromStdString(BuiltInLanguage())));
         QVERIFY(
             Write("language_Other.txt", LanguageOf([](int line) { return "Zeile" + QByteArray::number(line) + "z"; })));
+        QVERIFY(Write("words_Other.txt", Replaced()));
     }
+
+    /// The words with another in place of each, German for Qt.
+    static QByteArray Replaced();
 
 private Q_SLOTS:
     void AnotherLanguageReachesAllThatCanBeRead();
+    void AnotherLanguageReachesMenusAndDialogs();
     void UnitOfSpeedReachesAllLabels_data();
     void UnitOfSpeedReachesAllLabels();
     void FiguresKeepTheirWidthInEachUnit();
@@ -56,15 +67,6 @@ constexpr Kept kKept[] = {
     {"GearingLabel\\((3[0-4]|36|37)\\)", "speeds and distances with their unit"},
 };
 
-bool IsToolTipOrTitle(const QString& name) {
-    return name.contains(QLatin1String(" tool tip")) || name.endsWith(QLatin1String(" title"));
-}
-
-/// Some tool tips and a title are the same in every language.
-bool HasLine(const QString& text) {
-    return std::ranges::any_of(CaptionTable(), [&](const CaptionLine& line) { return ToQt(line.builtIn) == text; });
-}
-
 bool IsKept(const QString& window, const QString& name) {
     for (const Kept& kept : kKept) {
         if (!QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(kept.names)))
@@ -87,7 +89,7 @@ bool IsFigure(const QString& text) {
            text == QLatin1String("N/A");
 }
 
-void Words::AnotherLanguageReachesAllThatCanBeRead() {
+void WordsSuite::AnotherLanguageReachesAllThatCanBeRead() {
     std::map<QString, std::map<QString, QString>> before;
     for (const Window* window : AllWindows()) {
         before[ToQt(window->Name())] = TextsOf(WindowNamed(window->Name().c_str()));
@@ -99,9 +101,7 @@ void Words::AnotherLanguageReachesAllThatCanBeRead() {
         const std::map<QString, QString> now = TextsOf(WindowNamed(window.toLatin1().constData()));
         for (const auto& [name, text] : texts) {
             if (now.contains(name) && now.at(name) != text) ++changed;
-            if (IsFigure(text) || IsKept(window, name) || (IsToolTipOrTitle(name) && !HasLine(text)) ||
-                !now.contains(name) || now.at(name) != text)
-                continue;
+            if (IsFigure(text) || IsKept(window, name) || !now.contains(name) || now.at(name) != text) continue;
             unchanged << window + u'.' + name + QStringLiteral(" = ") + text;
         }
     }
@@ -110,7 +110,43 @@ void Words::AnotherLanguageReachesAllThatCanBeRead() {
     QVERIFY(changed > 250);
 }
 
-void Words::UnitOfSpeedReachesAllLabels_data() {
+QByteArray WordsSuite::Replaced() {
+    QByteArray file;
+    for (const WordRow& row : kWordTable) {
+        QByteArray text = row.name == "LocaleCode" ? "de" : "Wort";
+        if (row.english.find("{0}") != std::string_view::npos) text += "{0}";
+        if (row.english.find("{1}") != std::string_view::npos) text += "{1}";
+        file += QByteArray(row.name.data(), static_cast<qsizetype>(row.name.size())) + " = " + text + '\n';
+    }
+    return file;
+}
+
+void WordsSuite::AnotherLanguageReachesMenusAndDialogs() {
+    const auto entries = [] {
+        auto& plot = Find<QWidget>("SpeedPlot");
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QApplication::sendEvent(&plot, &event);
+        const auto* const menu = plot.findChild<QMenu*>();
+        QStringList texts;
+        for (const QAction* action : menu->actions()) texts << action->text();
+        delete menu;
+        return texts;
+    };
+    const auto cancel = [] { return QDialogButtonBox(QDialogButtonBox::Cancel).buttons().first()->text(); };
+    const QString english = cancel();
+    ClickTab("Select_Page", 1);
+    QCOMPARE(entries().first(), QStringLiteral("&Copy picture"));
+
+    PickWithKeys(Find<QComboBox>("LanguageList", "LanguageSelection"), 1);
+    for (const QString& text : entries()) QCOMPARE(text, QStringLiteral("Wort"));
+    QVERIFY2(cancel().contains(QLatin1String("Abbrechen")), "Qt's translations, qt6-translations-l10n, are not there");
+
+    PickWithKeys(Find<QComboBox>("LanguageList", "LanguageSelection"), 0);
+    QCOMPARE(entries().first(), QStringLiteral("&Copy picture"));
+    QCOMPARE(cancel(), english);
+}
+
+void WordsSuite::UnitOfSpeedReachesAllLabels_data() {
     QTest::addColumn<int>("unit");
     QTest::addColumn<QString>("suffix");
     QTest::addColumn<double>("factor");
@@ -120,7 +156,7 @@ void Words::UnitOfSpeedReachesAllLabels_data() {
     QTest::newRow("FeetPerSecond") << 4 << " ft/s" << 1 / 0.3048;
 }
 
-void Words::UnitOfSpeedReachesAllLabels() {
+void WordsSuite::UnitOfSpeedReachesAllLabels() {
     QFETCH(int, unit);
     QFETCH(QString, suffix);
     QFETCH(double, factor);
@@ -155,7 +191,7 @@ std::map<QString, QRect> Places(QWidget& window) {
     return places;
 }
 
-void Words::FiguresKeepTheirWidthInEachUnit() {
+void WordsSuite::FiguresKeepTheirWidthInEachUnit() {
     QWidget& main = WindowNamed("Zolv");
     QStringList changed;
     for (const int page : {1, 2, 3}) {
@@ -178,7 +214,7 @@ void Words::FiguresKeepTheirWidthInEachUnit() {
     ExpectNone(changed);
 }
 
-void Words::FiguresKeepTheirPlacesWhileASliderMoves() {
+void WordsSuite::FiguresKeepTheirPlacesWhileASliderMoves() {
     QWidget& main = WindowNamed("Zolv");
     QStringList moved;
     Windows().TheBinding().Act([] { Zolv.Select_Car.SetText("Series Mu"); });
@@ -216,7 +252,7 @@ std::map<QString, QString> Everything() {
     return texts;
 }
 
-void Words::DecimalCommaOfTheLocaleChangesNoNumber() {
+void WordsSuite::DecimalCommaOfTheLocaleChangesNoNumber() {
     const QByteArray before = std::setlocale(LC_ALL, nullptr);
     const auto work = [] {
         ClickTab("Select_Page", 1);
@@ -238,7 +274,7 @@ void Words::DecimalCommaOfTheLocaleChangesNoNumber() {
     for (const auto& [name, text] : withPoint) QCOMPARE(withComma.at(name), text);
 }
 
-const bool added = AddSuite<Words>("Words");
+const bool added = AddSuite<WordsSuite>("Words");
 
 }  // namespace
 }  // namespace zolv

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <map>
 #include <set>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "language/language_state.h"
 #include "platform/text_files.h"
 #include "support/zolv_test.h"
+#include "text/words.h"
 #include "units/option_state.h"
 
 namespace zolv {
@@ -108,6 +110,7 @@ TEST_P(ShippedLanguage, AccessKeysDifferWithinAMenu) {
 }
 
 // What is the same word in English: names of units, terms of the trade, and loan words.
+const std::set<std::string> kWordsAsInEnglish = {"German Neutral"};
 const std::map<std::string, std::set<int>> kAsInEnglish = {
     {"French", {15, 68, 266, 272, 277, 279, 280, 289, 322}},  // options, slick, force; regular plurals of units
     {"German", {26, 66, 68, 268, 274, 285}},                  // info, hybrid, slick; bar, slug, gal
@@ -133,8 +136,49 @@ TEST_P(ShippedLanguage, NothingIsLeftInEnglish) {
     EXPECT_EQ(same, kAsInEnglish.at(GetParam()));
 }
 
+/// The names of a file of words, in its order; each line that is no remark has one.
+std::vector<std::string> NamesOf(const std::string& file) {
+    std::vector<std::string> names;
+    std::istringstream lines(file);
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with('#')) names.push_back(line.substr(0, line.find(" = ")));
+    }
+    return names;
+}
+
+// Of English there is only what the built-in words misspell.
+TEST_P(ShippedLanguage, HasEachWordByItsName) {
+    const std::string file = Shipped("words_" + GetParam() + ".txt");
+    const Words read = Words::Read(file);
+    const std::vector<std::string> names = NamesOf(file);
+    const std::set<std::string> given(names.begin(), names.end());
+    EXPECT_THAT(names, SizeIs(given.size())) << "a name stands twice";
+    std::set<std::string> taken;
+    for (std::size_t row = 0; row < kWordTable.size(); ++row) {
+        const std::string name(kWordTable[row].name);
+        const bool isGiven = given.contains(name);
+        if (isGiven) taken.insert(name);
+        if (GetParam() != "English") {
+            EXPECT_TRUE(isGiven) << name << " has no word";
+        }
+        if (isGiven && !kWordsAsInEnglish.contains(GetParam() + ' ' + name)) {
+            EXPECT_NE(read.OfRow(row), kWordTable[row].english) << name << " was left in English, or passed over";
+        }
+    }
+    EXPECT_EQ(taken, given) << "a name that nothing has";
+}
+
+// The keys of the menu of a drawing.
+TEST_P(ShippedLanguage, AccessKeysOfTheDrawingsMenuDiffer) {
+    const Words read = Words::Read(Shipped("words_" + GetParam() + ".txt"));
+    const std::set<std::string> keys = {KeysOf(read["CopyPicture"]), KeysOf(read["SaveAsSvgEntry"]),
+                                        KeysOf(read["SaveAsPngEntry"])};
+    EXPECT_THAT(keys, testing::AllOf(SizeIs(3), testing::Each(testing::MatchesRegex("[A-Z]"))));
+}
+
 TEST_P(ShippedLanguage, LoadsInAStartedProgram) {
     Start();
+    fs::copy(kData / ("words_" + GetParam() + ".txt"), fs::current_path());
     fs::copy(kData / ("language_" + GetParam() + ".txt"), fs::current_path());
     LanguageSelection.LanguageList.Add(GetParam());
     LanguageSelection.LanguageList.SetText(GetParam());

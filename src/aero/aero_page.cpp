@@ -6,7 +6,7 @@
 #include "aero/aero_state.h"
 #include "fields/guards.h"
 #include "fields/windows.h"
-#include "model/aero_model.h"
+#include "model/air_sheet.h"
 #include "model/whole_number.h"
 #include "text/number_text.h"
 #include "text/words.h"
@@ -15,48 +15,9 @@
 
 namespace zolv {
 
-AeroState aero;
-
-AirProfile AeroState::Profile() const {
-    return ProfileOf(vehicle.CurrentCar, Undertray, FrontWing, RearWing, AirDensity);
-}
+AirProfile AeroState::Profile() const { return ProfileOf(vehicle.CurrentCar, Parts); }
 
 namespace {
-
-void StoreForces(const AirForces& forces) {
-    aero.BodyDrag = static_cast<float>(forces.BodyDrag);
-    aero.BodyLift = static_cast<float>(forces.BodyLift);
-    aero.UndertrayDrag = static_cast<float>(forces.UndertrayDrag);
-    aero.UndertrayLift = static_cast<float>(forces.UndertrayLift);
-    aero.FrontWingDrag = static_cast<float>(forces.FrontWingDrag);
-    aero.FrontWingLift = static_cast<float>(forces.FrontWingLift);
-    aero.RearWingDrag = static_cast<float>(forces.RearWingDrag);
-    aero.RearWingLift = static_cast<float>(forces.RearWingLift);
-    aero.TotalDrag = static_cast<float>(forces.TotalDrag);
-    aero.TotalLift = static_cast<float>(forces.TotalLift);
-    aero.RollingResistance = static_cast<float>(forces.RollingResistance);
-    aero.TotalFriction = static_cast<float>(forces.TotalFriction);
-}
-
-/// At the slider's speed the sums are sums of stored values, unlike those at the top speed.
-void StoreForcesAtSliderSpeed() {
-    aero.AeroSpeedValue = ToInt16(Zolv.Select_AeroSpeed.Value());
-    const double speed = aero.AeroSpeedValue;
-    StoreForces(ForcesAt(speed, aero.Profile()));
-    const auto sum = [](double a, double b, double c, double d) { return static_cast<float>(a + b + c + d); };
-    aero.TotalDrag = sum(aero.BodyDrag, aero.UndertrayDrag, aero.FrontWingDrag, aero.RearWingDrag);
-    aero.TotalLift = sum(aero.BodyLift, aero.UndertrayLift, aero.FrontWingLift, aero.RearWingLift);
-    aero.RollingResistance = static_cast<float>(
-        RollingCoefficient(speed) * (vehicle.CurrentCar.Mass * kGravity - static_cast<double>(aero.TotalLift)));
-    aero.TotalFriction = static_cast<float>(static_cast<double>(aero.TotalDrag) + aero.RollingResistance);
-}
-
-/// What the page derives from the axle loads and lifts.
-struct Distribution {
-    double force = 0;           // share of the load on the front axle
-    double aero = 0;            // share of the lift on the front axle; 0 when the front has none
-    double weightMultiple = 0;  // load on the road over weight
-};
 
 /// Lift over drag, positive for a part that presses the car down.
 std::string RatioText(float lift, float drag) {
@@ -74,9 +35,9 @@ void ShowBody(const CarRecord& car) {
     Zolv.Aero_BodyCl.SetCaption(NumberText(car.Cl));
     Zolv.Aero_FrontalArea.SetCaption(units.Area.Text(car.FrontalArea));
     Zolv.Aero_BodyCdA.SetCaption(units.Area.NumberOf(static_cast<double>(car.Cd) * car.FrontalArea));
-    Zolv.Aero_BodyAirDrag.SetCaption(units.Force.Text(aero.BodyDrag));
-    Zolv.Aero_BodyLift.SetCaption(units.Force.Text(aero.BodyLift));
-    Zolv.Aero_BodyLDR.SetCaption(RatioText(aero.BodyLift, aero.BodyDrag));
+    Zolv.Aero_BodyAirDrag.SetCaption(units.Force.Text(aero.Forces.BodyDrag));
+    Zolv.Aero_BodyLift.SetCaption(units.Force.Text(aero.Forces.BodyLift));
+    Zolv.Aero_BodyLDR.SetCaption(RatioText(aero.Forces.BodyLift, aero.Forces.BodyDrag));
 }
 
 void ShowFitting(FittingLabels& labels, const Fitting& fitting, float drag, float lift) {
@@ -88,14 +49,14 @@ void ShowFitting(FittingLabels& labels, const Fitting& fitting, float drag, floa
 }
 
 void ShowTotals() {
-    Zolv.Aero_TotalDrag.SetCaption(units.Force.Text(aero.TotalDrag));
-    Zolv.Aero_TotalLift.SetCaption(units.Force.Text(aero.TotalLift));
-    Zolv.Aero_TotalLDR.SetCaption(RatioText(aero.TotalLift, aero.TotalDrag));
-    const double friction = aero.TotalFriction;
+    Zolv.Aero_TotalDrag.SetCaption(units.Force.Text(aero.Forces.TotalDrag));
+    Zolv.Aero_TotalLift.SetCaption(units.Force.Text(aero.Forces.TotalLift));
+    Zolv.Aero_TotalLDR.SetCaption(RatioText(aero.Forces.TotalLift, aero.Forces.TotalDrag));
+    const double friction = aero.Forces.TotalFriction;
     Zolv.Aero_DragSplit.SetCaption(
-        SplitText(aero.TotalDrag / friction * 100, aero.RollingResistance / friction * 100, 0));
-    Zolv.Aero_RR.SetCaption(units.Force.Text(aero.RollingResistance));
-    Zolv.Aero_TotalFriction.SetCaption(units.Force.Text(aero.TotalFriction));
+        SplitText(aero.Forces.TotalDrag / friction * 100, aero.Forces.RollingResistance / friction * 100, 0));
+    Zolv.Aero_RR.SetCaption(units.Force.Text(aero.Forces.RollingResistance));
+    Zolv.Aero_TotalFriction.SetCaption(units.Force.Text(aero.Forces.TotalFriction));
 }
 
 /// The balance of the lift against that of the weight: within half a per cent either side counts as neutral.
@@ -127,12 +88,12 @@ void ShowAeroDistribution(double share, double weightDist) {
         aero.Balance == AirBalance::None ? "N/A" : SplitText(100 * share, (1 - share) * 100, 1));
 }
 
-void ShowDistribution(const Distribution& distribution) {
+void ShowDistribution(const AirSheet& air) {
     Zolv.Aero_ForceFrontWheels.SetCaption(units.Force.Text(aero.FrontWheelForce));
     Zolv.Aero_ForceRearWheels.SetCaption(units.Force.Text(aero.RearWheelForce));
-    Zolv.Aero_ForceDistribution.SetCaption(SplitText(100 * distribution.force, (1 - distribution.force) * 100, 1));
-    ShowAeroDistribution(distribution.aero, vehicle.CurrentCar.WeightDist);
-    Zolv.Aero_WeightMultiple.SetCaption(RoundedText(distribution.weightMultiple, 2));
+    Zolv.Aero_ForceDistribution.SetCaption(SplitText(100 * air.ForceDistribution, (1 - air.ForceDistribution) * 100, 1));
+    ShowAeroDistribution(air.AeroDistribution, vehicle.CurrentCar.WeightDist);
+    Zolv.Aero_WeightMultiple.SetCaption(RoundedText(air.WeightMultiple, 2));
 }
 
 void ShowAeroSpeed() {
@@ -156,13 +117,13 @@ void ShowGeneral() {
     ShowAeroSpeed();
 }
 
-void ShowAeroPage(const Distribution& distribution) {
+void ShowAeroPage(const AirSheet& air) {
     ShowBody(vehicle.CurrentCar);
-    ShowFitting(Zolv.Undertray, aero.Undertray, aero.UndertrayDrag, aero.UndertrayLift);
-    ShowFitting(Zolv.FrontWing, aero.FrontWing, aero.FrontWingDrag, aero.FrontWingLift);
-    ShowFitting(Zolv.RearWing, aero.RearWing, aero.RearWingDrag, aero.RearWingLift);
+    ShowFitting(Zolv.Undertray, aero.Parts.Undertray, aero.Forces.UndertrayDrag, aero.Forces.UndertrayLift);
+    ShowFitting(Zolv.FrontWing, aero.Parts.FrontWing, aero.Forces.FrontWingDrag, aero.Forces.FrontWingLift);
+    ShowFitting(Zolv.RearWing, aero.Parts.RearWing, aero.Forces.RearWingDrag, aero.Forces.RearWingLift);
     ShowTotals();
-    ShowDistribution(distribution);
+    ShowDistribution(air);
     ShowGeneral();
 }
 
@@ -177,37 +138,28 @@ void FindTopSpeed() {
     const CarRecord& car = vehicle.CurrentCar;
     const TopSpeedResult top = TopSpeedOf(aero.Profile(), static_cast<double>(car.Power) * car.Efficiency);
     aero.TopSpeed = top.speed;
-    if (aero.FixedSpeedMode) StoreForces(top.forces);
+    if (aero.FixedSpeedMode) aero.Forces = RoundedForces(top.forces);
 }
 
 void CalcAeroCoefficients() {
-    const CarRecord& car = vehicle.CurrentCar;
     aero.FrontWingAngle = ToInt16(Zolv.Select_FrontWingAngle.Value());
     aero.RearWingAngle = ToInt16(Zolv.Select_RearWingAngle.Value());
-    aero.Undertray = UndertrayOf(car.UndertrayType);
-    aero.FrontWing = FrontWingOf(car.FrontWingType, aero.FrontWingAngle);
-    aero.RearWing = RearWingOf(car.RearWingType, aero.RearWingAngle);
+    aero.Parts = FittingsOf(vehicle.CurrentCar, aero.FrontWingAngle, aero.RearWingAngle);
     FindTopSpeed();
     if (guards.Loading) return;
-    aero.TopSpeedFound();
+    aeroFollowUps.TopSpeedFound();
     CalcAeroForces();
 }
 
 void CalcAeroForces() {
-    if (!aero.FixedSpeedMode) StoreForcesAtSliderSpeed();
-
-    const AirProfile car = aero.Profile();
-    const AxleLoads lift = LiftOnAxles(aero.BodyLift, aero.UndertrayLift, aero.FrontWingLift, aero.RearWingLift, car,
-                                       car.Undertray.Position);
-    const AxleLoads loads = LoadsUnder(lift, car);
-    aero.FrontWheelForce = static_cast<float>(loads.front);
-    aero.RearWheelForce = static_cast<float>(loads.rear);
-
-    const double front = aero.FrontWheelForce;
-    const double weight = car.Mass * kGravity;
-    ShowAeroPage({.force = front / (static_cast<double>(aero.RearWheelForce) + front),
-                  .aero = lift.front == 0 ? 0 : lift.front / (lift.front + lift.rear),
-                  .weightMultiple = (weight - aero.TotalLift) / weight});
+    if (!aero.FixedSpeedMode) {
+        aero.AeroSpeedValue = ToInt16(Zolv.Select_AeroSpeed.Value());
+        aero.Forces = ForcesAtChosenSpeed(aero.AeroSpeedValue, aero.Profile());
+    }
+    const AirSheet air = StandUnder(aero.Forces, aero.Parts, aero.Profile());
+    aero.FrontWheelForce = air.FrontWheelForce;
+    aero.RearWheelForce = air.RearWheelForce;
+    ShowAeroPage(air);
 }
 
 void ShowAeroWords() {

@@ -3,7 +3,7 @@
 namespace zolv {
 
 /// Takes the coefficients of the fittings at their present angles and finds the top speed. Unless the program is
-/// loading, it then raises aero.TopSpeedFound and runs CalcAeroForces.
+/// loading, it then raises TopSpeedFound and runs CalcAeroForces.
 /// Reads:  Select_FrontWingAngle, Select_RearWingAngle, vehicle.CurrentCar, aero.FixedSpeedMode, guards.Loading
 /// Writes: aero
 void CalcAeroCoefficients();

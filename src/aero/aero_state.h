@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "model/aero_model.h"
+#include "model/air_sheet.h"
 #include "platform/hook.h"
 
 namespace zolv {
@@ -14,17 +14,11 @@ struct AeroState {
     bool FixedSpeedMode = false;      // forces are those at the top speed; otherwise those at the slider's speed
     std::int16_t AeroSpeedValue = 0;  // [m/s] the slider's speed
     std::int16_t FrontWingAngle = 0, RearWingAngle = 0;  // [degrees]
-    Fitting Undertray, FrontWing, RearWing;              // at those angles
+    Fittings Parts;                                      // at those angles
     float AirTemperature = 293.15F;                      // [K] shown only; the density does not follow from it
     float AirDensity = kAirDensity;                      // [kg/m^3]
 
-    // Forces at the speed in force [N]
-    float BodyDrag = 0, BodyLift = 0;
-    float UndertrayDrag = 0, UndertrayLift = 0;
-    float FrontWingDrag = 0, FrontWingLift = 0;
-    float RearWingDrag = 0, RearWingLift = 0;
-    float TotalDrag = 0, TotalLift = 0;
-    float RollingResistance = 0, TotalFriction = 0;
+    StoredForces Forces;  // at the speed in force
 
     float TopSpeed = 0;  // [m/s]
     AirBalance Balance = AirBalance::None;
@@ -33,11 +27,15 @@ struct AeroState {
     // of its last step, until the next CalcAeroForces.
     float FrontWheelForce = 0, RearWheelForce = 0;
 
-    Hook TopSpeedFound;  // the gearing has a new ceiling and new fittings; not raised during the load
-
     /// The car in use with its fittings, as the model takes it.
     [[nodiscard]] AirProfile Profile() const;
 };
-extern AeroState aero;
+inline AeroState aero;
+
+/// What follows; shell/wiring says what that is.
+struct AeroFollowUps {
+    Hook TopSpeedFound;  // the gearing has a new ceiling and new fittings; not raised during the load
+};
+inline AeroFollowUps aeroFollowUps;
 
 }  // namespace zolv

@@ -9,6 +9,7 @@
 #include "batch/text_table.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
+#include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
 #include "text/number_text.h"
 #include "text/texts.h"
@@ -104,27 +105,15 @@ void PrintCar() {
 
 int GearsOfCar() { return vehicle.CurrentCar.NumGears < kGears ? vehicle.CurrentCar.NumGears : kGears; }
 
-/// The gears whose next gear is out of order: a ratio above that of the gear below it, or a speed below it. The report
-/// on TorquePlot may be that of the other direction, or drawn over by it.
-std::vector<int> GearsInWrongOrder(GearingPanel& panel) {
-    std::vector<int> wrong;
-    for (int gear = 1; gear < GearsOfCar(); ++gear) {
-        const double lower = Val(panel.Input[gear].Text());
-        const double upper = Val(panel.Input[gear + 1].Text());
-        if (gearing.RatiosMode ? upper > lower : upper < lower) wrong.push_back(gear);
-    }
-    return wrong;
-}
-
 std::string GearName(int gear) { return texts.GearNames[static_cast<std::size_t>(gear)]; }
 
 void PrintOrderErrors(const std::vector<int>& wrong) {
-    const bool ratios = gearing.RatiosMode;
-    PrintLine("  " + (ratios ? texts.TextSpeedsNotUpdated : texts.TextRatiosNotUpdated) + ' ' + texts.TextBecauseOfThe +
-              ' ' + NumberText(static_cast<int>(wrong.size())) + ' ' + texts.TextErrors);
+    const OrderWords words = OrderWordsOf(gearing.From());
+    PrintLine("  " + words.notUpdated + ' ' + texts.TextBecauseOfThe + ' ' +
+              NumberText(static_cast<int>(wrong.size())) + ' ' + texts.TextErrors);
     for (const int gear : wrong) {
-        PrintLine("    " + (ratios ? texts.TextRatioFor : texts.TextSpeedFor) + ' ' + GearName(gear + 1) + ' ' +
-                  (ratios ? texts.TextCannotBeShorter : texts.TextCannotBeLess) + ' ' + GearName(gear));
+        PrintLine("    " + words.theNumberFor + ' ' + GearName(gear + 1) + ' ' + words.isWrongAgainst + ' ' +
+                  GearName(gear));
     }
     PrintLine("");
 }
@@ -162,10 +151,10 @@ void PrintAcceleration() {
 }
 
 void PrintGearing() {
-    GearingPanel& panel = Zolv.GearingOf(gearing.Mode());
+    GearingPanel& panel = gearing.RatiosMode ? Zolv.Ratios : Zolv.Speeds;
     const OptionButton& direction = gearing.RatiosMode ? Zolv.Direction1 : Zolv.Direction2;
     PrintHeading(Shown(Zolv.Select_Page.Rows()[1]) + ": " + Shown(direction.Caption()));
-    const std::vector<int> wrong = GearsInWrongOrder(panel);
+    const std::vector<int>& wrong = gearing.WrongOrder;
     if (!wrong.empty()) PrintOrderErrors(wrong);
     PrintLine("  " + Zolv.GearingLabel[0].Caption() + ' ' + panel.FinalDrive.Text());
     PrintLine("");

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -20,6 +21,10 @@ namespace zolv {
 namespace {
 
 const AccelTargets& PresentTargets() { return AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)]; }
+
+std::span<const AccelRow> PresentRun() {
+    return std::span(gearing.AccelRows).first(static_cast<std::size_t>(gearing.AccelLastRow) + 1);
+}
 
 /// How one column of the table is written.
 struct ColumnText {
@@ -72,32 +77,6 @@ void ShowTable() {
     Zolv.AccelerationData.SetCaret(caret);
 }
 
-/// Times [s] to the speed targets, and time and speed at the distance targets; 0 for a target that was not passed.
-struct AccelResults {
-    std::array<float, 5> speedTimes{};
-    std::array<float, 2> distanceTimes{};
-    std::array<float, 2> distanceSpeeds{};
-};
-
-/// The first row that passes a target counts; there is no interpolation between rows.
-AccelResults FindResults() {
-    const AccelTargets& targets = PresentTargets();
-    AccelResults results;
-    for (int i = 0; i <= gearing.AccelLastRow; ++i) {
-        const AccelRow& row = gearing.AccelRows[static_cast<std::size_t>(i)];
-        const auto time = static_cast<float>(i * kTimeStep);
-        for (std::size_t k = 0; k < targets.Speeds.size(); ++k) {
-            if (results.speedTimes[k] == 0 && row[AccelColumn::Speed] > targets.Speeds[k]) results.speedTimes[k] = time;
-        }
-        for (std::size_t k = 0; k < targets.Distances.size(); ++k) {
-            if (results.distanceTimes[k] != 0 || !(row[AccelColumn::Distance] > targets.Distances[k])) continue;
-            results.distanceTimes[k] = time;
-            results.distanceSpeeds[k] = row[AccelColumn::Speed];
-        }
-    }
-    return results;
-}
-
 void ShowTargetNames() {
     const AccelTargets& targets = PresentTargets();
     for (std::size_t k = 0; k < targets.Speeds.size(); ++k) {
@@ -117,7 +96,7 @@ void ShowTargetNames() {
 
 void ShowFigures(const AccelResults& results, double endSpeed) {
     for (int k = 0; k < 5; ++k) {
-        const float time = results.speedTimes[static_cast<std::size_t>(k)];
+        const float time = results.SpeedTimes[static_cast<std::size_t>(k)];
         // The first target alone has no "N/A".
         Zolv.AccDataLabel[k].SetCaption(time == 0 && k > 0 ? "N/A" : WithUnit(time, 2, "s"));
     }
@@ -126,22 +105,24 @@ void ShowFigures(const AccelResults& results, double endSpeed) {
     Zolv.AccDataLabel[5].SetCaption(units.Speed.Text(endSpeed));
     for (int k = 0; k < 2; ++k) {
         const auto i = static_cast<std::size_t>(k);
-        Zolv.AccDataLabel[6 + 2 * k].SetCaption(WithUnit(results.distanceTimes[i], 1, "s"));
-        Zolv.AccDataLabel[7 + 2 * k].SetCaption("@ " + units.Speed.Text(results.distanceSpeeds[i]));
+        Zolv.AccDataLabel[6 + 2 * k].SetCaption(WithUnit(results.DistanceTimes[i], 1, "s"));
+        Zolv.AccDataLabel[7 + 2 * k].SetCaption("@ " + units.Speed.Text(results.DistanceSpeeds[i]));
     }
 }
 
 }  // namespace
 
 void RunAcceleration() {
-    const AccelerationResult run = Accelerate(PresentAccelerationSetup(), gearing.AccelRows);
+    // A car that stands shows the run before in its second row.
+    const AccelRow second = gearing.AccelRows[1];
+    const AccelerationResult run = Accelerate(PresentAccelerationSetup(), gearing.AccelRows, second);
     gearing.AccelLastRow = static_cast<std::int16_t>(run.LastRow);
     aero.FrontWheelForce = run.FrontLoad;
     aero.RearWheelForce = run.RearLoad;
 
     ShowTable();
     ShowTargetNames();
-    ShowFigures(FindResults(), run.Speed);
+    ShowFigures(ResultsOf(PresentRun(), PresentTargets()), run.Speed);
 }
 
 }  // namespace zolv

@@ -6,8 +6,7 @@ namespace zolv {
 /// AccelerationData and the figures of ShowAcc.
 /// Reads:  gearing, vehicle, tyres, aero, units
 /// Writes: gearing.AccelRows/AccelLastRow, aero.FrontWheelForce/RearWheelForce (those of the last step),
-/// AccelerationData,
-///         GearingLabel(30) to (34), (36), (37), AccDataLabel
+///         AccelerationData, GearingLabel(30) to (34), (36), (37), AccDataLabel
 void RunAcceleration();
 
 }  // namespace zolv

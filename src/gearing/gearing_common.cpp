@@ -1,5 +1,8 @@
 #include "gearing/gearing_common.h"
 
+#include <span>
+#include <string>
+
 #include "fields/windows.h"
 #include "text/number_text.h"
 #include "text/texts.h"
@@ -8,95 +11,85 @@
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
+namespace {
 
-void KeepDrivenDeformation(double deformation) {
-    if (vehicle.CurrentCar.IsRearDriven()) {
-        tyres.RearDeformation = static_cast<float>(deformation);
-    } else {
-        tyres.FrontDeformation = deformation;
-    }
-}
+const std::string& GearName(int gear) { return texts.GearNames[static_cast<std::size_t>(gear)]; }
 
-void CalcReverse() {
-    const auto mode = static_cast<std::size_t>(gearing.Mode());
-    const double revs = PresentShiftRules().TopRevs();
-    gearing.GearRevs[0][0] = static_cast<float>(revs);
-    const SettledGear reverse = SettleGear(PresentRollingCar(), gearing.GearRevs[0][0], gearing.GearRatio[0][0],
-                                           gearing.FinalDrive[mode], kReverseRounds);
-    gearing.GearSpeed[0][0] = reverse.Speed;
-    gearing.GearAxleLoads[0] = reverse.Loads;
-    gearing.GearSpeedFactor[0] = reverse.SpeedFactor;
-}
-
-void CalcGearAxleLoads() {
-    const RollingCar car = PresentRollingCar();
-    const ByGear& speeds = gearing.GearSpeed[static_cast<std::size_t>(gearing.Mode())];
-    for (std::size_t gear = 1; gear <= kGears; ++gear) {
-        gearing.GearAxleLoads[gear] = GearAxleLoadsAt(car, speeds[gear]);
-    }
-}
-
-void CalcGearSpeedFactors() {
-    const RollingCar car = PresentRollingCar();
-    for (std::size_t gear = 0; gear <= kGears; ++gear) {
-        const double deformation = DrivenDeformation(car, gearing.GearAxleLoads[gear]);
-        KeepDrivenDeformation(deformation);
-        gearing.GearSpeedFactor[gear] = SpeedFactorOn(car, car.Driven().UnloadedRadius - deformation);
-    }
-}
-
-void CalcGearTorque(int mode) {
-    const auto m = static_cast<std::size_t>(mode);
-    const CarRecord& car = vehicle.CurrentCar;
-    for (std::size_t gear = 0; gear <= kGears; ++gear) {
-        const double ratio = gear == 0 ? gearing.GearRatio[0][0] : gearing.GearRatio[m][gear];
-        gearing.GearTorque[m][gear] =
-            static_cast<float>(static_cast<double>(car.Torque) * car.Efficiency * ratio * gearing.FinalDrive[m]);
-    }
-}
-
-void ReportOrder(const OrderReport& report, std::span<const int> wrong) {
+void ReportOrder(const OrderWords& words, std::span<const int> wrong) {
     constexpr const char* kLineBreak = "\r\n";
     Canvas& plot = Zolv.TorquePlot.Draw();
     plot.Clear();
     plot.SetInk(kRed);
-    plot.Print(report.notUpdated + kLineBreak + texts.TextBecauseOfThe + ' ' +
+    plot.Print(words.notUpdated + kLineBreak + texts.TextBecauseOfThe + ' ' +
                NumberText(static_cast<int>(wrong.size())) + ' ' + texts.TextErrors + kLineBreak);
     for (const int gear : wrong) {
-        const auto k = static_cast<std::size_t>(gear);
-        plot.Print(report.theNumberFor + ' ' + texts.GearNames[k + 1] + ' ' + report.isWrongAgainst + ' ' +
-                   texts.GearNames[k] + kLineBreak);
+        plot.Print(words.theNumberFor + ' ' + GearName(gear + 1) + ' ' + words.isWrongAgainst + ' ' + GearName(gear) +
+                   kLineBreak);
     }
     plot.SetInk(kBlack);
     if (Zolv.Select_Graphs.Text() != texts.GraphNames[0]) Zolv.Select_Graphs.SetText(texts.GraphNames[0]);
 }
 
-void ShowGearRevs(GearingPanel& panel, int mode) {
-    const auto m = static_cast<std::size_t>(mode);
+}  // namespace
+
+void KeepDrivenDeformation() {
+    if (vehicle.CurrentCar.IsRearDriven()) {
+        tyres.RearDeformation = static_cast<float>(gearing.Loads.Deformation);
+    } else {
+        tyres.FrontDeformation = gearing.Loads.Deformation;
+    }
+}
+
+void CalcReverse() {
+    Gearbox& box = gearing.Present();
+    box.GearRatio[0] = vehicle.CurrentCar.Reverse;
+    SettleReverse(PresentGearedCar(), box.FinalDrive, box, gearing.Loads);
+    for (Gearbox* other : {&gearing.FromRatios, &gearing.FromSpeeds}) {
+        other->GearRatio[0] = box.GearRatio[0];
+        other->GearRevs[0] = box.GearRevs[0];
+        other->GearSpeed[0] = box.GearSpeed[0];
+    }
+}
+
+OrderWords OrderWordsOf(Direction direction) {
+    if (direction == Direction::FromRatios) {
+        return {texts.TextSpeedsNotUpdated, texts.TextRatioFor, texts.TextCannotBeShorter};
+    }
+    return {texts.TextRatiosNotUpdated, texts.TextSpeedFor, texts.TextCannotBeLess};
+}
+
+bool CheckOrder(const ByGear& given, Direction direction) {
+    const std::vector<int> wrong = GearsInWrongOrder(given, direction);
+    if (direction == gearing.From()) gearing.WrongOrder = wrong;
+    if (wrong.empty()) return true;
+    ReportOrder(OrderWordsOf(direction), wrong);
+    return false;
+}
+
+void ShowGearRevs(GearingPanel& panel, const Gearbox& box) {
     const double limit = PresentShiftRules().RevLimit();
     const double torqueRevs = vehicle.CurrentCar.TorqueRPM;
     for (int gear = 1; gear <= kGears; ++gear) {
-        const double revs = gearing.GearRevs[m][static_cast<std::size_t>(gear)];
+        const double revs = box.GearRevs[gear];
         if (gear < kGears) panel.RPM[gear].SetColour(ColourIf(revs > limit, kRed));
         panel.RPM[gear].SetCaption(WithUnit(revs, 0, texts.RpmSuffix));
     }
     for (int gear = 1; gear < kGears; ++gear) {
-        const double revs = gearing.RevsAfterChange[m][static_cast<std::size_t>(gear)];
+        const double revs = box.RevsAfterChange[gear];
         panel.RAC[gear].SetColour(ColourIf(revs < torqueRevs, kBlue));
         panel.RAC[gear].SetCaption(WithUnit(revs, 0, texts.RpmSuffix));
     }
 }
 
-void ShowGearTorque(GearingPanel& panel, int mode) {
-    const ByGear& torque = gearing.GearTorque[static_cast<std::size_t>(mode)];
+void ShowGearTorque(GearingPanel& panel, const Gearbox& box) {
     for (int gear = 1; gear <= kGears; ++gear) {
-        panel.Torque[gear].SetCaption(units.Torque.Text(torque[static_cast<std::size_t>(gear)]));
+        panel.Torque[gear].SetCaption(units.Torque.Text(box.GearTorque[gear]));
     }
-    panel.TorqueR.SetCaption(units.Torque.Text(torque[0]));
+    panel.TorqueR.SetCaption(units.Torque.Text(box.GearTorque[0]));
 }
 
 void ShowReverseSpeed() {
-    const std::string speed = units.Speed.Text(gearing.GearSpeed[0][0]);
+    const std::string speed = units.Speed.Text(gearing.Present().GearSpeed[0]);
     for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) panel->SpeedR.SetCaption(speed);
 }
 

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <span>
-#include <string>
-
 #include "fields/zolv_window.h"
 #include "gearing/gearing_state.h"
 
@@ -10,38 +7,32 @@
 namespace zolv {
 
 /// Works out reverse with the final drive of the page that is the input.
-/// Reads:  vehicle, tyres, aero, options, gearing.GearRatio[0][0], FinalDrive
-/// Writes: gearing.GearRevs/GearSpeed[0][0], GearAxleLoads/GearSpeedFactor[0]
+/// Reads:  vehicle, tyres, aero, options, gearing.Present()
+/// Writes: entry 0 of both gearboxes and of gearing.Loads
 void CalcReverse();
 
-/// Fills gearing.GearAxleLoads of the forward gears at the speeds of the page that is the input.
-void CalcGearAxleLoads();
+/// Keeps the driven tyre's deformation in gear 6 where the side view of the tyre finds it.
+/// Writes: tyres.FrontDeformation or RearDeformation
+void KeepDrivenDeformation();
 
-/// Turns gearing.GearAxleLoads into gearing.GearSpeedFactor: this is where the rolling radius comes from. Leaves the
-/// deformation of gear 6 on the driven axle.
-void CalcGearSpeedFactors();
+/// Stores which gears of the page of that direction are in the wrong order, where it is the page in force. If any are,
+/// writes the report onto TorquePlot, in red, and brings that plot into view.
+/// @param given  what the page was given
+/// @return whether the order holds
+bool CheckOrder(const ByGear& given, Direction direction);
 
-/// Keeps a driven tyre's deformation where the side view of the tyre finds it.
-void KeepDrivenDeformation(double deformation);
+/// Colours and captions that both pages have alike: engine speeds before and after the change, torque, reverse speed.
+void ShowGearRevs(GearingPanel& panel, const Gearbox& box);
+void ShowGearTorque(GearingPanel& panel, const Gearbox& box);
+void ShowReverseSpeed();
 
-/// Torque at the wheels in all gears at peak engine torque.
-void CalcGearTorque(int mode);
-
-/// The texts of a report of numbers in the wrong order.
-struct OrderReport {
+/// The words that report numbers in the wrong order, in the language in force.
+struct OrderWords {
     const std::string& notUpdated;
     const std::string& theNumberFor;
     const std::string& isWrongAgainst;
 };
-
-/// Writes the report onto TorquePlot, in red, and brings that plot into view.
-/// @param wrong  the gears whose next gear is out of order, upward
-void ReportOrder(const OrderReport& report, std::span<const int> wrong);
-
-/// Colours and captions that both pages have alike: engine speeds before and after the change, torque, reverse speed.
-void ShowGearRevs(GearingPanel& panel, int mode);
-void ShowGearTorque(GearingPanel& panel, int mode);
-void ShowReverseSpeed();
+[[nodiscard]] OrderWords OrderWordsOf(Direction direction);
 
 /// Red or blue for a state that wants attention; otherwise the system's own.
 inline std::optional<Rgb> ColourIf(bool condition, Rgb colour) {

@@ -12,7 +12,7 @@
 namespace zolv {
 namespace {
 
-constexpr double kThousandths = 1000;  // a ratio's slider counts them
+constexpr double kThousandths = 1000;  // the slider of a ratio, and of a final drive, counts them
 constexpr double kWholes = 1;          // a speed's slider counts units
 
 void WriteBox(TextBox& box, const Slider& slider, double scale) { box.SetText(NumberText(slider.Value() / scale)); }
@@ -24,48 +24,36 @@ void MoveSlider(TextBox& box, Slider& slider, double scale) {
     if (wanted < slider.Min() || wanted > slider.Max()) WriteBox(box, slider, scale);
 }
 
-template <class Work>
-void UnlessBusy(Work work) {
-    if (guards.Busy) return;
-    const Raised busy(guards.Busy);
-    work();
-}
-
 }  // namespace
 
-void RatioChanged(int gear) {
-    MoveSlider(Zolv.Ratios.Input[gear], Zolv.Ratios.InputSlider[gear], kThousandths);
-    UnlessBusy(UpdateSpeeds);
+const std::array<GearingInputs, 2>& BothGearingInputs() {
+    static const std::array<GearingInputs, 2> kBoth{{{Zolv.Ratios, kThousandths, UpdateSpeeds},  //
+                                                     {Zolv.Speeds, kWholes, UpdateRatios}}};
+    return kBoth;
 }
 
-void SpeedChanged(int gear) {
-    MoveSlider(Zolv.Speeds.Input[gear], Zolv.Speeds.InputSlider[gear], kWholes);
-    UnlessBusy(UpdateRatios);
+void InputChanged(const GearingInputs& inputs, int gear) {
+    MoveSlider(inputs.panel.Input[gear], inputs.panel.InputSlider[gear], inputs.scale);
+    if (guards.Busy) return;
+    const Raised busy(guards.Busy);
+    inputs.update();
 }
 
-void FinalDriveOfRatiosChanged() {
-    MoveSlider(Zolv.Ratios.FinalDrive, Zolv.Ratios.FinalDriveSlider, kThousandths);
-    UnlessBusy([] {
-        AnalyseTyres();
-        UpdateSpeeds();
-    });
+void FinalDriveChanged(const GearingInputs& inputs) {
+    MoveSlider(inputs.panel.FinalDrive, inputs.panel.FinalDriveSlider, kThousandths);
+    if (guards.Busy) return;
+    const Raised busy(guards.Busy);
+    AnalyseTyres();
+    inputs.update();
 }
 
-void FinalDriveOfSpeedsChanged() {
-    MoveSlider(Zolv.Speeds.FinalDrive, Zolv.Speeds.FinalDriveSlider, kThousandths);
-    UnlessBusy([] {
-        AnalyseTyres();
-        UpdateRatios();
-    });
+void InputSliderMoved(const GearingInputs& inputs, int gear) {
+    WriteBox(inputs.panel.Input[gear], inputs.panel.InputSlider[gear], inputs.scale);
 }
 
-void RatioSliderMoved(int gear) { WriteBox(Zolv.Ratios.Input[gear], Zolv.Ratios.InputSlider[gear], kThousandths); }
-
-void SpeedSliderMoved(int gear) { WriteBox(Zolv.Speeds.Input[gear], Zolv.Speeds.InputSlider[gear], kWholes); }
-
-void FinalDriveSliderOfRatiosMoved() { WriteBox(Zolv.Ratios.FinalDrive, Zolv.Ratios.FinalDriveSlider, kThousandths); }
-
-void FinalDriveSliderOfSpeedsMoved() { WriteBox(Zolv.Speeds.FinalDrive, Zolv.Speeds.FinalDriveSlider, kThousandths); }
+void FinalDriveSliderMoved(const GearingInputs& inputs) {
+    WriteBox(inputs.panel.FinalDrive, inputs.panel.FinalDriveSlider, kThousandths);
+}
 
 char CommaToPoint(char typed) { return typed == ',' ? '.' : typed; }
 

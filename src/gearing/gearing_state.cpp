@@ -8,45 +8,34 @@
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
-
-GearingState gearing;
+namespace {
 
 RollingCar PresentRollingCar() {
-    return {.Air = aero.Profile(),
-            .Front = {.UnloadedRadius = vehicle.FrontUnloadedRadius,
-                      .Stiffness = tyres.FrontTyreStiffness,
-                      .MaxDeformation = vehicle.FrontMaxDeformation},
-            .Rear = {.UnloadedRadius = vehicle.RearUnloadedRadius,
-                     .Stiffness = tyres.RearTyreStiffness,
-                     .MaxDeformation = vehicle.RearMaxDeformation},
-            .RearDriven = vehicle.CurrentCar.IsRearDriven(),
-            .TyreSlip = tyres.TyreSlip};
+    return RollingOn(aero.Profile(), vehicle.CurrentCar, vehicle.Tyres, tyres.FrontTyreStiffness,
+                     tyres.RearTyreStiffness);
 }
 
-ShiftRules PresentShiftRules() {
-    return {.PowerRPM = vehicle.CurrentCar.PowerRPM,
-            .NumGears = vehicle.CurrentCar.NumGears,
-            .AutoRevs = options.AutoRevs,
+}  // namespace
+
+GearedCar PresentGearedCar() {
+    return {.Rolling = PresentRollingCar(),
+            .Rules = PresentShiftRules(),
+            .Torque = vehicle.CurrentCar.Torque,
+            .Efficiency = vehicle.CurrentCar.Efficiency};
+}
+
+ShiftOptions PresentShiftOptions() {
+    return {.AutoRevs = options.AutoRevs,
             .CustomRevs = static_cast<double>(options.CustomRevs),
             .RevLimitOn = options.RevLimitOn,
             .RevsMaxMode = options.RevsMaxMode};
 }
 
+ShiftRules PresentShiftRules() { return RulesOf(vehicle.CurrentCar, PresentShiftOptions()); }
+
 AccelerationSetup PresentAccelerationSetup() {
-    const auto mode = static_cast<std::size_t>(gearing.Mode());
-    const CarRecord& car = vehicle.CurrentCar;
-    return {.Car = PresentRollingCar(),
-            .Motor = EngineOf(car),
-            .Curve = gearing.Curve,
-            .Efficiency = car.Efficiency,
-            .Wheelbase = car.Wheelbase,
-            .NumGears = car.NumGears,
-            .DrivetrainType = car.DrivetrainType,
-            .TyreMu = tyres.TyreMu,
-            .Ratios = gearing.GearRatio[mode],
-            .FinalDrive = gearing.FinalDrive[mode],
-            .ShiftRevs = gearing.GearRevs[mode],
-            .LongDistance = AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)].Distances[1]};
+    return RunOf(PresentRollingCar(), vehicle.CurrentCar, gearing.Curve, tyres.TyreMu, gearing.Present(),
+                 AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)].Distances[1]);
 }
 
 }  // namespace zolv

@@ -1,47 +1,55 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <vector>
 
 #include "model/acceleration_run.h"
 #include "model/engine_curve.h"
-#include "model/gear_speeds.h"
-#include "model/shift_points.h"
+#include "model/gearbox.h"
 #include "platform/hook.h"
 
 namespace zolv {
 
-/// The gearing in both directions. The first index is the mode: 0 belongs to the ratios page, 1 to the speeds page. The
-/// two keep their numbers side by side, so that switching pages loses neither. The second index is the gear: 0 reverse,
-/// which always sits in the slots of mode 0 (torque apart), 1 to 6 the forward gears.
+/// The gearing in both directions. The two pages keep their gearboxes side by side, so that switching loses neither.
+/// Reverse is one gear: whichever page was calculated last, its revs and speed stand in both.
 struct GearingState {
     bool RatiosMode = true;  // ratios are the inputs; otherwise speeds
 
-    std::array<ByGear, 2> GearRatio{};
-    std::array<float, 2> FinalDrive{};
-    std::array<ByGear, 2> GearRevs{};         // [rpm] at the top of the gear: the shift point
-    std::array<ByGear, 2> GearSpeed{};        // [m/s] at GearRevs
-    std::array<ByGear, 2> RevsAfterChange{};  // [rpm] just after changing up out of the gear, 1 to 5
-    std::array<ByGear, 2> GearTorque{};       // [Nm] at the driven wheels, at peak engine torque
+    Gearbox FromRatios, FromSpeeds;
 
-    ByGear GearSpeedFactor{};                    // [m/s for each rev/min of the wheel] at the speed of the gear
-    std::array<StoredLoads, 7> GearAxleLoads{};  // [N] at the speed of the gear
+    // How the gears roll at the speeds of the page that was calculated last
+    GearLoads Loads;
 
-    EngineCurve Curve;  // fitted where the engine is drawn; zeros until then
+    // Gears of the page in force whose next gear is out of order: while there are any, its inputs are new and its
+    // results old.
+    std::vector<int> WrongOrder;
 
-    std::array<AccelRow, kAccelRows> AccelRows{};
+    EngineCurve Curve;  // that of the engine as it was last drawn; zeros until then
+
+    RunRows AccelRows{};
     std::int16_t AccelLastRow = -1;
 
+    /// What the driver gives on the page in force.
+    [[nodiscard]] Direction From() const { return RatiosMode ? Direction::FromRatios : Direction::FromSpeeds; }
+
+    [[nodiscard]] Gearbox& Box(Direction direction) {
+        return direction == Direction::FromRatios ? FromRatios : FromSpeeds;
+    }
+    /// The gearbox of the page in force.
+    [[nodiscard]] Gearbox& Present() { return Box(From()); }
+};
+inline GearingState gearing;
+
+/// What follows; shell/wiring says what that is.
+struct GearingFollowUps {
     Hook SpeedsFound;  // the ratios page has new results
     Hook RatiosFound;  // the speeds page has
-
-    /// The mode of the page that is the input.
-    [[nodiscard]] int Mode() const { return RatiosMode ? 0 : 1; }
 };
-extern GearingState gearing;
+inline GearingFollowUps gearingFollowUps;
 
 /// What the model needs of the present state, apart from the gearbox itself.
-[[nodiscard]] RollingCar PresentRollingCar();
+[[nodiscard]] GearedCar PresentGearedCar();
+[[nodiscard]] ShiftOptions PresentShiftOptions();
 [[nodiscard]] ShiftRules PresentShiftRules();
 
 /// The car with the gearbox of the page that is the input, ready to start.

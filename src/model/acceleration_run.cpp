@@ -21,11 +21,11 @@ public:
     explicit Run(const AccelerationSetup& setup)
         : setup_(setup), air_(setup.Car.Air), launchRevs_(setup.Motor.IdleRPM * kLaunchFactor), revs_(launchRevs_) {}
 
-    AccelerationResult Drive(std::span<AccelRow, kAccelRows> rows) {
+    AccelerationResult Drive(std::span<AccelRow, kAccelRows> rows, const AccelRow& secondOfStanding) {
         int last = -1;
         do {
             ++last;
-            const AirForces air = ForcesAt(speed_, air_);
+            const AirForces air = ForcesInRunAt(speed_, air_);
             LoadAxles(air);
             const double force = DrivingForce();
             const double net = Move(force, air.TotalFriction);
@@ -34,7 +34,7 @@ public:
             if (!shifting_ && distance_ > setup_.LongDistance && net < kNoGain) break;
             if (shiftTimer_ < kShiftOver) shifting_ = false;
             if (speed_ < kStandstill) {
-                last = std::max(last, 1);
+                if (last == 0) rows[static_cast<std::size_t>(++last)] = secondOfStanding;
                 break;
             }
         } while (last < kAccelRows - 1);
@@ -138,8 +138,25 @@ private:
 
 }  // namespace
 
-AccelerationResult Accelerate(const AccelerationSetup& setup, std::span<AccelRow, kAccelRows> rows) {
-    return Run(setup).Drive(rows);
+AccelerationSetup RunOf(const RollingCar& rolling, const CarRecord& car, const EngineCurve& curve, double tyreMu,
+                        const Gearbox& gears, double longDistance) {
+    return {.Car = rolling,
+            .Motor = EngineOf(car),
+            .Curve = curve,
+            .Efficiency = car.Efficiency,
+            .Wheelbase = car.Wheelbase,
+            .NumGears = car.NumGears,
+            .DrivetrainType = car.DrivetrainType,
+            .TyreMu = tyreMu,
+            .Ratios = gears.GearRatio,
+            .FinalDrive = gears.FinalDrive,
+            .ShiftRevs = gears.GearRevs,
+            .LongDistance = longDistance};
+}
+
+AccelerationResult Accelerate(const AccelerationSetup& setup, std::span<AccelRow, kAccelRows> rows,
+                              const AccelRow& secondOfStanding) {
+    return Run(setup).Drive(rows, secondOfStanding);
 }
 
 }  // namespace zolv

@@ -6,6 +6,7 @@
 
 #include "model/engine_curve.h"
 #include "model/gear_speeds.h"
+#include "model/gearbox.h"
 
 namespace zolv {
 
@@ -30,7 +31,10 @@ struct AccelRow {
     std::array<float, kAccelColumns> values{};
 
     float operator[](AccelColumn column) const { return values[static_cast<std::size_t>(column)]; }
+
+    bool operator==(const AccelRow&) const = default;
 };
+using RunRows = std::array<AccelRow, kAccelRows>;
 
 /// A car with its gearbox, ready to start.
 struct AccelerationSetup {
@@ -48,6 +52,11 @@ struct AccelerationSetup {
     double LongDistance = 0;  // [m] behind which a run may end
 };
 
+/// @param tyreMu        friction coefficient of the tyres
+/// @param longDistance  [m]
+[[nodiscard]] AccelerationSetup RunOf(const RollingCar& rolling, const CarRecord& car, const EngineCurve& curve,
+                                      double tyreMu, const Gearbox& gears, double longDistance);
+
 struct AccelerationResult {
     int LastRow = -1;     // of the rows written
     double Speed = 0;     // [m/s] at the end of the run
@@ -60,8 +69,10 @@ struct AccelerationResult {
 /// still, or until the rows are full.
 /// Speed and distance are doubles; the rows are rounded to single precision, and their rounding does not feed back.
 /// The wheels do not spin (a driving force above the grip limit is cut to it), there is no rev limiter, and gears are
-/// never changed down. A car that cannot move off counts two rows, of which the second is whatever stood there before.
-/// @param rows  kAccelRows of them; those behind the last row keep what they hold
-AccelerationResult Accelerate(const AccelerationSetup& setup, std::span<AccelRow, kAccelRows> rows);
+/// never changed down. A car that cannot move off counts two rows.
+/// @param rows  those behind the last row keep what they hold
+/// @param secondOfStanding  the second row of a car that cannot move off
+AccelerationResult Accelerate(const AccelerationSetup& setup, std::span<AccelRow, kAccelRows> rows,
+                              const AccelRow& secondOfStanding = {});
 
 }  // namespace zolv

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <array>
+#include <span>
+
+#include "model/acceleration_run.h"
 
 namespace zolv {
 
@@ -20,5 +23,19 @@ inline constexpr std::array<AccelTargets, 5> AccelTargetTable{{
     {{15.24F, 30.48F, 45.72F, 60.96F, 76.2F},  {304.8F,   1828.8F}},   // ft/s
 }};
 // clang-format on
+
+/// Times [s] to the speed targets, and time and speed [m/s] at the distance targets; 0 for a target that was not
+/// passed.
+struct AccelResults {
+    std::array<float, 5> SpeedTimes{};
+    std::array<float, 2> DistanceTimes{};
+    std::array<float, 2> DistanceSpeeds{};
+
+    bool operator==(const AccelResults&) const = default;
+};
+
+/// The first row that passes a target counts; there is no interpolation between rows.
+/// @param rows  of the run, from its first to its last
+[[nodiscard]] AccelResults ResultsOf(std::span<const AccelRow> rows, const AccelTargets& targets);
 
 }  // namespace zolv

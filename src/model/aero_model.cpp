@@ -73,10 +73,11 @@ double RollingCoefficient(double speed) {
     return kBase + kSlope * std::pow(speed, 2.5);
 }
 
-AirForces ForcesAt(double speed, const AirProfile& car) {
-    const double q = DynamicPressure(speed, car);
+namespace {
+
+inline AirForces ForcesWith(double q, double bodyDrag, double speed, const AirProfile& car) {
     AirForces forces;
-    forces.BodyDrag = q * car.Cd * car.FrontalArea;
+    forces.BodyDrag = bodyDrag;
     forces.BodyLift = q * car.Cl;
     forces.UndertrayDrag = q * car.Undertray.CdA;
     forces.UndertrayLift = q * car.Undertray.ClA;
@@ -89,6 +90,18 @@ AirForces ForcesAt(double speed, const AirProfile& car) {
     forces.RollingResistance = RollingCoefficient(speed) * (car.Mass * kGravity - forces.TotalLift);
     forces.TotalFriction = forces.TotalDrag + forces.RollingResistance;
     return forces;
+}
+
+}  // namespace
+
+AirForces ForcesAt(double speed, const AirProfile& car) {
+    const double q = DynamicPressure(speed, car);
+    return ForcesWith(q, q * car.Cd * car.FrontalArea, speed, car);
+}
+
+AirForces ForcesInRunAt(double speed, const AirProfile& car) {
+    const double q = DynamicPressure(speed, car);
+    return ForcesWith(q, car.Cd * car.FrontalArea * q, speed, car);
 }
 
 AxleLoads LiftOnAxles(double bodyLift, double undertrayLift, double frontWingLift, double rearWingLift,

@@ -54,7 +54,12 @@ struct AirForces {
     double RollingResistance = 0;
     double TotalFriction = 0;  // drag and rolling resistance
 };
+/// The body's drag is (q Cd) FrontalArea, with q the dynamic pressure.
 [[nodiscard]] AirForces ForcesAt(double speed, const AirProfile& car);
+
+/// The forces in a step of the acceleration run, where the body's drag is (Cd FrontalArea) q: the last bit differs, and
+/// over the 1801 steps of a car at the limit of its grip that bit can grow to tenths of a m/s.
+[[nodiscard]] AirForces ForcesInRunAt(double speed, const AirProfile& car);
 
 /// Rolling resistance as a share of the load on the road: 0.01 + 3.6375e-7 v^2.5, a fit whose constants were rounded to
 /// 32-bit floats once and are used in double.

@@ -62,6 +62,8 @@ struct CarRecord {
     std::int16_t RMaxPressure = 0, UndertrayType = 0, FrontWingType = 0, RearWingType = 0;
 
     bool IsRearDriven() const { return DrivetrainType == 1; }
+
+    bool operator==(const CarRecord&) const = default;
 };
 
 /// Takes over a car's figures with the conversions of CarRecord.

@@ -28,6 +28,8 @@ struct RollingCar {
 struct StoredLoads {
     float front = 0;
     float rear = 0;
+
+    bool operator==(const StoredLoads&) const = default;
 };
 [[nodiscard]] StoredLoads GearAxleLoadsAt(const RollingCar& car, double speed);
 

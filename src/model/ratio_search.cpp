@@ -24,29 +24,29 @@ public:
 
 private:
     /// Engine speed over final drive over wheel speed.
-    float RatioOf(std::size_t gear) const {
+    float RatioOf(int gear) const {
         const double engine = static_cast<double>(found_.Revs[gear]) / found_.FinalDrive;
         const double wheel = static_cast<double>(speeds_[gear]) / speedFactors_[gear];
         return static_cast<float>(engine / wheel);
     }
 
-    bool HasGearAbove(std::size_t gear) const { return rules_.NumGears > static_cast<int>(gear); }
+    bool HasGearAbove(int gear) const { return rules_.NumGears > gear; }
 
     void Seed() {
         constexpr double kSeed = 1.1;  // times the engine speed of peak power; where the search starts
         const double revs = rules_.AutoRevs ? rules_.PowerRPM * kSeed : rules_.CustomRevs;
-        for (std::size_t gear = 1; gear < kGears; ++gear) found_.Revs[gear] = static_cast<float>(revs);
+        for (int gear = 1; gear < kGears; ++gear) found_.Revs[gear] = static_cast<float>(revs);
         SetTopGearRevs(rules_, found_.Revs);
-        for (std::size_t gear = 1; gear <= kGears; ++gear) found_.Ratios[gear] = RatioOf(gear);
+        for (int gear = 1; gear <= kGears; ++gear) found_.Ratios[gear] = RatioOf(gear);
     }
 
-    float ShiftPointOf(std::size_t gear) const {
+    float ShiftPointOf(int gear) const {
         return AutomaticShiftPoint(rules_, found_.Ratios[gear], found_.Ratios[gear + 1]);
     }
 
     /// Each gear takes the present ratio of the next one, and its own new ratio feeds nothing yet.
     void RunSeedRound() {
-        for (std::size_t gear = 1; gear < kGears; ++gear) {
+        for (int gear = 1; gear < kGears; ++gear) {
             if (!HasGearAbove(gear)) continue;
             found_.Revs[gear] = ShiftPointOf(gear);
             found_.Ratios[gear] = RatioOf(gear);
@@ -54,7 +54,7 @@ private:
     }
 
     void FindShiftPoints() {
-        for (std::size_t gear = 1; gear < kGears; ++gear) {
+        for (int gear = 1; gear < kGears; ++gear) {
             float& revs = found_.Revs[gear];
             if (HasGearAbove(gear)) revs = ShiftPointOf(gear);
             if (rules_.RevLimitOn && revs > rules_.RevLimit()) revs = static_cast<float>(rules_.RevLimit());
@@ -67,8 +67,8 @@ private:
         FindShiftPoints();
         found_.Ratios[1] = RatioOf(1);
         // The top gear has no shift point to find: its ratio changes only once the final drive has moved.
-        const std::size_t last = found_.Raised ? kGears : kGears - 1;
-        for (std::size_t gear = 2; gear <= last; ++gear) {
+        const int last = found_.Raised ? kGears : kGears - 1;
+        for (int gear = 2; gear <= last; ++gear) {
             if (HasGearAbove(found_.Raised ? gear - 1 : gear)) found_.Ratios[gear] = RatioOf(gear);
         }
         if (found_.Ratios[1] > kHighestRatio) RaiseFinalDrive();

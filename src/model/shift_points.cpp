@@ -13,14 +13,14 @@ float AutomaticShiftPoint(const ShiftRules& rules, double ratio, double nextRati
 void SetTopGearRevs(const ShiftRules& rules, ByGear& revs) {
     const auto top = static_cast<float>(rules.TopRevs());
     for (int gear = 2; gear < kGears; ++gear) {
-        if (rules.NumGears < gear + 1) revs[static_cast<std::size_t>(gear)] = top;
+        if (rules.NumGears < gear + 1) revs[gear] = top;
     }
     revs[kGears] = top;
 }
 
 ByGear ShiftPoints(const ShiftRules& rules, const ByGear& ratios) {
     ByGear revs{};
-    for (std::size_t gear = 1; gear < kGears; ++gear) {
+    for (int gear = 1; gear < kGears; ++gear) {
         if (!rules.AutoRevs) {
             revs[gear] = static_cast<float>(rules.CustomRevs);
             continue;

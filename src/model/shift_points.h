@@ -1,23 +1,27 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
+#include "model/by_gear.h"
+#include "model/car_record.h"
 
 namespace zolv {
 
-/// One value for each gear: 0 reverse, 1 to 6 the forward gears. Stored in single precision, and later steps read the
-/// rounded value.
-using ByGear = std::array<float, 7>;
+/// What a driver may choose of the shift points. The values here are those of a start.
+struct ShiftOptions {
+    bool AutoRevs = true;     // by gear; otherwise CustomRevs in all gears
+    double CustomRevs = 0;    // [rpm], whole
+    bool RevLimitOn = false;  // automatic shift points end at RevLimit
+    bool RevsMaxMode = false;  // top and reverse gear run to peak power; otherwise to 1.15 times its engine speed
 
-inline constexpr int kGears = 6;
+    bool operator==(const ShiftOptions&) const = default;
+};
 
 /// Engine speeds at which the driver changes up.
 struct ShiftRules {
     double PowerRPM = 0;      // [rpm]
     int NumGears = 0;         // of the car
-    bool AutoRevs = true;     // by gear; otherwise CustomRevs in all gears
+    bool AutoRevs = true;     // as in ShiftOptions, and so the next three
     double CustomRevs = 0;    // [rpm]
-    bool RevLimitOn = false;  // automatic shift points end at RevLimit
+    bool RevLimitOn = false;
     bool RevsMaxMode = false;
 
     [[nodiscard]] double RevLimit() const { return PowerRPM * 1.27; }
@@ -25,6 +29,15 @@ struct ShiftRules {
     /// Engine speed up to which the top gear and reverse run [rpm]: peak power's, or 1.15 times it.
     [[nodiscard]] double TopRevs() const { return RevsMaxMode ? PowerRPM : PowerRPM * 1.15; }
 };
+
+[[nodiscard]] inline ShiftRules RulesOf(const CarRecord& car, const ShiftOptions& options) {
+    return {.PowerRPM = car.PowerRPM,
+            .NumGears = car.NumGears,
+            .AutoRevs = options.AutoRevs,
+            .CustomRevs = options.CustomRevs,
+            .RevLimitOn = options.RevLimitOn,
+            .RevsMaxMode = options.RevsMaxMode};
+}
 
 /// The automatic shift point out of a gear [rpm]: PowerRPM (ratio / ratio of the next gear)^0.44. A fit: the wider the
 /// step, the further past peak power it pays to hold the gear.

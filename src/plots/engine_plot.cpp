@@ -1,7 +1,6 @@
 #include "plots/engine_plot.h"
 
 #include "fields/windows.h"
-#include "gearing/engine_fit.h"
 #include "gearing/gearing_state.h"
 #include "model/engine_curve.h"
 #include "plots/plot_frame.h"
@@ -133,7 +132,7 @@ void DrawEnginePlot() {
     plot.Clear();
     DrawEngineGrid(plot, frame);
     StoreLine(engine, frame);
-    FitEngineCurve();
+    gearing.Curve = vehicle.Curve;
     StoreCubic(engine, frame);
     DrawCurves(plot);
 }

@@ -30,13 +30,13 @@ void DrawSegment(Canvas& plot, const PlotFrame& frame, int from, int to, AccelCo
 /// The largest force to be expected [N]: first gear's at peak torque, as far as the tyres can take it, or the load of
 /// an axle where the loads are drawn.
 double LargestForce() {
-    const auto mode = static_cast<std::size_t>(gearing.Mode());
+    const Gearbox& box = gearing.Present();
     const CarRecord& car = vehicle.CurrentCar;
     const bool rear = car.IsRearDriven();
-    const double radius = rear ? vehicle.RearUnloadedRadius : vehicle.FrontUnloadedRadius;
+    const double radius = rear ? vehicle.Tyres.RearUnloadedRadius : vehicle.Tyres.FrontUnloadedRadius;
     const double load = rear ? aero.RearWheelForce : aero.FrontWheelForce;
     const double torque =
-        static_cast<double>(car.Torque) * car.Efficiency * gearing.GearRatio[mode][1] * gearing.FinalDrive[mode];
+        static_cast<double>(car.Torque) * car.Efficiency * box.GearRatio[1] * box.FinalDrive;
     double force = torque / (radius * 0.95);
     if (force > load * 1.6) force = load * 1.6;
     if (!options.VLoadsOn) return force;

@@ -27,16 +27,16 @@ void DrawMarks(Canvas& plot, const PlotFrame& frame) {
     }
 }
 
-void DrawRay(Canvas& plot, const PlotFrame& frame, std::size_t mode, std::size_t gear) {
-    plot.Line(kLeftMargin, kPlotHeight, frame.X(gearing.GearSpeed[mode][gear]), frame.Y(gearing.GearRevs[mode][gear]));
+void DrawRay(Canvas& plot, const PlotFrame& frame, const Gearbox& box, std::size_t gear) {
+    plot.Line(kLeftMargin, kPlotHeight, frame.X(box.GearSpeed[gear]), frame.Y(box.GearRevs[gear]));
 }
 
 /// The rise of a gear from the change into it, and then the drop of that change.
-void DrawSawTooth(Canvas& plot, const PlotFrame& frame, std::size_t mode, std::size_t gear) {
-    const ByGear& speed = gearing.GearSpeed[mode];
-    const ByGear& revs = gearing.GearRevs[mode];
+void DrawSawTooth(Canvas& plot, const PlotFrame& frame, const Gearbox& box, std::size_t gear) {
+    const ByGear& speed = box.GearSpeed;
+    const ByGear& revs = box.GearRevs;
     const double changeX = frame.X(speed[gear - 1]);
-    const double changeY = frame.Y(gearing.RevsAfterChange[mode][gear - 1]);
+    const double changeY = frame.Y(box.RevsAfterChange[gear - 1]);
     plot.Line(changeX, changeY, frame.X(speed[gear]), frame.Y(revs[gear]));
     plot.Line(changeX, changeY, changeX, frame.Y(revs[gear - 1]));
 }
@@ -44,9 +44,9 @@ void DrawSawTooth(Canvas& plot, const PlotFrame& frame, std::size_t mode, std::s
 }  // namespace
 
 void DrawSpeedPlot() {
-    const auto mode = static_cast<std::size_t>(gearing.Mode());
+    const Gearbox& box = gearing.Present();
     const std::size_t top = TopGear();
-    const PlotFrame frame{.sx = (kPlotWidth - kCurveReserve) / gearing.GearSpeed[mode][top],
+    const PlotFrame frame{.sx = (kPlotWidth - kCurveReserve) / box.GearSpeed[top],
                           .sy = kPlotHeight / (vehicle.CurrentCar.PowerRPM * 1.3)};
     Canvas& plot = Zolv.SpeedPlot.Draw();
     DrawGrid(plot, frame, {options.SpeedPlotXScale, units.Speed.Factor, units.Speed.Suffix},
@@ -55,8 +55,8 @@ void DrawSpeedPlot() {
 
     plot.SetLineWidth(3);
     const bool sawTooth = options.AltGraphStyle.value_or(false);
-    DrawRay(plot, frame, mode, 1);
-    for (std::size_t gear = 2; gear <= top; ++gear) (sawTooth ? DrawSawTooth : DrawRay)(plot, frame, mode, gear);
+    DrawRay(plot, frame, box, 1);
+    for (std::size_t gear = 2; gear <= top; ++gear) (sawTooth ? DrawSawTooth : DrawRay)(plot, frame, box, gear);
     if (sawTooth) return;  // one line through all gears, which has no name
     for (std::size_t gear = 1; gear <= top; ++gear) plot.AddLegend(texts.GearNames[gear], kBlack);
 }

@@ -25,19 +25,19 @@ struct Curve {
 using Curves = std::array<Curve, kGears + 1>;
 
 /// The engine's own curve reaches further than the wheels' whenever the gearing reduces.
-double LongestRevs(std::size_t mode) {
+double LongestRevs(const Gearbox& box) {
     const double engineRevs = vehicle.CurrentCar.PowerRPM * 1.3;
-    const double ratio = gearing.GearRatio[mode][TopGear()];
-    const double finalDrive = gearing.FinalDrive[mode];
+    const double ratio = box.GearRatio[TopGear()];
+    const double finalDrive = box.FinalDrive;
     if (options.EngineTorqueOn && static_cast<float>(finalDrive * ratio) > 1.0F) return engineRevs;
     return engineRevs / ratio / finalDrive;
 }
 
-PlotFrame PresentFrame(std::size_t mode) {
+PlotFrame PresentFrame(const Gearbox& box) {
     const CarRecord& car = vehicle.CurrentCar;
-    const double highest = static_cast<double>(car.Torque) * gearing.GearRatio[mode][1] * gearing.FinalDrive[mode] *
+    const double highest = static_cast<double>(car.Torque) * box.GearRatio[1] * box.FinalDrive *
                            car.Efficiency * 1.05 * units.Torque.Factor;
-    return {.sx = kPlotWidth / LongestRevs(mode), .sy = kPlotHeight / highest};
+    return {.sx = kPlotWidth / LongestRevs(box), .sy = kPlotHeight / highest};
 }
 
 /// Torque at one engine speed; at peak torque the cubic.
@@ -45,10 +45,10 @@ double SampleTorque(const Engine& engine, double revs) {
     return revs < engine.TorqueRPM ? LowerTorque(engine, revs) : gearing.Curve.Cubic(revs);
 }
 
-Curves SampleCurves(const PlotFrame& frame, std::size_t mode) {
+Curves SampleCurves(const PlotFrame& frame, const Gearbox& box) {
     const Engine engine = EngineOf(vehicle.CurrentCar);
     const double efficiency = vehicle.CurrentCar.Efficiency;
-    const double finalDrive = gearing.FinalDrive[mode];
+    const double finalDrive = box.FinalDrive;
     const double step = (engine.PowerRPM * 1.2 - engine.IdleRPM) / (kSamples - 1);
     Curves curves;
     double revs = engine.IdleRPM;  // summed up, not multiplied: the last digits are those of the sum
@@ -57,7 +57,7 @@ Curves SampleCurves(const PlotFrame& frame, std::size_t mode) {
         curves[0].x[k] = revs * frame.sx;
         curves[0].y[k] = torque * frame.sy * units.Torque.Factor;
         for (std::size_t gear = 1; gear <= kGears; ++gear) {
-            const double ratio = gearing.GearRatio[mode][gear];
+            const double ratio = box.GearRatio[gear];
             curves[gear].x[k] = revs * frame.sx / ratio / finalDrive;
             curves[gear].y[k] = torque * frame.sy * efficiency * ratio * finalDrive * units.Torque.Factor;
         }
@@ -75,14 +75,14 @@ void DrawCurve(Canvas& plot, const Curve& curve, Rgb colour) {
 }  // namespace
 
 void DrawTorquePlot() {
-    const auto mode = static_cast<std::size_t>(gearing.Mode());
-    const PlotFrame frame = PresentFrame(mode);
+    const Gearbox& box = gearing.Present();
+    const PlotFrame frame = PresentFrame(box);
     Canvas& plot = Zolv.TorquePlot.Draw();
     // The scale holds the factor of the unit already, so that the data of this plot are in the unit shown.
     DrawGrid(plot, frame, {.step = options.TorquePlotXScale, .suffix = texts.RpmSuffix},
              {.step = options.TorquePlotYScale, .suffix = units.Torque.Suffix});
 
-    const Curves curves = SampleCurves(frame, mode);
+    const Curves curves = SampleCurves(frame, box);
     const bool failed = gearing.Curve.CurveFitFailed;
     for (std::size_t i = options.EngineTorqueOn ? 0 : 1; i <= TopGear(); ++i) {
         const bool isEngine = i == 0;

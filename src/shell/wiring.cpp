@@ -41,7 +41,7 @@ namespace {
 /// What follows the procedures. AnalyseTyres comes behind CalcAeroForces, whose axle loads it reads, and before the
 /// gearing, whose rolling radius rests on its stiffness.
 void WireFollowUps() {
-    vehicle.CarChanged = [] {
+    vehicleFollowUps.CarChanged = [] {
         ShowCarInfo();
         CalcAeroCoefficients();
         AnalyseTyres();
@@ -50,14 +50,14 @@ void WireFollowUps() {
         UpdateRatios();
         ShowCarPicture();
     };
-    aero.TopSpeedFound = Recalculate;
-    tyres.TyreTypeTaken = [] {
+    aeroFollowUps.TopSpeedFound = Recalculate;
+    tyreFollowUps.TyreTypeTaken = [] {
         AnalyseTyres();
         RunAcceleration();
         DrawGearingPlots();
     };
-    gearing.SpeedsFound = DrawGearingPlots;
-    gearing.RatiosFound = DrawGearingPlots;
+    gearingFollowUps.SpeedsFound = DrawGearingPlots;
+    gearingFollowUps.RatiosFound = DrawGearingPlots;
     optionFollowUps.GearingOptionChanged = Recalculate;
     optionFollowUps.PlotOptionChanged = DrawGearingPlots;
     fileFollowUps.OptionsLoaded = [] {
@@ -106,19 +106,16 @@ void WireCarAndPages() {
 void WireGearingPage() {
     Zolv.Direction1.OnClick = ChooseRatiosPage;
     Zolv.Direction2.OnClick = ChooseSpeedsPage;
-    for (int gear = 1; gear <= kGears; ++gear) {
-        Zolv.Ratios.Input[gear].OnChange = [gear] { RatioChanged(gear); };
-        Zolv.Ratios.InputSlider[gear].OnChange = [gear] { RatioSliderMoved(gear); };
-        Zolv.Speeds.Input[gear].OnChange = [gear] { SpeedChanged(gear); };
-        Zolv.Speeds.InputSlider[gear].OnChange = [gear] { SpeedSliderMoved(gear); };
-    }
-    Zolv.Ratios.FinalDrive.OnChange = FinalDriveOfRatiosChanged;
-    Zolv.Ratios.FinalDriveSlider.OnChange = FinalDriveSliderOfRatiosMoved;
-    Zolv.Speeds.FinalDrive.OnChange = FinalDriveOfSpeedsChanged;
-    Zolv.Speeds.FinalDriveSlider.OnChange = FinalDriveSliderOfSpeedsMoved;
-    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
-        for (TextBox& box : panel->Input) box.OnKeyPress = CommaToPoint;
-        panel->FinalDrive.OnKeyPress = CommaToPoint;
+    for (const GearingInputs& inputs : BothGearingInputs()) {
+        GearingPanel& panel = inputs.panel;
+        for (int gear = 1; gear <= kGears; ++gear) {
+            panel.Input[gear].OnChange = [&inputs, gear] { InputChanged(inputs, gear); };
+            panel.InputSlider[gear].OnChange = [&inputs, gear] { InputSliderMoved(inputs, gear); };
+            panel.Input[gear].OnKeyPress = CommaToPoint;
+        }
+        panel.FinalDrive.OnChange = [&inputs] { FinalDriveChanged(inputs); };
+        panel.FinalDriveSlider.OnChange = [&inputs] { FinalDriveSliderMoved(inputs); };
+        panel.FinalDrive.OnKeyPress = CommaToPoint;
     }
 }
 

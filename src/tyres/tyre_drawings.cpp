@@ -31,17 +31,17 @@ struct DrawnTyre {
 
 DrawnTyre AnalysedTyre() {
     if (Zolv.FrontTyreAnal.Checked()) {
-        return {tyres.FrontPatchWidth, tyres.FrontPatchLength, tyres.FrontDeformation, vehicle.FrontUnloadedRadius,
+        return {tyres.FrontPatchWidth, tyres.FrontPatchLength, tyres.FrontDeformation, vehicle.Tyres.FrontUnloadedRadius,
                 tyres.FrontRimRatio};
     }
-    return {tyres.RearPatchWidth, tyres.RearPatchLength, tyres.RearDeformation, vehicle.RearUnloadedRadius,
+    return {tyres.RearPatchWidth, tyres.RearPatchLength, tyres.RearDeformation, vehicle.Tyres.RearUnloadedRadius,
             tyres.RearRimRatio};
 }
 
 void SetRimRatios() {
     const CarRecord& car = vehicle.CurrentCar;
-    tyres.FrontRimRatio = RimRadius(car.FWS) / vehicle.FrontUnloadedRadius;
-    tyres.RearRimRatio = static_cast<float>(RimRadius(car.RWS) / vehicle.RearUnloadedRadius);
+    tyres.FrontRimRatio = RimRadius(car.FWS) / vehicle.Tyres.FrontUnloadedRadius;
+    tyres.RearRimRatio = static_cast<float>(RimRadius(car.RWS) / vehicle.Tyres.RearUnloadedRadius);
 }
 
 /// The grid runs from the centre both ways, two lines at a time.

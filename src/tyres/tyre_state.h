@@ -9,7 +9,6 @@ namespace zolv {
 /// Front figures are doubles and rear figures 32-bit floats, rounded at each store; the two sides are not identical for
 /// equal inputs.
 struct TyreState {
-    float TyreSlip = 0.01F;    // share of the road speed that slip takes; never changed
     float TyreMu = 1.1F;       // friction coefficient of the chosen tyre type
     bool BlowTyresOn = false;  // mirrors the check box BlowTyres
 
@@ -29,9 +28,13 @@ struct TyreState {
     float RearRimRatio = 0;
 
     bool CopyingTyreType = false;  // the two lists of tyre types do not call each other back
+};
+inline TyreState tyres;
 
+/// What follows; shell/wiring says what that is.
+struct TyreFollowUps {
     Hook TyreTypeTaken;  // another type, with its grip, is in use
 };
-extern TyreState tyres;
+inline TyreFollowUps tyreFollowUps;
 
 }  // namespace zolv

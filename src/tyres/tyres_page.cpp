@@ -3,8 +3,7 @@
 #include "aero/aero_state.h"
 #include "fields/guards.h"
 #include "fields/windows.h"
-#include "model/tyre_geometry.h"
-#include "model/tyre_model.h"
+#include "model/tyre_sheet.h"
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "tyres/tyre_drawings.h"
@@ -15,71 +14,37 @@
 namespace zolv {
 namespace {
 
-/// What the page shows of one tyre, in base units.
-struct TyreFigures {
-    double patchWidth, patchLength, patchArea, aspectRatio;
-    double unloadedRadius, deformation, rollingRadius, circumference, wallHeight;
-    double stiffness, frequency;
-};
-
-TyreFigures AnalyseFront(double pressure) {
-    const CarRecord& car = vehicle.CurrentCar;
-    tyres.FrontTyreStiffness = TyreStiffness(pressure);
-    tyres.FrontDeformation =
-        TyreDeformation(aero.FrontWheelForce, tyres.FrontTyreStiffness, vehicle.FrontMaxDeformation);
-    const double radius = vehicle.FrontUnloadedRadius - tyres.FrontDeformation;
-    tyres.FrontPatchLength = PatchLength(vehicle.FrontUnloadedRadius, radius);
-    tyres.FrontPatchWidth = static_cast<float>(car.FTW / 1000.0);
-    return {.patchWidth = tyres.FrontPatchWidth,
-            .patchLength = tyres.FrontPatchLength,
-            .patchArea = tyres.FrontPatchLength * tyres.FrontPatchWidth,
-            .aspectRatio = tyres.FrontPatchWidth / tyres.FrontPatchLength,
-            .unloadedRadius = vehicle.FrontUnloadedRadius,
-            .deformation = tyres.FrontDeformation,
-            .rollingRadius = radius,
-            .circumference = radius * 2 * kPi,
-            .wallHeight = radius - RimRadius(car.FWS),
-            .stiffness = tyres.FrontTyreStiffness,
-            .frequency = TyreFrequency(car.Mass * 0.5 * car.WeightDist, tyres.FrontTyreStiffness)};
+TyreSheet AnalyseFront(double pressure) {
+    const TyreSheet tyre = FrontTyre(vehicle.CurrentCar, vehicle.Tyres, pressure, aero.FrontWheelForce);
+    tyres.FrontTyreStiffness = tyre.Stiffness;
+    tyres.FrontDeformation = tyre.Deformation;
+    tyres.FrontPatchLength = tyre.PatchLength;
+    tyres.FrontPatchWidth = static_cast<float>(tyre.PatchWidth);
+    return tyre;
 }
 
-TyreFigures AnalyseRear(double pressure) {
-    const CarRecord& car = vehicle.CurrentCar;
-    tyres.RearTyreStiffness = static_cast<float>(TyreStiffness(pressure));
-    tyres.RearDeformation =
-        static_cast<float>(TyreDeformation(aero.RearWheelForce, tyres.RearTyreStiffness, vehicle.RearMaxDeformation));
-    const auto radius = static_cast<float>(static_cast<double>(vehicle.RearUnloadedRadius) - tyres.RearDeformation);
-    tyres.RearPatchLength = static_cast<float>(PatchLength(vehicle.RearUnloadedRadius, radius));
-    tyres.RearPatchWidth = static_cast<float>(car.RTW / 1000.0);
-    const double length = tyres.RearPatchLength;
-    const double width = tyres.RearPatchWidth;
-    const double share = 1 - static_cast<double>(car.WeightDist);
-    return {.patchWidth = width,
-            .patchLength = length,
-            .patchArea = static_cast<float>(length * width),
-            .aspectRatio = static_cast<float>(width / length),
-            .unloadedRadius = vehicle.RearUnloadedRadius,
-            .deformation = tyres.RearDeformation,
-            .rollingRadius = radius,
-            .circumference = static_cast<double>(radius) * 2 * kPi,
-            .wallHeight = radius - RimRadius(car.RWS),
-            .stiffness = tyres.RearTyreStiffness,
-            .frequency = TyreFrequency(share * (car.Mass * 0.5), tyres.RearTyreStiffness)};
+TyreSheet AnalyseRear(double pressure) {
+    const TyreSheet tyre = RearTyre(vehicle.CurrentCar, vehicle.Tyres, pressure, aero.RearWheelForce);
+    tyres.RearTyreStiffness = static_cast<float>(tyre.Stiffness);
+    tyres.RearDeformation = static_cast<float>(tyre.Deformation);
+    tyres.RearPatchLength = static_cast<float>(tyre.PatchLength);
+    tyres.RearPatchWidth = static_cast<float>(tyre.PatchWidth);
+    return tyre;
 }
 
-void ShowTyre(const TyreFigures& tyre) {
+void ShowTyre(const TyreSheet& tyre) {
     constexpr double kNoWallLeft = 0.0001;  // [m]; told in metres, whatever unit rounds it to zero
-    Zolv.TWH.SetColour(tyre.wallHeight < kNoWallLeft ? kRed : kBlack);
-    Zolv.CPW.SetCaption(units.Distance.Text(tyre.patchWidth));
-    Zolv.CPL.SetCaption(units.Distance.Text(tyre.patchLength));
-    Zolv.UTR.SetCaption(units.Distance.Text(tyre.unloadedRadius));
-    Zolv.TD.SetCaption(units.Distance.Text(tyre.deformation));
-    Zolv.TRRC.SetCaption(units.Distance.Text(tyre.rollingRadius) + " / " + units.Distance.Text(tyre.circumference));
-    Zolv.TWH.SetCaption(units.Distance.Text(tyre.wallHeight));
-    Zolv.CPA.SetCaption(units.Area.Text(tyre.patchArea));
-    Zolv.CPAR.SetCaption(WithUnit(tyre.aspectRatio, 2, " : 1"));
-    Zolv.TS.SetCaption(units.Stiffness.Text(tyre.stiffness));
-    Zolv.TF.SetCaption(WithUnit(tyre.frequency, 2, " Hz"));
+    Zolv.TWH.SetColour(tyre.WallHeight < kNoWallLeft ? kRed : kBlack);
+    Zolv.CPW.SetCaption(units.Distance.Text(tyre.PatchWidth));
+    Zolv.CPL.SetCaption(units.Distance.Text(tyre.PatchLength));
+    Zolv.UTR.SetCaption(units.Distance.Text(tyre.UnloadedRadius));
+    Zolv.TD.SetCaption(units.Distance.Text(tyre.Deformation));
+    Zolv.TRRC.SetCaption(units.Distance.Text(tyre.RollingRadius) + " / " + units.Distance.Text(tyre.Circumference));
+    Zolv.TWH.SetCaption(units.Distance.Text(tyre.WallHeight));
+    Zolv.CPA.SetCaption(units.Area.Text(tyre.PatchArea));
+    Zolv.CPAR.SetCaption(WithUnit(tyre.AspectRatio, 2, " : 1"));
+    Zolv.TS.SetCaption(units.Stiffness.Text(tyre.Stiffness));
+    Zolv.TF.SetCaption(WithUnit(tyre.Frequency, 2, " Hz"));
 }
 
 }  // namespace
@@ -87,12 +52,12 @@ void ShowTyre(const TyreFigures& tyre) {
 void AnalyseTyres() {
     const double pressureF = tyres.BlowTyresOn ? 0 : Zolv.Select_PressureF.Value();
     const double pressureR = tyres.BlowTyresOn ? 0 : Zolv.Select_PressureR.Value();
-    const TyreFigures front = AnalyseFront(pressureF);
-    const TyreFigures rear = AnalyseRear(pressureR);
+    const TyreSheet front = AnalyseFront(pressureF);
+    const TyreSheet rear = AnalyseRear(pressureR);
 
     ShowTyre(Zolv.FrontTyreAnal.Checked() ? front : rear);
     Zolv.MU.SetCaption(NumberText(tyres.TyreMu));
-    Zolv.FRCPR.SetCaption(RoundedText(front.patchArea / rear.patchArea, 3));
+    Zolv.FRCPR.SetCaption(RoundedText(front.PatchArea / rear.PatchArea, 3));
     Zolv.Label_PressureF.SetCaption(units.Pressure.Text(pressureF));
     Zolv.Label_PressureR.SetCaption(units.Pressure.Text(pressureR));
     DrawTyres();
@@ -107,7 +72,7 @@ void PickTyreType() {
     for (std::size_t type = 0; type < texts.TyreTypeNames.size(); ++type) {
         if (Zolv.Select_Tyres.Text() == texts.TyreTypeNames[type]) tyres.TyreMu = tyres.TyreTypeMu[type];
     }
-    tyres.TyreTypeTaken();
+    tyreFollowUps.TyreTypeTaken();
 }
 
 void PickTyreTypeOnGearingPage() {

@@ -10,7 +10,7 @@ namespace zolv {
 void AnalyseTyres();
 
 /// A tyre type was picked on the tyres page or on the gearing page: the other list follows. Unless the program is
-/// loading, tyres.TyreMu is then set by the type's name, and the follow-up tyres.TyreTypeTaken raised.
+/// loading, tyres.TyreMu is then set by the type's name, and the follow-up TyreTypeTaken raised.
 void PickTyreType();
 void PickTyreTypeOnGearingPage();
 

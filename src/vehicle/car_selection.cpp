@@ -2,20 +2,12 @@
 
 #include "fields/guards.h"
 #include "fields/windows.h"
-#include "model/tyre_geometry.h"
 #include "model/whole_number.h"
 #include "text/number_text.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
 namespace {
-
-void SetTyreSizes(const CarRecord& car) {
-    vehicle.FrontUnloadedRadius = UnloadedRadius(car.FTW, car.FTP, car.FWS);
-    vehicle.FrontMaxDeformation = vehicle.FrontUnloadedRadius - RimRadius(car.FWS);
-    vehicle.RearUnloadedRadius = static_cast<float>(UnloadedRadius(car.RTW, car.RTP, car.RWS));
-    vehicle.RearMaxDeformation = static_cast<float>(vehicle.RearUnloadedRadius - RimRadius(car.RWS));
-}
 
 void SetPressureRanges(const CarRecord& car) {
     const auto setRange = [](Slider& slider, double min, double max) {
@@ -100,15 +92,16 @@ void SelectCar() {
     const int preset = builtIn < 0 ? vehicle.FindPreset(name) : -1;
     if (builtIn < 0 && preset < 0) return;  // the list holds only known names
 
-    vehicle.CurrentCar = RecordOf(builtIn >= 0 ? vehicle.FiguresOfCar(builtIn) : vehicle.FiguresOfPreset(preset));
-    const CarRecord& car = vehicle.CurrentCar;
-    SetTyreSizes(car);
+    const CarRecord car = RecordOf(builtIn >= 0 ? vehicle.FiguresOfCar(builtIn) : vehicle.FiguresOfPreset(preset));
+    vehicle.CurrentCar = car;
+    vehicle.Tyres = TyreSizesOf(car);
+    vehicle.Curve = FittedCurve(EngineOf(car));
     SetPressureRanges(car);
     ShowReverseRatio(car);
     ShowGears(car.NumGears);
     ShowReverse(car.Reverse != 1);
     ShowFittings(car);
-    if (!guards.Loading) vehicle.CarChanged();
+    if (!guards.Loading) vehicleFollowUps.CarChanged();
 }
 
 }  // namespace zolv

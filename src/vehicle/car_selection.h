@@ -8,9 +8,9 @@ void InitCatalogue();
 
 /// Takes the car named in Select_Car into use: the working state of the whole program follows from it. Gearing, wing
 /// angles, tyre type and pressures stay as far as they fit: a gearbox set up for one car stays in place for the next.
-/// Ends with the follow-up vehicle.CarChanged, unless the program is loading.
+/// Ends with the follow-up CarChanged, unless the program is loading.
 /// Reads:  Select_Car, the tables, guards.Loading
-/// Writes: vehicle.CurrentCar and the tyre sizes, the ranges of the pressure sliders, the reverse ratio, which gears
+/// Writes: vehicle.CurrentCar, Tyres and Curve, the ranges of the pressure sliders, the reverse ratio, which gears
 ///         and fittings are visible
 void SelectCar();
 

@@ -2,8 +2,6 @@
 
 namespace zolv {
 
-VehicleState vehicle;
-
 namespace {
 
 template <std::size_t Size>

@@ -6,6 +6,8 @@
 
 #include "model/car_record.h"
 #include "model/catalogue.h"
+#include "model/engine_curve.h"
+#include "model/tyre_sheet.h"
 #include "platform/hook.h"
 
 namespace zolv {
@@ -20,14 +22,10 @@ struct VehicleState {
     std::array<std::string, kMaxPresets> CustomName;
     std::int16_t PresetsUsed = 0;
 
-    // The car in use. Only SelectCar writes it.
+    // The car in use, with what follows from its record alone. Only SelectCar writes it.
     CarRecord CurrentCar;
-    double FrontUnloadedRadius = 0;  // [m]
-    float RearUnloadedRadius = 0;    // [m]
-    double FrontMaxDeformation = 0;  // [m] sidewall height: a tyre squashes no further than to the rim
-    float RearMaxDeformation = 0;    // [m]
-
-    Hook CarChanged;  // another car is in use; not raised during the load
+    TyreSizes Tyres;
+    EngineCurve Curve;
 
     /// The figures of a built-in car or a preset.
     [[nodiscard]] CarFigures FiguresOfCar(int car) const;
@@ -38,6 +36,12 @@ struct VehicleState {
     [[nodiscard]] int FindCar(const std::string& name) const;
     [[nodiscard]] int FindPreset(const std::string& name) const;  // among those in use
 };
-extern VehicleState vehicle;
+inline VehicleState vehicle;
+
+/// What follows; shell/wiring says what that is.
+struct VehicleFollowUps {
+    Hook CarChanged;  // another car is in use; not raised during the load
+};
+inline VehicleFollowUps vehicleFollowUps;
 
 }  // namespace zolv

@@ -64,7 +64,7 @@ TEST_F(AeroPage, TheSpeedsOfBothPagesAreTwins) {
 TEST_F(AeroPage, ASpeedRunsNoGearing) {
     Set("Select_Car", "Series Lo");
     int runs = 0;
-    gearing.SpeedsFound = [&] { ++runs; };
+    gearingFollowUps.SpeedsFound = [&] { ++runs; };
     Set("Select_AeroSpeed", "90");
     EXPECT_EQ(runs, 0);
     Set("Select_FrontWingAngle", "9");

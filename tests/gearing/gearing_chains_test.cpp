@@ -12,8 +12,8 @@ class GearingChains : public ZolvTest {
 protected:
     GearingChains() {
         Start();
-        CountRuns(gearing.SpeedsFound, speedRuns);
-        CountRuns(gearing.RatiosFound, ratioRuns);
+        CountRuns(gearingFollowUps.SpeedsFound, speedRuns);
+        CountRuns(gearingFollowUps.RatiosFound, ratioRuns);
     }
 
     static void CountRuns(Hook& hook, int& runs) {

@@ -16,8 +16,8 @@ using testing::ElementsAre;
 class RunPlots : public HandMadeCar {
 protected:
     RunPlots() {
-        vehicle.FrontUnloadedRadius = 0.5;
-        vehicle.RearUnloadedRadius = 0.25F;
+        vehicle.Tyres.FrontUnloadedRadius = 0.5;
+        vehicle.Tyres.RearUnloadedRadius = 0.25F;
         aero.FrontWheelForce = 1000;
         aero.RearWheelForce = 1500;
     }

@@ -23,7 +23,7 @@ class TyreDrawings : public testing::Test {
 protected:
     TyreDrawings() {
         FreshStart();
-        vehicle.FrontUnloadedRadius = 0.3;
+        vehicle.Tyres.FrontUnloadedRadius = 0.3;
         vehicle.CurrentCar.FWS = 15;
         tyres.FrontPatchWidth = 0.16F;
         tyres.FrontPatchLength = 0.1;
@@ -55,7 +55,7 @@ TEST_F(TyreDrawings, TheWheelsCentreStandsLowerByWholeUnits) {
 
 TEST_F(TyreDrawings, FiguresThatAreNoNumbersDrawNothing) {
     tyres.FrontPatchLength = std::numeric_limits<double>::quiet_NaN();
-    vehicle.FrontUnloadedRadius = 0;
+    vehicle.Tyres.FrontUnloadedRadius = 0;
     DrawTyres();
     EXPECT_EQ(Zolv.CPS.Drawing().Operations().size(), 22U);  // the grid alone
     EXPECT_EQ(Zolv.SV.Drawing().Operations().size(), 2U);    // the road alone

@@ -49,8 +49,8 @@ TEST_F(TyresPage, ATyreOnItsRimHasNoWallLeft) {
     Set("BlowTyres", "on");
     EXPECT_EQ(Shown("TWH"), "0 mm");
     EXPECT_EQ(Zolv.TWH.Colour(), kRed);
-    EXPECT_EQ(tyres.FrontDeformation, vehicle.FrontMaxDeformation);
-    EXPECT_EQ(tyres.RearDeformation, vehicle.RearMaxDeformation);
+    EXPECT_EQ(tyres.FrontDeformation, vehicle.Tyres.FrontMaxDeformation);
+    EXPECT_EQ(tyres.RearDeformation, vehicle.Tyres.RearMaxDeformation);
     Set("Select_Car", "Pell S");
     EXPECT_EQ(Zolv.TWH.Colour(), kBlack);
 }
@@ -109,8 +109,8 @@ TEST_F(TyresPage, BothListsShowTheSameTypeAndItMovesNoRadius) {
     Set("Select_Car", "Series Lo");
     const std::string slow = Shown("AccDataLabel(0)");
     int taken = 0;
-    const Hook wired = tyres.TyreTypeTaken;
-    tyres.TyreTypeTaken = [&] {
+    const Hook wired = tyreFollowUps.TyreTypeTaken;
+    tyreFollowUps.TyreTypeTaken = [&] {
         ++taken;
         wired();
     };

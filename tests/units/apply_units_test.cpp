@@ -61,7 +61,7 @@ TEST_F(ApplyUnits, NothingIsTakenDuringTheLoad) {
 // the slider 72.
 TEST_F(ApplyUnits, SpeedBoxesAreConvertedAndTakeTheWholeNumbersOfTheirSliders) {
     int ratiosFound = 0;  // speeds are not the input
-    gearing.RatiosFound = [&] { ++ratiosFound; };
+    gearingFollowUps.RatiosFound = [&] { ++ratiosFound; };
     PickSpeed(kKmh);
     EXPECT_EQ(SpeedBoxes(), (std::vector<std::string>{"58", "83", "115", "140", "180", "216"}));
     EXPECT_EQ(Zolv.Label_SPD[6].Caption(), " km/h");

@@ -46,15 +46,15 @@ TEST_F(CarSelection, MovesPressuresIntoTheRangeOfTheCar) {
 // From a separate calculation in Python: rims go through 0.393900787 inches a centimetre, rear sizes through a single.
 TEST_F(CarSelection, WorksOutTheTyreSizes) {
     Set("Select_Car", "Mote 900");  // front and rear alike
-    EXPECT_NEAR(vehicle.FrontUnloadedRadius, 0.23232262026427486, 1e-15);
-    EXPECT_NEAR(vehicle.FrontMaxDeformation, 0.08, 1e-15);
-    EXPECT_EQ(vehicle.RearUnloadedRadius, 0.23232261836528778);
-    EXPECT_EQ(vehicle.RearMaxDeformation, 0.07999999821186066);
+    EXPECT_NEAR(vehicle.Tyres.FrontUnloadedRadius, 0.23232262026427486, 1e-15);
+    EXPECT_NEAR(vehicle.Tyres.FrontMaxDeformation, 0.08, 1e-15);
+    EXPECT_EQ(vehicle.Tyres.RearUnloadedRadius, 0.23232261836528778);
+    EXPECT_EQ(vehicle.Tyres.RearMaxDeformation, 0.07999999821186066);
     Set("Select_Car", "Ondo R");
-    EXPECT_NEAR(vehicle.FrontUnloadedRadius, 0.341677486078613, 1e-15);
-    EXPECT_NEAR(vehicle.FrontMaxDeformation, 0.10050000399351117, 1e-15);
-    EXPECT_EQ(vehicle.RearUnloadedRadius, 0.3457339406013489);
-    EXPECT_EQ(vehicle.RearMaxDeformation, 0.11725001037120819);
+    EXPECT_NEAR(vehicle.Tyres.FrontUnloadedRadius, 0.341677486078613, 1e-15);
+    EXPECT_NEAR(vehicle.Tyres.FrontMaxDeformation, 0.10050000399351117, 1e-15);
+    EXPECT_EQ(vehicle.Tyres.RearUnloadedRadius, 0.3457339406013489);
+    EXPECT_EQ(vehicle.Tyres.RearMaxDeformation, 0.11725001037120819);
 }
 
 TEST_F(CarSelection, LeavesTheSetUpInPlace) {
@@ -87,8 +87,8 @@ TEST_F(CarSelection, FindsABuiltInCarBeforeAPresetOfItsName) {
 
 TEST_F(CarSelection, RunsTheWholeChainOnce) {
     int runs = 0;
-    const Hook wired = vehicle.CarChanged;
-    vehicle.CarChanged = [&] {
+    const Hook wired = vehicleFollowUps.CarChanged;
+    vehicleFollowUps.CarChanged = [&] {
         ++runs;
         wired();
     };

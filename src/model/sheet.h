@@ -1,0 +1,43 @@
+#pragma once
+
+#include <vector>
+
+#include "model/acceleration_run.h"
+#include "model/acceleration_targets.h"
+#include "model/aero_model.h"
+#include "model/air_sheet.h"
+#include "model/engine_curve.h"
+#include "model/gearbox.h"
+#include "model/set_up.h"
+#include "model/tyre_sheet.h"
+
+namespace zolv {
+
+/// The acceleration run without its rows.
+struct RunSheet {
+    int LastRow = -1;     // of the rows; -1 where there was no run
+    double Speed = 0;     // [m/s] at the end
+    AccelResults Results;
+
+    /// Whether the run ended for want of rows: the car was still gaining after 90 s.
+    [[nodiscard]] bool StillGaining() const { return LastRow == kAccelRows - 1; }
+};
+
+/// What follows from a set-up: everything that any page shows, in base units.
+struct Sheet {
+    TyreSheet Front, Rear;
+    double PatchRatio = 0;  // front patch area over rear patch area
+    AirSheet Air;
+    TopSpeedResult Top;
+    EngineCurve Curve;
+    std::vector<int> WrongOrder;  // gears whose next gear is out of order; with any, Gears and Run stay empty
+    Gearbox Gears;                // in the direction of the set-up; the final drive may have been raised
+    RunSheet Run;
+};
+
+/// Works a set-up out from nothing but itself: any number at once on several threads, each with rows of its own. The
+/// pages' procedures are made of the same functions, so that a set-up laid onto them reads what this gives.
+/// @param rows  takes the run; those behind Run.LastRow keep what they hold
+[[nodiscard]] Sheet Evaluate(const SetUp& setUp, RunRows& rows);
+
+}  // namespace zolv

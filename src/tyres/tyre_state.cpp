@@ -1,7 +1,0 @@
-#include "tyres/tyre_state.h"
-
-namespace zolv {
-
-TyreState tyres;
-
-}  // namespace zolv

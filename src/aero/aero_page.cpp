@@ -91,7 +91,8 @@ void ShowAeroDistribution(double share, double weightDist) {
 void ShowDistribution(const AirSheet& air) {
     Zolv.Aero_ForceFrontWheels.SetCaption(units.Force.Text(aero.FrontWheelForce));
     Zolv.Aero_ForceRearWheels.SetCaption(units.Force.Text(aero.RearWheelForce));
-    Zolv.Aero_ForceDistribution.SetCaption(SplitText(100 * air.ForceDistribution, (1 - air.ForceDistribution) * 100, 1));
+    Zolv.Aero_ForceDistribution.SetCaption(
+        SplitText(100 * air.ForceDistribution, (1 - air.ForceDistribution) * 100, 1));
     ShowAeroDistribution(air.AeroDistribution, vehicle.CurrentCar.WeightDist);
     Zolv.Aero_WeightMultiple.SetCaption(RoundedText(air.WeightMultiple, 2));
 }

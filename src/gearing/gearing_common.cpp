@@ -32,6 +32,13 @@ void ReportOrder(const OrderWords& words, std::span<const int> wrong) {
 
 }  // namespace
 
+void CalcGearAxleLoads() { FindAxleLoads(PresentGearedCar().Rolling, gearing.Present().GearSpeed, gearing.Loads); }
+
+void CalcGearSpeedFactors() {
+    FindSpeedFactors(PresentGearedCar().Rolling, gearing.Loads);
+    KeepDrivenDeformation();
+}
+
 void KeepDrivenDeformation() {
     if (vehicle.CurrentCar.IsRearDriven()) {
         tyres.RearDeformation = static_cast<float>(gearing.Loads.Deformation);

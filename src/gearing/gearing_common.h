@@ -11,6 +11,13 @@ namespace zolv {
 /// Writes: entry 0 of both gearboxes and of gearing.Loads
 void CalcReverse();
 
+/// Fills GearAxleLoads of the forward gears at the speeds of the page that is the input.
+void CalcGearAxleLoads();
+
+/// Turns GearAxleLoads into GearSpeedFactor: this is where the rolling radius comes from. Leaves the deformation of
+/// gear 6 on the driven axle.
+void CalcGearSpeedFactors();
+
 /// Keeps the driven tyre's deformation in gear 6 where the side view of the tyre finds it.
 /// Writes: tyres.FrontDeformation or RearDeformation
 void KeepDrivenDeformation();

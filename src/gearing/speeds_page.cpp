@@ -27,12 +27,6 @@ void ReadSpeeds() {
     box.FinalDrive = static_cast<float>(Val(Zolv.Speeds.FinalDrive.Text()));
 }
 
-/// While the other page is the input, the axle loads follow its speeds.
-void LoadGears(const GearedCar& car) {
-    LoadGearsAt(car.Rolling, gearing.Present().GearSpeed, gearing.Loads);
-    KeepDrivenDeformation();
-}
-
 /// Limits are no errors: a ratio beyond the sliders' range is red, one above that of the gear below it blue.
 std::optional<Rgb> RatioColour(const ByGear& ratios, int gear) {
     constexpr double kLowestRatio = 0.5;
@@ -53,7 +47,9 @@ void ShowRatios(const ByGear& ratios) {
 void UpdateRatios() {
     ReadSpeeds();
     if (!CheckOrder(gearing.FromSpeeds.GearSpeed, Direction::FromSpeeds)) return;
-    LoadGears(PresentGearedCar());  // the speeds are given, so that one pass settles the loads and the tyres
+    // The speeds are given, so that one pass settles the loads and the tyres.
+    CalcGearAxleLoads();
+    CalcGearSpeedFactors();
     CalcGearRatios();
 }
 

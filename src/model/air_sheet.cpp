@@ -32,15 +32,15 @@ StoredForces ForcesAtChosenSpeed(double speed, const AirProfile& car) {
     const auto sum = [](double a, double b, double c, double d) { return static_cast<float>(a + b + c + d); };
     forces.TotalDrag = sum(forces.BodyDrag, forces.UndertrayDrag, forces.FrontWingDrag, forces.RearWingDrag);
     forces.TotalLift = sum(forces.BodyLift, forces.UndertrayLift, forces.FrontWingLift, forces.RearWingLift);
-    forces.RollingResistance = static_cast<float>(
-        RollingCoefficient(speed) * (car.Mass * kGravity - static_cast<double>(forces.TotalLift)));
+    forces.RollingResistance =
+        static_cast<float>(RollingCoefficient(speed) * (car.Mass * kGravity - static_cast<double>(forces.TotalLift)));
     forces.TotalFriction = static_cast<float>(static_cast<double>(forces.TotalDrag) + forces.RollingResistance);
     return forces;
 }
 
 AirSheet StandUnder(const StoredForces& forces, const Fittings& fittings, const AirProfile& car) {
-    const AxleLoads lift = LiftOnAxles(forces.BodyLift, forces.UndertrayLift, forces.FrontWingLift,
-                                       forces.RearWingLift, car, car.Undertray.Position);
+    const AxleLoads lift = LiftOnAxles(forces.BodyLift, forces.UndertrayLift, forces.FrontWingLift, forces.RearWingLift,
+                                       car, car.Undertray.Position);
     const AxleLoads loads = LoadsUnder(lift, car);
     AirSheet sheet{.Forces = forces,
                    .Parts = fittings,

@@ -23,8 +23,7 @@ std::vector<int> GearsInWrongOrder(const ByGear& given, Direction direction) {
 
 void SettleReverse(const GearedCar& car, double finalDrive, Gearbox& box, GearLoads& loads) {
     box.GearRevs[0] = static_cast<float>(car.Rules.TopRevs());
-    const SettledGear reverse =
-        SettleGear(car.Rolling, box.GearRevs[0], box.GearRatio[0], finalDrive, kReverseRounds);
+    const SettledGear reverse = SettleGear(car.Rolling, box.GearRevs[0], box.GearRatio[0], finalDrive, kReverseRounds);
     box.GearSpeed[0] = reverse.Speed;
     loads.GearAxleLoads[0] = reverse.Loads;
     loads.GearSpeedFactor[0] = reverse.SpeedFactor;
@@ -49,9 +48,12 @@ void FindSpeeds(const GearedCar& car, const ByGear* loadSpeeds, Gearbox& box, Ge
     }
 }
 
-void LoadGearsAt(const RollingCar& car, const ByGear& speeds, GearLoads& loads) {
+void FindAxleLoads(const RollingCar& car, const ByGear& speeds, GearLoads& loads) {
+    for (int gear = 1; gear <= kGears; ++gear) loads.GearAxleLoads[gear] = GearAxleLoadsAt(car, speeds[gear]);
+}
+
+void FindSpeedFactors(const RollingCar& car, GearLoads& loads) {
     for (int gear = 1; gear <= kGears; ++gear) {
-        loads.GearAxleLoads[gear] = GearAxleLoadsAt(car, speeds[gear]);
         loads.Deformation = DrivenDeformation(car, loads.GearAxleLoads[gear]);
         loads.GearSpeedFactor[gear] = SpeedFactorOn(car, car.Driven().UnloadedRadius - loads.Deformation);
     }
@@ -77,8 +79,7 @@ void FindRevsAfterChange(const GearLoads& loads, Gearbox& box) {
 
 void FindTorque(const GearedCar& car, Gearbox& box) {
     for (int gear = 0; gear <= kGears; ++gear) {
-        box.GearTorque[gear] =
-            static_cast<float>(car.Torque * car.Efficiency * box.GearRatio[gear] * box.FinalDrive);
+        box.GearTorque[gear] = static_cast<float>(car.Torque * car.Efficiency * box.GearRatio[gear] * box.FinalDrive);
     }
 }
 

@@ -64,8 +64,10 @@ void SettleReverse(const GearedCar& car, double finalDrive, Gearbox& box, GearLo
 /// @param loadSpeeds  speeds [m/s] that set the axle loads in place of the gears' own; nullptr for none
 void FindSpeeds(const GearedCar& car, const ByGear* loadSpeeds, Gearbox& box, GearLoads& loads);
 
-/// Axle loads and speed factors of gears 1 to 6 at given speeds, which settles them at once.
-void LoadGearsAt(const RollingCar& car, const ByGear& speeds, GearLoads& loads);
+/// Axle loads of gears 1 to 6 at given speeds; and the speed factors that follow from the loads. With the speeds given,
+/// the two settle the gears at once.
+void FindAxleLoads(const RollingCar& car, const ByGear& speeds, GearLoads& loads);
+void FindSpeedFactors(const RollingCar& car, GearLoads& loads);
 
 /// Ratios and shift points of gears 1 to 6 that reach the speeds of `box`, at the speed factors of those speeds.
 /// @return whether the final drive of `box` was raised

@@ -19,8 +19,8 @@ struct SetUp {
     CarRecord Car;
 
     Direction From = Direction::FromRatios;
-    PerGear<double> Ratios;             // 1 to 6, used FromRatios
-    PerGear<double> Speeds;             // [m/s] wanted, 1 to 6, used FromSpeeds
+    PerGear<double> Ratios;              // 1 to 6, used FromRatios
+    PerGear<double> Speeds;              // [m/s] wanted, 1 to 6, used FromSpeeds
     std::array<double, 2> FinalDrive{};  // by Direction
 
     int FrontPressure = 0, RearPressure = 0;  // [kPa]

@@ -19,9 +19,8 @@ AirSheet AirOf(const SetUp& setUp, const Fittings& fittings, const AirProfile& p
 bool FillGears(const SetUp& setUp, const GearedCar& car, Sheet& sheet) {
     Gearbox& box = sheet.Gears;
     const bool fromRatios = setUp.From == Direction::FromRatios;
-    const ByGear given =
-        WithoutLackingGears(Single(fromRatios ? setUp.Ratios : setUp.Speeds), car.Rules.NumGears,
-                            fromRatios ? kLackingRatio : kLackingSpeed);
+    const ByGear given = WithoutLackingGears(Single(fromRatios ? setUp.Ratios : setUp.Speeds), car.Rules.NumGears,
+                                             fromRatios ? kLackingRatio : kLackingSpeed);
     sheet.WrongOrder = GearsInWrongOrder(given, setUp.From);
     if (!sheet.WrongOrder.empty()) return false;
 
@@ -34,7 +33,8 @@ bool FillGears(const SetUp& setUp, const GearedCar& car, Sheet& sheet) {
     } else {
         box.GearSpeed = given;
         box.GearRatio[0] = setUp.Car.Reverse;
-        LoadGearsAt(car.Rolling, box.GearSpeed, loads);
+        FindAxleLoads(car.Rolling, box.GearSpeed, loads);
+        FindSpeedFactors(car.Rolling, loads);
         FindRatios(car, loads, box);
         FindRevsAfterChange(loads, box);
     }
@@ -45,8 +45,8 @@ bool FillGears(const SetUp& setUp, const GearedCar& car, Sheet& sheet) {
 
 RunSheet RunIn(const SetUp& setUp, const GearedCar& car, const Sheet& sheet, RunRows& rows) {
     const AccelTargets& targets = AccelTargetTable[static_cast<std::size_t>(setUp.Targets)];
-    const AccelerationResult run = Accelerate(
-        RunOf(car.Rolling, setUp.Car, sheet.Curve, setUp.TyreMu, sheet.Gears, targets.Distances[1]), rows);
+    const AccelerationResult run =
+        Accelerate(RunOf(car.Rolling, setUp.Car, sheet.Curve, setUp.TyreMu, sheet.Gears, targets.Distances[1]), rows);
     return {.LastRow = run.LastRow,
             .Speed = run.Speed,
             .Results = ResultsOf(std::span(rows).first(static_cast<std::size_t>(run.LastRow) + 1), targets)};
@@ -68,11 +68,10 @@ Sheet Evaluate(const SetUp& setUp, RunRows& rows) {
     sheet.Rear = RearTyre(car, sizes, setUp.Blown ? 0 : setUp.RearPressure, sheet.Air.RearWheelForce);
     sheet.PatchRatio = sheet.Front.PatchArea / sheet.Rear.PatchArea;
 
-    const GearedCar geared{
-        .Rolling = RollingOn(profile, car, sizes, sheet.Front.Stiffness, sheet.Rear.Stiffness),
-        .Rules = RulesOf(car, setUp.Shifts),
-        .Torque = car.Torque,
-        .Efficiency = car.Efficiency};
+    const GearedCar geared{.Rolling = RollingOn(profile, car, sizes, sheet.Front.Stiffness, sheet.Rear.Stiffness),
+                           .Rules = RulesOf(car, setUp.Shifts),
+                           .Torque = car.Torque,
+                           .Efficiency = car.Efficiency};
     if (FillGears(setUp, geared, sheet)) sheet.Run = RunIn(setUp, geared, sheet, rows);
     return sheet;
 }

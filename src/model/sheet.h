@@ -15,8 +15,8 @@ namespace zolv {
 
 /// The acceleration run without its rows.
 struct RunSheet {
-    int LastRow = -1;     // of the rows; -1 where there was no run
-    double Speed = 0;     // [m/s] at the end
+    int LastRow = -1;  // of the rows; -1 where there was no run
+    double Speed = 0;  // [m/s] at the end
     AccelResults Results;
 
     /// Whether the run ended for want of rows: the car was still gaining after 90 s.

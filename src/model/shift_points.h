@@ -7,9 +7,9 @@ namespace zolv {
 
 /// What a driver may choose of the shift points. The values here are those of a start.
 struct ShiftOptions {
-    bool AutoRevs = true;     // by gear; otherwise CustomRevs in all gears
-    double CustomRevs = 0;    // [rpm], whole
-    bool RevLimitOn = false;  // automatic shift points end at RevLimit
+    bool AutoRevs = true;      // by gear; otherwise CustomRevs in all gears
+    double CustomRevs = 0;     // [rpm], whole
+    bool RevLimitOn = false;   // automatic shift points end at RevLimit
     bool RevsMaxMode = false;  // top and reverse gear run to peak power; otherwise to 1.15 times its engine speed
 
     bool operator==(const ShiftOptions&) const = default;
@@ -17,10 +17,10 @@ struct ShiftOptions {
 
 /// Engine speeds at which the driver changes up.
 struct ShiftRules {
-    double PowerRPM = 0;      // [rpm]
-    int NumGears = 0;         // of the car
-    bool AutoRevs = true;     // as in ShiftOptions, and so the next three
-    double CustomRevs = 0;    // [rpm]
+    double PowerRPM = 0;    // [rpm]
+    int NumGears = 0;       // of the car
+    bool AutoRevs = true;   // as in ShiftOptions, and so the next three
+    double CustomRevs = 0;  // [rpm]
     bool RevLimitOn = false;
     bool RevsMaxMode = false;
 
@@ -30,13 +30,13 @@ struct ShiftRules {
     [[nodiscard]] double TopRevs() const { return RevsMaxMode ? PowerRPM : PowerRPM * 1.15; }
 };
 
-[[nodiscard]] inline ShiftRules RulesOf(const CarRecord& car, const ShiftOptions& options) {
+[[nodiscard]] inline ShiftRules RulesOf(const CarRecord& car, const ShiftOptions& shifts) {
     return {.PowerRPM = car.PowerRPM,
             .NumGears = car.NumGears,
-            .AutoRevs = options.AutoRevs,
-            .CustomRevs = options.CustomRevs,
-            .RevLimitOn = options.RevLimitOn,
-            .RevsMaxMode = options.RevsMaxMode};
+            .AutoRevs = shifts.AutoRevs,
+            .CustomRevs = shifts.CustomRevs,
+            .RevLimitOn = shifts.RevLimitOn,
+            .RevsMaxMode = shifts.RevsMaxMode};
 }
 
 /// The automatic shift point out of a gear [rpm]: PowerRPM (ratio / ratio of the next gear)^0.44. A fit: the wider the

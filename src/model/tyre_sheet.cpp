@@ -36,8 +36,7 @@ TyreSheet FrontTyre(const CarRecord& car, const TyreSizes& sizes, double pressur
 
 TyreSheet RearTyre(const CarRecord& car, const TyreSizes& sizes, double pressure_kPa, double axleLoad_N) {
     const auto stiffness = static_cast<float>(TyreStiffness(pressure_kPa));
-    const auto deformation =
-        static_cast<float>(TyreDeformation(axleLoad_N, stiffness, sizes.RearMaxDeformation));
+    const auto deformation = static_cast<float>(TyreDeformation(axleLoad_N, stiffness, sizes.RearMaxDeformation));
     const auto radius = static_cast<float>(static_cast<double>(sizes.RearUnloadedRadius) - deformation);
     const double length = static_cast<float>(PatchLength(sizes.RearUnloadedRadius, radius));
     const double width = static_cast<float>(car.RTW / 1000.0);

@@ -20,13 +20,13 @@ struct TyreSizes {
 /// What one tyre does at its pressure under its load: all that the tyres page shows. Rear figures have been rounded to
 /// single precision where they are kept so.
 struct TyreSheet {
-    double Pressure = 0;  // [kPa] 0 for a blown tyre
+    double Pressure = 0;   // [kPa] 0 for a blown tyre
     double Stiffness = 0;  // [N/m]
     double UnloadedRadius = 0, Deformation = 0, RollingRadius = 0, Circumference = 0, WallHeight = 0;  // [m]
-    double PatchWidth = 0, PatchLength = 0;  // [m]
-    double PatchArea = 0;                    // [m^2]
-    double AspectRatio = 0;                  // of the patch, width over length
-    double Frequency = 0;                    // [Hz]
+    double PatchWidth = 0, PatchLength = 0;                                                            // [m]
+    double PatchArea = 0;                                                                              // [m^2]
+    double AspectRatio = 0;  // of the patch, width over length
+    double Frequency = 0;    // [Hz]
 };
 
 /// @param pressure_kPa  0 or more

@@ -35,8 +35,7 @@ double LargestForce() {
     const bool rear = car.IsRearDriven();
     const double radius = rear ? vehicle.Tyres.RearUnloadedRadius : vehicle.Tyres.FrontUnloadedRadius;
     const double load = rear ? aero.RearWheelForce : aero.FrontWheelForce;
-    const double torque =
-        static_cast<double>(car.Torque) * car.Efficiency * box.GearRatio[1] * box.FinalDrive;
+    const double torque = static_cast<double>(car.Torque) * car.Efficiency * box.GearRatio[1] * box.FinalDrive;
     double force = torque / (radius * 0.95);
     if (force > load * 1.6) force = load * 1.6;
     if (!options.VLoadsOn) return force;

@@ -35,8 +35,8 @@ double LongestRevs(const Gearbox& box) {
 
 PlotFrame PresentFrame(const Gearbox& box) {
     const CarRecord& car = vehicle.CurrentCar;
-    const double highest = static_cast<double>(car.Torque) * box.GearRatio[1] * box.FinalDrive *
-                           car.Efficiency * 1.05 * units.Torque.Factor;
+    const double highest = static_cast<double>(car.Torque) * box.GearRatio[1] * box.FinalDrive * car.Efficiency * 1.05 *
+                           units.Torque.Factor;
     return {.sx = kPlotWidth / LongestRevs(box), .sy = kPlotHeight / highest};
 }
 

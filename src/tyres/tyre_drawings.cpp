@@ -31,8 +31,8 @@ struct DrawnTyre {
 
 DrawnTyre AnalysedTyre() {
     if (Zolv.FrontTyreAnal.Checked()) {
-        return {tyres.FrontPatchWidth, tyres.FrontPatchLength, tyres.FrontDeformation, vehicle.Tyres.FrontUnloadedRadius,
-                tyres.FrontRimRatio};
+        return {tyres.FrontPatchWidth, tyres.FrontPatchLength, tyres.FrontDeformation,
+                vehicle.Tyres.FrontUnloadedRadius, tyres.FrontRimRatio};
     }
     return {tyres.RearPatchWidth, tyres.RearPatchLength, tyres.RearDeformation, vehicle.Tyres.RearUnloadedRadius,
             tyres.RearRimRatio};

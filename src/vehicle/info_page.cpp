@@ -74,8 +74,9 @@ void ShowAxle(const AxleLabels& labels, const Axle& axle) {
 }
 
 void ShowWheels(const CarRecord& car) {
-    ShowAxle({Zolv.Info_RimF, Zolv.Info_TWF, Zolv.Info_TPF, Zolv.Info_THF, Zolv.Info_PRF, Zolv.Info_TrackF},
-             {car.FWS, car.FTW, car.FTP, vehicle.Tyres.FrontUnloadedRadius, car.FMinPressure, car.FMaxPressure, car.FTrack});
+    ShowAxle(
+        {Zolv.Info_RimF, Zolv.Info_TWF, Zolv.Info_TPF, Zolv.Info_THF, Zolv.Info_PRF, Zolv.Info_TrackF},
+        {car.FWS, car.FTW, car.FTP, vehicle.Tyres.FrontUnloadedRadius, car.FMinPressure, car.FMaxPressure, car.FTrack});
     ShowAxle({Zolv.Info_RimR, Zolv.Info_TWR, Zolv.Info_TPR, Zolv.Info_THR, Zolv.Info_PRR, Zolv.Info_TrackR},
              {static_cast<double>(car.RWS), car.RTW, car.RTP, vehicle.Tyres.RearUnloadedRadius, car.RMinPressure,
               static_cast<double>(car.RMaxPressure), car.RTrack});

@@ -88,7 +88,7 @@ TEST_F(AeroPage, AtTheTopSpeedTheSlidersOnlyShowTheirOwn) {
     Set("UseSliderSpeed", "on");
     EXPECT_TRUE(Zolv.Select_AeroSpeed.Enabled());
     EXPECT_EQ(aero.AeroSpeedValue, 10);
-    EXPECT_LT(aero.TotalDrag, 60);
+    EXPECT_LT(aero.Forces.TotalDrag, 60);
 }
 
 // Angles from a separate calculation in Python: the front wing at 7 degrees balances the rear one at 10.

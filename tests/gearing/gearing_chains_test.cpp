@@ -79,11 +79,11 @@ TEST_F(GearingChains, ANumberBeyondTheLimitIsRewrittenAlsoWhereTheSliderStands) 
     for (const char* typed : {"9", "8", "77777"}) {
         Set("Gear1", typed);
         EXPECT_EQ(Shown("Gear1"), "7.5");
-        EXPECT_EQ(gearing.GearRatio[0][1], 7.5F);
+        EXPECT_EQ(gearing.FromRatios.GearRatio[1], 7.5F);
     }
     Set("Gear6", "0");
     Set("Gear6", "");
-    EXPECT_EQ(gearing.GearRatio[0][6], 0.5F);
+    EXPECT_EQ(gearing.FromRatios.GearRatio[6], 0.5F);
     EXPECT_FALSE(guards.Busy);
 }
 
@@ -131,8 +131,8 @@ TEST_F(GearingChains, SpeedsInTheWrongOrderAreReportedInTheirColours) {
 
 TEST_F(GearingChains, AGearThatTheCarLacksKeepsItsText) {
     Set("Select_Car", "Mote 900");
-    EXPECT_EQ(gearing.GearRatio[0][5], 0.5F);
-    EXPECT_EQ(gearing.GearSpeed[1][6], 200);
+    EXPECT_EQ(gearing.FromRatios.GearRatio[5], 0.5F);
+    EXPECT_EQ(gearing.FromSpeeds.GearSpeed[6], 200);
     EXPECT_EQ(Shown("Gear5"), "1.15");
     Set("Gear4", "0.5");
     EXPECT_TRUE(Printed().empty());
@@ -188,10 +188,10 @@ TEST_F(GearingChains, AChangeOfCarOnTheSpeedsPageLeavesTheOtherUnderItsLoads) {
     Set("B_Final", "3");
     Set("B_Speed6", "150");
     Set("Select_Car", "Series Lo");
-    EXPECT_NEAR(gearing.GearSpeed[0][6], 80.02098846, 1e-5);
-    EXPECT_NEAR(gearing.GearSpeed[0][0], 28.52385712, 1e-5);
-    EXPECT_NEAR(gearing.GearAxleLoads[6].rear, 26644.23633, 0.01);
-    EXPECT_NEAR(gearing.GearRatio[1][1], 7.324604034, 1e-5);
+    EXPECT_NEAR(gearing.FromRatios.GearSpeed[6], 80.02098846, 1e-5);
+    EXPECT_NEAR(gearing.FromRatios.GearSpeed[0], 28.52385712, 1e-5);
+    EXPECT_NEAR(gearing.Loads.GearAxleLoads[6].rear, 26644.23633, 0.01);
+    EXPECT_NEAR(gearing.FromSpeeds.GearRatio[1], 7.324604034, 1e-5);
     EXPECT_NEAR(aero.FrontWheelForce, 4056.06104, 0.01);  // of the run's last step
     EXPECT_EQ(gearing.AccelLastRow, 685);
     Set("Direction1", "on");
@@ -200,7 +200,7 @@ TEST_F(GearingChains, AChangeOfCarOnTheSpeedsPageLeavesTheOtherUnderItsLoads) {
           std::pair("Gear5", "1.15"), std::pair("Gear6", "1"), std::pair("GearF", "4")}) {
         Set(box, text);
     }
-    EXPECT_NEAR(gearing.GearSpeed[0][6], 83.97493744, 1e-5);
+    EXPECT_NEAR(gearing.FromRatios.GearSpeed[6], 83.97493744, 1e-5);
 }
 
 TEST_F(GearingChains, ACarThatCannotBeSaysNothingThatIsNoNumber) {

@@ -116,8 +116,9 @@ TEST(AccelerationRun, ACarThatCannotMoveOffCountsTwoRows) {
     AccelerationSetup setup = PlainSetup();
     setup.Efficiency = 0;
     std::vector<AccelRow> rows(kAccelRows);
-    rows[1].values.fill(7);
-    const AccelerationResult end = Accelerate(setup, std::span<AccelRow, kAccelRows>(rows.data(), kAccelRows));
+    AccelRow second;
+    second.values.fill(7);
+    const AccelerationResult end = Accelerate(setup, std::span<AccelRow, kAccelRows>(rows.data(), kAccelRows), second);
     EXPECT_EQ(end.LastRow, 1);
     EXPECT_LT(rows[0][NetForce], 0);
     EXPECT_EQ(rows[1][Speed], 7);

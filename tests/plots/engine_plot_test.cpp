@@ -26,6 +26,7 @@ protected:
         car.PowerRPM = powerRpm;
         car.Torque = torque;
         car.TorqueRPM = torqueRpm;
+        vehicle.Curve = FittedCurve(EngineOf(car));
     }
 
     static std::size_t GridLines() {

@@ -28,13 +28,13 @@ protected:
         car.Efficiency = 0.5F;
         gearing.Curve.CurveC = -0.01;  // above peak torque 100 Nm at 3000 rpm falling to 70 Nm at 6000 rpm
         gearing.Curve.CurveD = 130;
-        for (const std::size_t mode : {0U, 1U}) {
-            gearing.GearRatio[mode] = {3, 2, 1, 0.5F, 0.5F, 0.5F, 0.5F};
-            gearing.FinalDrive[mode] = 4;
+        for (Gearbox* const box : {&gearing.FromRatios, &gearing.FromSpeeds}) {
+            box->GearRatio = {3, 2, 1, 0.5F, 0.5F, 0.5F, 0.5F};
+            box->FinalDrive = 4;
         }
-        gearing.GearSpeed[0] = {5, 20, 40, 99, 99, 99, 99};
-        gearing.GearRevs[0] = {5000, 5000, 5500, 9999, 9999, 9999, 9999};
-        gearing.RevsAfterChange[0] = {0, 3000, 99, 99, 99, 99, 0};
+        gearing.FromRatios.GearSpeed = {5, 20, 40, 99, 99, 99, 99};
+        gearing.FromRatios.GearRevs = {5000, 5000, 5500, 9999, 9999, 9999, 9999};
+        gearing.FromRatios.RevsAfterChange = {0, 3000, 99, 99, 99, 99, 0};
         options.AccelerationOn = false;
         for (const std::string& name : texts.GraphNames) Zolv.Select_Graphs.Add(name);
         Zolv.Select_Graphs.Pick(0);

@@ -52,9 +52,9 @@ TEST_F(SpeedPlot, SawToothRisesAndThenDrops) {
 
 TEST_F(SpeedPlot, AxesAreInTheUnitShownAndOfTheDirectionInForce) {
     gearing.RatiosMode = false;
-    gearing.GearSpeed[1][2] = 20;  // 216 units for 1 m/s
-    SelectUnit(units, 0, 1);       // km/h
-    options.SpeedPlotXScale = 36;  // 10 m/s
+    gearing.FromSpeeds.GearSpeed[2] = 20;  // 216 units for 1 m/s
+    SelectUnit(units, 0, 1);               // km/h
+    options.SpeedPlotXScale = 36;          // 10 m/s
     DrawGearingPlots();
     const Canvas::Axes& axes = Zolv.SpeedPlot.Drawing().PresentAxes();
     EXPECT_DOUBLE_EQ(axes.x.origin, 200);
@@ -110,8 +110,8 @@ TEST_F(TorquePlot, ExtentIsThatOfTheFasterShaft) {
     } const kCases[] = {{false, 1, 4, 1625}, {false, 0.5F, 1, 13000}, {true, 1, 4, 6500}, {true, 0.5F, 1, 13000}};
     for (const auto& row : kCases) {
         options.EngineTorqueOn = row.engineOn;
-        gearing.GearRatio[0][2] = row.topRatio;
-        gearing.FinalDrive[0] = row.finalDrive;
+        gearing.FromRatios.GearRatio[2] = row.topRatio;
+        gearing.FromRatios.FinalDrive = row.finalDrive;
         DrawGearingPlots();
         EXPECT_NEAR(4540 / Zolv.TorquePlot.Drawing().PresentAxes().x.scale, row.rpm, 1e-6);
     }

@@ -26,7 +26,7 @@ protected:
     ByGear RandomRatios() {
         ByGear ratios{};
         for (std::size_t gear = 1; gear <= kGears; ++gear) ratios[gear] = static_cast<float>(random.Real(0.5, 7.5));
-        std::sort(ratios.begin() + 1, ratios.end(), std::greater<>());
+        std::sort(ratios.values.begin() + 1, ratios.values.end(), std::greater<>());
         ratios[0] = vehicle.CurrentCar.Reverse;
         return ratios;
     }
@@ -44,8 +44,8 @@ protected:
     /// The speeds that a gearbox gives, taken to the other page without the whole numbers of its sliders.
     static void HandOverExactSpeeds() {
         gearing.RatiosMode = false;
-        gearing.GearSpeed[1] = gearing.GearSpeed[0];
-        gearing.FinalDrive[1] = gearing.FinalDrive[0];
+        gearing.FromSpeeds.GearSpeed = gearing.FromRatios.GearSpeed;
+        gearing.FromSpeeds.FinalDrive = gearing.FromRatios.FinalDrive;
         guards.Busy = true;  // a raised final drive is written to its box, which is to start nothing here
         CalcGearAxleLoads();
         CalcGearSpeedFactors();
@@ -58,8 +58,8 @@ protected:
     /// Where no car gets, downforce squashes the tyres so much that the fixed rounds of the way there do not settle;
     /// what comes back is off by up to two hundredths.
     static bool GoesBeyondTopSpeed() {
-        const ByGear& speeds = gearing.GearSpeed[0];
-        return std::any_of(speeds.begin() + 1, speeds.begin() + 1 + static_cast<std::ptrdiff_t>(Gears()),
+        const ByGear& speeds = gearing.FromRatios.GearSpeed;
+        return std::any_of(speeds.values.begin() + 1, speeds.values.begin() + 1 + static_cast<std::ptrdiff_t>(Gears()),
                            [](float speed) { return speed > aero.TopSpeed; });
     }
 
@@ -74,16 +74,17 @@ TEST_F(GearingProperties, RatiosComeBackFromTheirSpeeds) {
         for (int i = 0; i < kCasesOfCar; ++i) {
             SetRandomRules();
             gearing.RatiosMode = true;
-            const ByGear ratios = gearing.GearRatio[0] = RandomRatios();
+            const ByGear ratios = gearing.FromRatios.GearRatio = RandomRatios();
             const auto finalDrive = static_cast<float>(random.Real(0.5, 7.5));
-            gearing.FinalDrive[0] = finalDrive;
+            gearing.FromRatios.FinalDrive = finalDrive;
             CalcGearSpeeds();
             HandOverExactSpeeds();
-            if (gearing.FinalDrive[1] != finalDrive) continue;  // the search had to raise it
+            if (gearing.FromSpeeds.FinalDrive != finalDrive) continue;  // the search had to raise it
             if (GoesBeyondTopSpeed()) continue;
             ++compared;
             for (std::size_t gear = 1; gear <= Gears(); ++gear) {
-                ASSERT_NEAR(gearing.GearRatio[1][gear], ratios[gear], 0.001) << car << ' ' << i << " gear " << gear;
+                ASSERT_NEAR(gearing.FromSpeeds.GearRatio[gear], ratios[gear], 0.001)
+                    << car << ' ' << i << " gear " << gear;
             }
         }
     }

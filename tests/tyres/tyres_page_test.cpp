@@ -68,7 +68,7 @@ TEST_F(TyresPage, FrontFiguresAreDoublesAndRearFiguresSingles) {
 TEST_F(TyresPage, AnalysingTheOtherTyreChangesNoNumberOfTheGearing) {
     const GearingState before = gearing;
     Set("RearTyreAnal", "on");
-    EXPECT_EQ(gearing.GearSpeed, before.GearSpeed);
+    EXPECT_EQ(gearing.FromRatios, before.FromRatios);
     EXPECT_EQ(gearing.AccelLastRow, before.AccelLastRow);
     EXPECT_EQ(Shown("CPW"), "185 mm");
 }
@@ -92,7 +92,7 @@ TEST_F(TyresPage, TheGearingLeavesTheDeformationOfItsLastGear) {
     const float before = tyres.RearDeformation;
     Set("Gear6", "0.8");  // faster, and so under more load
     EXPECT_GT(tyres.RearDeformation, before);
-    EXPECT_NEAR(tyres.RearDeformation, static_cast<double>(gearing.GearAxleLoads[6].rear) * 0.5 / 537'500, 1e-9);
+    EXPECT_NEAR(tyres.RearDeformation, static_cast<double>(gearing.Loads.GearAxleLoads[6].rear) * 0.5 / 537'500, 1e-9);
     Set("AccelerationTestingEnable", "off");
     Set("FrontTyreAnal", "on");
     Set("Select_AeroSpeed", "0");

@@ -31,8 +31,8 @@ struct Base {
 /// Gears that differ from one set-up to the next, all in falling order.
 ByGear RatiosOf(const Base& base, std::size_t number) {
     ByGear ratios = base.setup.Ratios;
-    for (std::size_t gear = 1; gear <= kGears; ++gear) {
-        const auto part = static_cast<double>((number * (gear + 2)) % 101) / 101;
+    for (int gear = 1; gear <= kGears; ++gear) {
+        const auto part = static_cast<double>((number * static_cast<std::size_t>(gear + 2)) % 101) / 101;
         ratios[gear] = static_cast<float>(ratios[gear] * (1 + 0.02 * part));
     }
     return ratios;
@@ -46,7 +46,7 @@ double EndSpeedOf(const Base& base, std::size_t number, std::vector<AccelRow>& r
     const ByGear revs = ShiftPoints(base.rules, ratios);
     ByGear speeds{};
     ByGear factors{};
-    for (std::size_t gear = 1; gear <= kGears; ++gear) {
+    for (int gear = 1; gear <= kGears; ++gear) {
         const SettledGear settled = SettleGear(setup.Car, revs[gear], ratios[gear], setup.FinalDrive, kForwardRounds);
         speeds[gear] = settled.Speed;
         factors[gear] = settled.SpeedFactor;

@@ -62,7 +62,7 @@ yardstick::Car FlatCar(const AccelerationSetup& setup) {
                        .NumGears = setup.NumGears,
                        .DrivetrainType = setup.DrivetrainType,
                        .LongDistance = setup.LongDistance};
-    for (std::size_t gear = 0; gear < setup.Ratios.size(); ++gear) {
+    for (std::size_t gear = 0; gear < setup.Ratios.values.size(); ++gear) {
         car.Ratios[gear] = setup.Ratios[gear];
         car.ShiftRevs[gear] = setup.ShiftRevs[gear];
     }

@@ -73,7 +73,8 @@ void Press(QWidget& widget, Qt::Key key, const QString& text = {}) {
     QApplication::sendEvent(&widget, &release);
 }
 
-/// Digits come and go at the end of the third gear's ratio; all that follows from it is painted with `watched`.
+/// Digits come and go at the end of the third gear's ratio, each handed over by Enter; all that follows from it is
+/// painted with `watched`.
 void PressKeys(benchmark::State& state, QWidget& watched) {
     PaintWatch watch(watched);
     QWidget& box = WidgetNamed("Gear3");
@@ -83,6 +84,7 @@ void PressKeys(benchmark::State& state, QWidget& watched) {
     for (auto _ : state) {
         longer = !longer;
         longer ? Press(box, Qt::Key_5, QStringLiteral("5")) : Press(box, Qt::Key_Backspace);
+        Press(box, Qt::Key_Return);
         watch.Wait();
     }
 }

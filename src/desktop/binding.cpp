@@ -14,10 +14,10 @@
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTabBar>
-#include <algorithm>
 #include <optional>
 #include <utility>
 
+#include "desktop/box_sliders.h"
 #include "desktop/canvas_view.h"
 #include "desktop/picture_view.h"
 #include "desktop/run_table.h"
@@ -38,24 +38,6 @@ void PaintRows(const PickList& field, QComboBox& box) {
     for (const std::string& row : rows) box.addItem(ToQt(row));
 }
 
-/// What a user may type into a box. A longer text of the program stands and can only be shortened.
-int TypingLimit(const TextBox& field, const QString& text) {
-    constexpr int kAnyText = 32767;  // the box's own limit
-    if (field.MaxLength() == 0) return kAnyText;
-    return std::max(static_cast<int>(field.MaxLength()), static_cast<int>(text.size()));
-}
-
-/// The caret keeps its place in the text around it.
-void PaintText(const TextBox& field, QLineEdit& edit) {
-    const QString text = ToQt(field.Text());
-    const int limit = TypingLimit(field, text);
-    if (edit.text() == text && edit.maxLength() == limit) return;
-    const int caret = edit.cursorPosition();
-    edit.setMaxLength(limit);
-    edit.setText(text);
-    edit.setCursorPosition(std::min(caret, static_cast<int>(text.size())));
-}
-
 /// A box's text in its field's colour, with the mark of that state in front.
 void PaintColour(const TextBox& field, QLineEdit& edit, QAction& mark) {
     const QPalette ground = edit.parentWidget() != nullptr ? edit.parentWidget()->palette() : edit.palette();
@@ -65,6 +47,18 @@ void PaintColour(const TextBox& field, QLineEdit& edit, QAction& mark) {
     edit.setPalette(colours);
     mark.setVisible(HasMark(field.Colour()));
     if (HasMark(field.Colour())) mark.setIcon(MarkIcon(*field.Colour(), ink));
+}
+
+/// A ratio moves by hundredths under the mouse, which is less than a pixel, and by thousandths under the arrow keys.
+void StepByRatio(QSlider& slider) {
+    QObject::connect(&slider, &QSlider::actionTriggered, &slider, [&slider](int action) {
+        constexpr int kHundredth = 10;
+        if (action == QAbstractSlider::SliderSingleStepAdd) slider.setSliderPosition(slider.value() + 1);
+        if (action == QAbstractSlider::SliderSingleStepSub) slider.setSliderPosition(slider.value() - 1);
+        if (action == QAbstractSlider::SliderMove && slider.isSliderDown()) {
+            slider.setSliderPosition((slider.sliderPosition() + kHundredth / 2) / kHundredth * kHundredth);
+        }
+    });
 }
 
 }  // namespace
@@ -178,17 +172,14 @@ void Binding::Bind(TextBox& field, QLineEdit& edit, const Field* caption) {
     NameByCaption(edit, field, caption);
     edit.setReadOnly(field.Locked());
     QAction* const mark = edit.addAction(QIcon(), QLineEdit::LeadingPosition);
+    auto* const typed = new TypedBox(user_, field, edit);
     // Colours are costly to set, and mostly stay what they are.
-    OnChanged(field, [this, &field, &edit, mark, first = true, painted = std::optional<Rgb>()]() mutable {
-        PaintText(field, edit);
+    OnChanged(field, [this, &field, &edit, mark, typed, first = true, painted = std::optional<Rgb>()]() mutable {
+        typed->Paint();
         PaintLook(field, edit);
         if (!std::exchange(first, false) && painted == field.Colour()) return;
         painted = field.Colour();
         PaintColour(field, edit, *mark);
-    });
-    QObject::connect(&edit, &QLineEdit::textEdited, this, [this, &field, &edit](const QString& text) {
-        Act([&] { field.Enter(FromQt(text)); });
-        PaintText(field, edit);  // also where the field kept what it had
     });
 }
 
@@ -215,6 +206,7 @@ void Binding::Bind(Slider& field, QSlider& slider, const Field* caption) {
         slider.setValue(field.Value());
         PaintLook(field, slider);
     });
+    if (HoldsRatio(field)) StepByRatio(slider);
     QObject::connect(&slider, &QSlider::valueChanged, this,
                      [this, &field](int value) { Act([&] { field.Drag(value); }); });
 }

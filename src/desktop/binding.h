@@ -3,8 +3,10 @@
 #include <QObject>
 #include <functional>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
+#include "desktop/typed_box.h"
 #include "fields/windows.h"
 
 class QAbstractButton;
@@ -61,11 +63,10 @@ public:
     /// Runs `paint` now and whenever `field` has changed.
     void OnChanged(const Field& field, std::function<void()> paint);
 
-    /// Carries out what a user did, then paints what changed.
+    /// Carries out what a user did, then paints what changed. What is being typed in a box goes to its field first.
     template <class Work>
     void Act(Work work) {
-        work();
-        PaintChanged();
+        user_.Act(std::move(work));
     }
 
     /// Paints the fields that changed since the last time, each once.
@@ -81,6 +82,7 @@ private:
     void BindPress(const Field& field, QAbstractButton& button);
 
     std::unordered_map<const Field*, std::vector<std::function<void()>>> painters_;
+    User user_{[this] { PaintChanged(); }};
 };
 
 }  // namespace zolv

@@ -92,6 +92,7 @@ QLineEdit* SecondaryWindow::MakeNumberBox(TextBox& field, QWidget* owner, const 
     constexpr int kAroundText = 14;  // frame and margins of a box
     auto* const box = Make<QLineEdit>(field, owner, &caption);
     box->setAlignment(Qt::AlignRight);
+    box->setInputMethodHints(Qt::ImhFormattedNumbersOnly);
     box->setFixedWidth(box->fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters + kAroundText);
     return box;
 }

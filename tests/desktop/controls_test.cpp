@@ -44,23 +44,24 @@ void Controls::SliderDraggedWithTheMouse() {
     // A pixel is some of the 7000 steps.
     const double perPixel = 7000.0 / (slider.width() - 20);
     QVERIFY2(std::abs(slider.value() - 5000) <= 2 * perPixel, qPrintable(QString::number(slider.value())));
+    QCOMPARE(slider.value() % 10, 0);
     QCOMPARE(Find<QLineEdit>("GearF").text(), QString::number(slider.value() / 1000.0));
     const double expected = speed * 4000 / slider.value();  // but for what the tyre gives way
     QVERIFY2(std::abs(NumberOf("Speed1") - expected) < 0.01 * expected, qPrintable(TextOf("Speed1")));
 }
 
-/// From the slider's value at start, by its small and its large step.
+/// From the slider's value at start, by its small and its large step; a ratio's small step is a thousandth.
 void Controls::SliderMovedWithKeys_data() {
     QTest::addColumn<int>("page");
     QTest::addColumn<QString>("slider");
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("value");
-    QTest::newRow("RatioRight") << 1 << "Select_Ratio3" << int{Qt::Key_Right} << 1710;
-    QTest::newRow("RatioLeft") << 1 << "Select_Ratio3" << int{Qt::Key_Left} << 1690;
+    QTest::newRow("RatioRight") << 1 << "Select_Ratio3" << int{Qt::Key_Right} << 1701;
+    QTest::newRow("RatioLeft") << 1 << "Select_Ratio3" << int{Qt::Key_Left} << 1699;
     QTest::newRow("RatioPageUp") << 1 << "Select_Ratio3" << int{Qt::Key_PageUp} << 1800;
     QTest::newRow("RatioPageDown") << 1 << "Select_Ratio3" << int{Qt::Key_PageDown} << 1600;
     QTest::newRow("RatioEnd") << 1 << "Select_Ratio1" << int{Qt::Key_End} << 7500;
-    QTest::newRow("FinalDriveRight") << 1 << "Select_FinalDrive1" << int{Qt::Key_Right} << 4100;
+    QTest::newRow("FinalDriveRight") << 1 << "Select_FinalDrive1" << int{Qt::Key_Right} << 4001;
     QTest::newRow("FinalDrivePageUp") << 1 << "Select_FinalDrive1" << int{Qt::Key_PageUp} << 4500;
     QTest::newRow("PressureRight") << 2 << "Select_PressureF" << int{Qt::Key_Right} << 1;
     QTest::newRow("PressurePageUp") << 2 << "Select_PressureF" << int{Qt::Key_PageUp} << 10;

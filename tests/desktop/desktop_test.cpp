@@ -145,6 +145,7 @@ void SelectAllAndType(QWidget& widget, const char* keys) {
     widget.setFocus();
     QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
     Type(widget, keys);
+    QTest::keyClick(&widget, Qt::Key_Return);
 }
 
 void Paste(QWidget& widget, const QString& text) {

@@ -93,7 +93,7 @@ double NumberOf(const char* label);
 void ClickTab(const char* strip, int tab, const char* window = "Zolv");
 void Click(QWidget& widget);
 void Type(QWidget& widget, const char* keys);
-void SelectAllAndType(QWidget& widget, const char* keys);
+void SelectAllAndType(QWidget& widget, const char* keys);  // and Enter
 void Paste(QWidget& widget, const QString& text);
 void PickWithKeys(QComboBox& list, int row);
 void PickWithKeys(QComboBox& list, const char* text);

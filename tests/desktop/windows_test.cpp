@@ -94,7 +94,7 @@ void WindowsTogether::ConverterOpensFromThePresets() {
     QVERIFY(WindowNamed("UnitConv").isVisible());
     // An inch is 2.54 cm.
     PickWithKeys(Find<QComboBox>("Select_DistanceUnits", "UnitConv"), 2);
-    Type(Find<QLineEdit>("DistanceInput", "UnitConv"), "100");
+    SelectAllAndType(Find<QLineEdit>("DistanceInput", "UnitConv"), "100");
     QCOMPARE(TextOf("DistanceOutput", "UnitConv"), QStringLiteral("is 2.54 m"));
 }
 

@@ -1,0 +1,195 @@
+#include "desktop/typed_box.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <algorithm>
+
+#include "desktop/box_sliders.h"
+#include "desktop/texts_of_qt.h"
+#include "fields/kinds.h"
+#include "text/number_text.h"
+
+namespace zolv {
+namespace {
+
+constexpr int kPause_ms = 300;
+
+/// What a user may type into a box. A longer text of the program stands and can only be shortened.
+int TypingLimit(const TextBox& field, const QString& text) {
+    constexpr int kAnyText = 32767;  // the box's own limit
+    if (field.MaxLength() == 0) return kAnyText;
+    return std::max(static_cast<int>(field.MaxLength()), static_cast<int>(text.size()));
+}
+
+/// Brings the field's text into the box, with the caret at its end.
+/// @return whether the box had another one
+bool SetText(QLineEdit& edit, const TextBox& field) {
+    const QString text = ToQt(field.Text());
+    const int limit = TypingLimit(field, text);
+    if (edit.text() == text && edit.maxLength() == limit) return false;
+    edit.setMaxLength(limit);
+    edit.setText(text);
+    return true;
+}
+
+bool HasDigit(const QString& text) {
+    return std::ranges::any_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+}  // namespace
+
+void User::TypesInto(TypedBox& box) {
+    if (!IsTypingInto(box)) HandOver();
+    typing_ = &box;
+}
+
+void User::TypesNoMoreInto(const TypedBox& box) {
+    if (IsTypingInto(box)) typing_ = nullptr;
+}
+
+void User::HandOver() {
+    if (typing_ != nullptr) typing_->HandOver();
+}
+
+TypedBox::TypedBox(User& user, TextBox& field, QLineEdit& edit)
+    : QObject(&edit), user_(user), field_(field), edit_(edit), slider_(SliderBeside(field)) {
+    pause_.setSingleShot(true);
+    pause_.setInterval(kPause_ms);
+    connect(&pause_, &QTimer::timeout, this, &TypedBox::Paused);
+    connect(&edit, &QLineEdit::textEdited, this, &TypedBox::Edited);
+    edit.installEventFilter(this);
+}
+
+TypedBox::~TypedBox() { user_.TypesNoMoreInto(*this); }
+
+bool TypedBox::HoldsNumber() const {
+    return field_.OnKeyPress || edit_.inputMethodHints().testFlag(Qt::ImhFormattedNumbersOnly);
+}
+
+bool TypedBox::IsOpen() const { return field_.Visible() && field_.Enabled() && !field_.Locked(); }
+
+QString TypedBox::Typed() const {
+    QString typed = edit_.text();
+    if (HoldsNumber()) typed.replace(u',', u'.');
+    return typed;
+}
+
+void TypedBox::Paint() {
+    if (giving_ || user_.IsTypingInto(*this)) return;
+    const int caret = edit_.cursorPosition();
+    if (!SetText(edit_, field_)) return;
+    before_.reset();
+    edit_.setCursorPosition(std::min(caret, static_cast<int>(edit_.text().size())));
+}
+
+void TypedBox::Edited() {
+    if (!before_) before_ = ToQt(field_.Text());
+    user_.TypesInto(*this);
+    pause_.start();
+}
+
+void TypedBox::Paused() {
+    // A box that has no range would take "" for 0, and the converter would complain of a tyre without a width.
+    const bool waits = composing_ || (slider_ == nullptr && HoldsNumber() && !HasDigit(edit_.text()));
+    if (waits || !user_.IsTypingInto(*this)) return;
+    GiveToField(Moment::Pause);
+}
+
+void TypedBox::HandOver() { GiveToField(Moment::End); }
+
+void TypedBox::GiveToField(Moment moment) {
+    pause_.stop();
+    const bool open = IsOpen();
+    const QString typed = Typed();
+    user_.TypesNoMoreInto(*this);
+    if (open) {
+        giving_ = true;
+        user_.Act([&] { field_.Enter(FromQt(typed)); });
+        giving_ = false;
+    }
+    if (open && moment == Moment::Pause && StandsFor(typed)) return;
+    Rewrite();
+    if (moment == Moment::Pause) edit_.selectAll();  // the next key begins anew
+}
+
+/// Whether what was typed is what the field holds, but for its form: "2." on the way to "2.5" is to stay.
+bool TypedBox::StandsFor(const QString& typed) const {
+    if (edit_.text() != typed) return false;
+    if (typed == ToQt(field_.Text())) return true;
+    return HoldsNumber() && HasDigit(typed) && Val(FromQt(typed)) == Val(field_.Text());
+}
+
+void TypedBox::Rewrite() {
+    if (!SetText(edit_, field_)) edit_.end(false);
+}
+
+bool TypedBox::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::InputMethod:
+            composing_ = !static_cast<QInputMethodEvent*>(event)->preeditString().isEmpty();
+            if (user_.IsTypingInto(*this)) pause_.start();
+            break;
+        case QEvent::ShortcutOverride:
+            // Escape is the box's own while there is something to bring back.
+            if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && before_) event->accept();
+            break;
+        case QEvent::KeyPress:
+            if (TakesKey(*static_cast<QKeyEvent*>(event))) return true;
+            break;
+        case QEvent::FocusOut:
+            // Behind a menu of the box itself the typing goes on.
+            if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) Left();
+            break;
+        default: break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool TypedBox::TakesKey(const QKeyEvent& key) {
+    const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (key.text() == QLatin1String(",") && HoldsNumber()) {
+        QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, QStringLiteral("."));
+        QApplication::sendEvent(&edit_, &point);
+        return true;
+    }
+    if (key.key() == Qt::Key_Escape && before_) {
+        Restore();
+        return true;
+    }
+    if (plain && slider_ != nullptr && (key.key() == Qt::Key_Up || key.key() == Qt::Key_Down)) {
+        Step(key.key() == Qt::Key_Up ? 1 : -1);
+        return true;
+    }
+    if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) Left();
+    return false;
+}
+
+void TypedBox::Restore() {
+    pause_.stop();
+    user_.TypesNoMoreInto(*this);
+    const std::string before = FromQt(*before_);
+    before_.reset();
+    // Not by Enter: the program's own text may be longer than what a user may type.
+    user_.Act([&] { field_.SetText(before); });
+    Rewrite();
+}
+
+void TypedBox::Step(int direction) {
+    const QString before = before_.value_or(ToQt(field_.Text()));
+    user_.Act([&] { slider_->Drag(slider_->Value() + direction * slider_->SmallStep()); });
+    before_ = before;
+    Rewrite();
+}
+
+void TypedBox::Left() {
+    if (user_.IsTypingInto(*this)) {
+        GiveToField(Moment::End);
+    } else if (before_) {
+        Rewrite();  // a form that a pause left standing
+    }
+    before_.reset();
+}
+
+}  // namespace zolv

@@ -142,19 +142,7 @@ void ProgramImage::PutBack() const {
     for (Field* field : ChangedFields()) fields_.at(field).PutBack(*field);
     ForgetChanged();
     guards = {};
-    platform = platform_;
-    texts = texts_;
-    units = units_;
-    options = options_;
-    vehicle = vehicle_;
-    presets = presets_;
-    tyres = tyres_;
-    aero = aero_;
-    gearing = gearing_;
-    plots = plots_;
-    files = files_;
-    language = language_;
-    shell = shell_;
+    AllState() = state_;
     WireEvents();
 }
 

@@ -5,20 +5,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "aero/aero_state.h"
 #include "fields/windows.h"
-#include "files/file_state.h"
-#include "gearing/gearing_state.h"
-#include "language/language_state.h"
-#include "platform/text_files.h"
-#include "plots/engine_plot.h"
-#include "shell/shell_state.h"
-#include "text/texts.h"
-#include "tyres/tyre_state.h"
-#include "units/option_state.h"
-#include "units/unit_state.h"
-#include "vehicle/preset_state.h"
-#include "vehicle/vehicle_state.h"
+#include "shell/all_state.h"
 
 namespace zolv {
 
@@ -54,19 +42,7 @@ public:
 
 private:
     std::unordered_map<const Field*, SavedField> fields_;
-    PlatformState platform_ = platform;
-    Texts texts_ = texts;
-    UnitState units_ = units;
-    OptionState options_ = options;
-    VehicleState vehicle_ = vehicle;
-    PresetState presets_ = presets;
-    TyreState tyres_ = tyres;
-    AeroState aero_ = aero;
-    GearingState gearing_ = gearing;
-    PlotState plots_ = plots;
-    FileState files_ = files;
-    LanguageState language_ = language;
-    ShellState shell_ = shell;
+    decltype(CopyOfAllState()) state_ = CopyOfAllState();
 };
 
 /// The fields of all windows that changed since the last image was taken or put back, which this does not forget.

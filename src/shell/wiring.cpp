@@ -2,6 +2,7 @@
 
 #include "aero/aero_page.h"
 #include "aero/aero_state.h"
+#include "desk/present.h"
 #include "fields/guards.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
@@ -72,11 +73,11 @@ void WireFollowUps() {
         ShowCarInfo();
         Recalculate();
     };
-    fileFollowUps.SettingsOpened = [] {
+    fileFollowUps.SettingsOpened = deskFollowUps.LaidOut = [] {
         ShowCarInfo();
         ShowCarPicture();
         DrawEnginePlot();
-        CalcAeroCoefficients();  // the file's wing angles come into force
+        CalcAeroCoefficients();  // the wing angles come into force
         AnalyseTyres();
         Recalculate();
     };

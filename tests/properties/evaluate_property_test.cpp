@@ -1,0 +1,193 @@
+// Whatever set-up lies on the pages, every figure of every page is the text of what Evaluate gives for it: the pages'
+// procedures, with their order and their stores, and the pure function are one calculation.
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "desk/present.h"
+#include "model/catalogue.h"
+#include "model/sheet.h"
+#include "properties/random.h"
+#include "support/zolv_test.h"
+#include "text/number_text.h"
+#include "text/texts.h"
+#include "units/unit_catalogue.h"
+#include "units/unit_state.h"
+
+namespace zolv {
+namespace {
+
+/// Each test works out this many set-ups, from a seed of its own.
+constexpr int kSetUps = 250;
+
+using Texts = std::map<std::string, std::string>;
+
+std::string Rpm(double revs) { return WithUnit(revs, 0, texts.RpmSuffix); }
+std::string Times(double ratio) { return WithUnit(ratio, 2, " : 1"); }
+std::string LiftOverDrag(float lift, float drag) {
+    return drag == 0 ? "N/A" : Times(-static_cast<double>(lift) / drag);
+}
+
+void AddTyres(const SetUp& setUp, const Sheet& sheet, Texts& shown) {
+    const TyreSheet& tyre = Zolv.FrontTyreAnal.Checked() ? sheet.Front : sheet.Rear;
+    const Quantity& distance = units.Distance;
+    shown.merge(Texts{{"CPW", distance.Text(tyre.PatchWidth)},
+                      {"CPL", distance.Text(tyre.PatchLength)},
+                      {"CPA", units.Area.Text(tyre.PatchArea)},
+                      {"CPAR", Times(tyre.AspectRatio)},
+                      {"UTR", distance.Text(tyre.UnloadedRadius)},
+                      {"TD", distance.Text(tyre.Deformation)},
+                      {"TRRC", distance.Text(tyre.RollingRadius) + " / " + distance.Text(tyre.Circumference)},
+                      {"TWH", distance.Text(tyre.WallHeight)},
+                      {"TS", units.Stiffness.Text(tyre.Stiffness)},
+                      {"TF", WithUnit(tyre.Frequency, 2, " Hz")},
+                      {"FRCPR", RoundedText(sheet.PatchRatio, 3)},
+                      {"MU", NumberText(static_cast<float>(setUp.TyreMu))},
+                      {"Label_PressureF", units.Pressure.Text(setUp.Blown ? 0 : setUp.FrontPressure)},
+                      {"Label_PressureR", units.Pressure.Text(setUp.Blown ? 0 : setUp.RearPressure)}});
+}
+
+void AddPart(const std::string& name, const Fitting& part, float drag, float lift, Texts& shown) {
+    shown.merge(Texts{{name + "CdA", units.Area.NumberOf(part.CdA)},
+                      {name + "ClA", units.Area.NumberOf(part.ClA)},
+                      {name + "Drag", units.Force.Text(drag)},
+                      {name + "Lift", units.Force.Text(lift)},
+                      {name + "LDR", LiftOverDrag(lift, drag)}});
+}
+
+void AddAir(const Sheet& sheet, Texts& shown) {
+    const StoredForces& air = sheet.Air.Forces;
+    const Quantity& force = units.Force;
+    AddPart("Aero_Undertray", sheet.Air.Parts.Undertray, air.UndertrayDrag, air.UndertrayLift, shown);
+    AddPart("Aero_FrontWing", sheet.Air.Parts.FrontWing, air.FrontWingDrag, air.FrontWingLift, shown);
+    AddPart("Aero_RearWing", sheet.Air.Parts.RearWing, air.RearWingDrag, air.RearWingLift, shown);
+    shown.merge(Texts{{"Aero_TopSpeed", units.Speed.Text(sheet.Top.speed)},
+                      {"Aero_BodyAirDrag", force.Text(air.BodyDrag)},
+                      {"Aero_BodyLift", force.Text(air.BodyLift)},
+                      {"Aero_TotalDrag", force.Text(air.TotalDrag)},
+                      {"Aero_TotalLift", force.Text(air.TotalLift)},
+                      {"Aero_TotalLDR", LiftOverDrag(air.TotalLift, air.TotalDrag)},
+                      {"Aero_RR", force.Text(air.RollingResistance)},
+                      {"Aero_TotalFriction", force.Text(air.TotalFriction)},
+                      {"Aero_ForceFrontWheels", force.Text(sheet.Air.FrontWheelForce)},
+                      {"Aero_ForceRearWheels", force.Text(sheet.Air.RearWheelForce)},
+                      {"Aero_WeightMultiple", RoundedText(sheet.Air.WeightMultiple, 2)}});
+    const auto split = [](double share) {
+        return WithUnit(100 * share, 1, "% / ") + WithUnit((1 - share) * 100, 1, "%");
+    };
+    shown["Aero_ForceDistribution"] = split(sheet.Air.ForceDistribution);
+    if (sheet.Air.AeroDistribution != 0) shown["Aero_AeroDistribution"] = split(sheet.Air.AeroDistribution);
+}
+
+void AddGears(const SetUp& setUp, const Gearbox& box, Texts& shown) {
+    const bool ratios = setUp.From == Direction::FromRatios;
+    const std::string page = ratios ? "" : "B_";
+    for (int gear = 1; gear <= kGears; ++gear) {
+        const std::string g = std::to_string(gear);
+        shown[page + (ratios ? "Speed" : "Gear") + g] =
+            ratios ? units.Speed.Text(box.GearSpeed[gear]) : RoundedText(box.GearRatio[gear], 3);
+        shown[page + "RPM" + g] = Rpm(box.GearRevs[gear]);
+        if (gear < kGears) shown[page + "RAC" + g] = Rpm(box.RevsAfterChange[gear]);
+        shown[page + "Torque" + g] = units.Torque.Text(box.GearTorque[gear]);
+    }
+    shown[page + "TorqueR"] = units.Torque.Text(box.GearTorque[0]);
+    shown["SpeedR"] = shown["SpeedR2"] = units.Speed.Text(box.GearSpeed[0]);
+}
+
+void AddRun(const RunSheet& run, Texts& shown) {
+    for (std::size_t k = 0; k < 5; ++k) {
+        const float time = run.Results.SpeedTimes[k];
+        shown["AccDataLabel(" + std::to_string(k) + ')'] = time == 0 && k > 0 ? "N/A" : WithUnit(time, 2, "s");
+    }
+    shown["AccDataLabel(5)"] = units.Speed.Text(run.Speed);
+    for (std::size_t k = 0; k < 2; ++k) {
+        shown["AccDataLabel(" + std::to_string(6 + 2 * k) + ')'] = WithUnit(run.Results.DistanceTimes[k], 1, "s");
+        shown["AccDataLabel(" + std::to_string(7 + 2 * k) + ')'] =
+            "@ " + units.Speed.Text(run.Results.DistanceSpeeds[k]);
+    }
+}
+
+class LaidOut : public StartedTest, public testing::WithParamInterface<int> {
+protected:
+    LaidOut() {
+        // Three cars of one's own: light and strong, heavy and weak, and one that no cubic fits.
+        UseCustomCar("Series Mu", {{CarField::Mass, 420}, {CarField::Cl, -0.4}, {CarField::DrivetrainType, 2}});
+        UseCustomCar("Mote 900", {{CarField::Mass, 2400}, {CarField::Power, 18}, {CarField::NumGears, 3}});
+        UseCustomCar("Wisp 6", {{CarField::TorqueRPM, 8429}, {CarField::FWS, 13.5}, {CarField::RWS, 16}});
+    }
+
+    PerGear<double> Gears(double low, double high, bool rising) {
+        PerGear<double> gears;
+        for (int gear = 1; gear <= kGears; ++gear) gears[gear] = random_.Real(low, high);
+        // One in a dozen stays in disorder.
+        if (random_.Whole(0, 11) > 0) std::sort(gears.values.begin() + 1, gears.values.end());
+        if (!rising) std::reverse(gears.values.begin() + 1, gears.values.end());
+        return gears;
+    }
+
+    zolv::SetUp Any() {  // not the fixture's own
+        zolv::SetUp setUp = PresentSetUp();
+        setUp.CarName = random_.OneOf(Zolv.Select_Car.Rows());
+        setUp.From = random_.Coin() ? Direction::FromRatios : Direction::FromSpeeds;
+        setUp.Ratios = Gears(0.6, random_.Coin() ? 4 : 7.4, false);
+        setUp.Speeds = Gears(4, random_.Coin() ? 60 : 110, true);
+        setUp.FinalDrive = {random_.Real(0.6, 7.4), random_.Real(0.6, 7.4)};
+        setUp.FrontPressure = random_.Whole(100, 400);
+        setUp.RearPressure = random_.Whole(100, 400);
+        setUp.Blown = random_.Whole(0, 9) == 0;
+        setUp.TyreType = random_.Whole(0, 7);
+        setUp.TyreMu = random_.OneOf(std::to_array<float>({1.25F, 1.1F, 1.0F, 1.65F, 1.5F}));
+        setUp.FrontWingAngle = random_.Whole(0, 15);
+        setUp.RearWingAngle = random_.Whole(0, 30);
+        setUp.AirSpeed = random_.Coin() ? std::optional(random_.Whole(0, 120)) : std::nullopt;
+        setUp.Shifts = {.AutoRevs = random_.Whole(0, 3) > 0,
+                        .CustomRevs = static_cast<double>(random_.Whole(2000, 9000)),
+                        .RevLimitOn = random_.Coin(),
+                        .RevsMaxMode = random_.Coin()};
+        return setUp;
+    }
+
+    void PickAnyUnits() {
+        for (int quantity = 0; quantity < kQuantities; ++quantity) {
+            PickList& list = OptionsPanel.Units[static_cast<std::size_t>(quantity)].Select;
+            list.Pick(random_.Whole(0, static_cast<int>(list.Rows().size()) - 1));
+        }
+        (random_.Coin() ? Zolv.FrontTyreAnal : Zolv.RearTyreAnal).Choose();
+    }
+
+    Random random_{static_cast<std::uint64_t>(GetParam())};
+};
+
+TEST_P(LaidOut, ReadsAsEvaluateHasIt) {
+    const auto rows = std::make_unique<RunRows>();
+    int inOrder = 0;
+    for (int i = 0; i < kSetUps; ++i) {
+        if (i % 25 == 0) PickAnyUnits();
+        const zolv::SetUp wanted = Any();
+        ASSERT_TRUE(LayOut(wanted));
+        const zolv::SetUp setUp = PresentSetUp();
+        ASSERT_EQ(std::tie(setUp.CarName, setUp.From, setUp.Blown, setUp.TyreType, setUp.AirSpeed, setUp.Shifts),
+                  std::tie(wanted.CarName, wanted.From, wanted.Blown, wanted.TyreType, wanted.AirSpeed, wanted.Shifts));
+
+        const Sheet sheet = Evaluate(setUp, *rows);
+        Texts expected;
+        AddTyres(setUp, sheet, expected);
+        AddAir(sheet, expected);
+        if (sheet.WrongOrder.empty()) {
+            ++inOrder;
+            AddGears(setUp, sheet.Gears, expected);
+            AddRun(sheet.Run, expected);
+        }
+        for (const auto& [field, text] : expected) {
+            ASSERT_EQ(Shown(field), text) << field << " of " << setUp.CarName << ", set-up " << i;
+        }
+    }
+    EXPECT_GT(inOrder, kSetUps / 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, LaidOut, testing::Range(1, 9));
+
+}  // namespace
+}  // namespace zolv

@@ -8,6 +8,7 @@
 #include "language/caption_table.h"
 #include "platform/text_files.h"
 #include "support/fuzzed_program.h"
+#include "text/lines.h"
 
 namespace zolv {
 namespace {

@@ -5,6 +5,7 @@
 #include "platform/text_files.h"
 #include "support/expect.h"
 #include "support/fuzzed_program.h"
+#include "text/lines.h"
 
 namespace zolv {
 namespace {

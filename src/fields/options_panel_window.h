@@ -5,6 +5,7 @@
 
 #include "fields/field_row.h"
 #include "fields/kinds.h"
+#include "fields/scale_ranges.h"
 
 namespace zolv {
 
@@ -19,8 +20,13 @@ struct UnitChoice {
 
 /// The grid step of one axis of a plot: its slider and what a step counts.
 struct ScaleChoice {
-    ScaleChoice(Window& owner, const char axis, const std::string& plot, const SliderState& design)
-        : Select(owner, std::string("Select_") + axis + "Scale_" + plot, design),
+    struct Steps {
+        int value, small, large, tick;
+    };
+
+    ScaleChoice(Window& owner, const char axis, const std::string& plot, const ScaleRange& range, const Steps& steps)
+        : Select(owner, std::string("Select_") + axis + "Scale_" + plot,
+                 {range.min, range.max, steps.value, steps.small, steps.large, steps.tick}),
           Units(owner, plot + '_' + axis + "Units") {}
 
     Slider Select;
@@ -49,20 +55,20 @@ public:
     // Page 1: Graphs
     FieldArray<Label, 4> Label_XScale{*this, "Label_XScale"};
     FieldArray<Label, 4> Label_YScale{*this, "Label_YScale"};
-    ScaleChoice SpeedPlotX{*this, 'X', "SpeedPlot", {10, 50, 20, 5, 10, 10}};
-    ScaleChoice SpeedPlotY{*this, 'Y', "SpeedPlot", {200, 2000, 1000, 100, 200, 500}};
+    ScaleChoice SpeedPlotX{*this, 'X', "SpeedPlot", kSpeedPlotXRange, {20, 5, 10, 10}};
+    ScaleChoice SpeedPlotY{*this, 'Y', "SpeedPlot", kSpeedPlotYRange, {1000, 100, 200, 500}};
     CheckBox EnablePowerLine{*this, "EnablePowerLine", {.checked = true}};
     CheckBox EnableTorqueLine{*this, "EnableTorqueLine"};
     CheckBox EnableRedline{*this, "EnableRedline"};
     CheckBox EnableAltGraph{*this, "EnableAltGraph"};
-    ScaleChoice TorquePlotX{*this, 'X', "TorquePlot", {100, 1000, 250, 100, 200, 250}};
-    ScaleChoice TorquePlotY{*this, 'Y', "TorquePlot", {100, 2500, 500, 100, 500, 500}};
+    ScaleChoice TorquePlotX{*this, 'X', "TorquePlot", kTorquePlotXRange, {250, 100, 200, 250}};
+    ScaleChoice TorquePlotY{*this, 'Y', "TorquePlot", kTorquePlotYRange, {500, 100, 500, 500}};
     CheckBox EnableEngineTorque{*this, "EnableEngineTorque"};
-    ScaleChoice TEPlotX{*this, 'X', "TEPlot", {5, 20, 10, 5, 10, 5}};
-    ScaleChoice TEPlotY{*this, 'Y', "TEPlot", {200, 5000, 1000, 200, 500, 1000}};
+    ScaleChoice TEPlotX{*this, 'X', "TEPlot", kTractivePlotXRange, {10, 5, 10, 5}};
+    ScaleChoice TEPlotY{*this, 'Y', "TEPlot", kTractivePlotYRange, {1000, 200, 500, 1000}};
     CheckBox EnableVLoads{*this, "EnableVLoads"};
-    ScaleChoice SpeedTimeGraphX{*this, 'X', "SpeedTimeGraph", {5, 20, 10, 5, 10, 5}};
-    ScaleChoice SpeedTimeGraphY{*this, 'Y', "SpeedTimeGraph", {10, 50, 20, 5, 10, 10}};
+    ScaleChoice SpeedTimeGraphX{*this, 'X', "SpeedTimeGraph", kSpeedGraphXRange, {10, 5, 10, 5}};
+    ScaleChoice SpeedTimeGraphY{*this, 'Y', "SpeedTimeGraph", kSpeedGraphYRange, {20, 5, 10, 10}};
 
     // Page 2: Misc
     OptionButton RevsP{*this, "RevsP", {.group = 1}};

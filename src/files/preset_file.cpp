@@ -5,12 +5,12 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "fields/guards.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
+#include "files/preset_text.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "text/number_text.h"
@@ -23,62 +23,23 @@
 namespace zolv {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kLongestFile = std::size_t{64} * 1024;  // bytes; a preset file has some 400
 constexpr const char* kAnyPresetFile = "*.cup";
 
-/// The keys of the lines. The name comes first, then the record in its order, but for the fittings at its end.
-constexpr std::string_view kNameKey = "Name: ";
-constexpr std::array<std::string_view, 28> kKeys = {
-    "Power: ",        "PowerRPM: ",     "Torque: ",       "TorqueRPM: ",    "IdleRPM: ",     "DrivetrainType: ",
-    "NumGears: ",     "Mass: ",         "WeightDist: ",   "Cd: ",           "FTW: ",         "FTP: ",
-    "FWS: ",          "FTrack: ",       "RTW: ",          "RTP: ",          "RWS: ",         "RTrack: ",
-    "Wheelbase: ",    "UnsprungMass: ", "Efficiency: ",   "Reverse: ",      "FrontalArea: ", "Cl: ",
-    "FMinPressure: ", "FMaxPressure: ", "RMinPressure: ", "RMaxPressure: ",
-};
-constexpr std::size_t kLines = 1 + kKeys.size();
-static_assert(kLines == 29 && kKeys[IndexOf(CarField::RMaxPressure)] == "RMaxPressure: ");
-
-using Lines = std::vector<std::string_view>;
-
-std::string_view From(std::string_view line, std::size_t first) { return line.substr(std::min(first, line.size())); }
-
-std::string_view LineOf(const Lines& lines, CarField field) { return lines[1 + IndexOf(field)]; }
-
-/// The number of a line: behind the colon, wherever another key stands, so that the blank may be missing.
-double NumberOf(const Lines& lines, CarField field) {
-    const std::size_t behindColon = kKeys[IndexOf(field)].size() - 1;
-    return Val(From(LineOf(lines, field), behindColon));
+void ShowDrivetrain(double drivetrain) {
+    const std::array<const std::string*, 3> drivetrains{&texts.TextFWD, &texts.TextRWD, &texts.TextAWD};
+    if (drivetrain == kUnknownDrivetrain) return;
+    CustomPresets.New.Drivetrain.SetText(*drivetrains[static_cast<std::size_t>(drivetrain)]);
 }
 
-std::string_view LastCharacter(std::string_view line) { return line.substr(line.empty() ? 0 : line.size() - 1); }
-
-std::string TextOf(const std::string& name, const CarFigures& figures) {
-    std::string text;
-    text.append(kNameKey).append(name).append(kLineEnd);
-    for (std::size_t i = 0; i < kKeys.size(); ++i) {
-        text.append(kKeys[i]).append(NumberText(figures[i])).append(kLineEnd);
-    }
-    return text;
-}
-
-void ShowDrivetrain(std::string_view code) {
-    PickList& list = CustomPresets.New.Drivetrain;
-    if (code == "0") list.SetText(texts.TextFWD);
-    if (code == "1") list.SetText(texts.TextRWD);
-    if (code == "2") list.SetText(texts.TextAWD);
-}
-
-void FillAddPanel(const Lines& lines) {
-    CustomPresets.NewName.SetText(std::string(From(lines[0], kNameKey.size())));
-    for (std::size_t i = 0; i < kKeys.size(); ++i) {
+void FillAddPanel(const PresetFile& file) {
+    CustomPresets.NewName.SetText(file.Name);
+    for (std::size_t i = 0; i < file.Figures.size(); ++i) {
         const auto field = static_cast<CarField>(i);
-        if (field == CarField::DrivetrainType) ShowDrivetrain(LastCharacter(LineOf(lines, field)));
-        if (field == CarField::NumGears) {
-            CustomPresets.New.Gears.SetText(NumberText(Val(LastCharacter(LineOf(lines, field)))));
-        }
+        if (field == CarField::DrivetrainType) ShowDrivetrain(file[field]);
+        if (field == CarField::NumGears) CustomPresets.New.Gears.SetText(NumberText(file[field]));
         const PresetFigure* const figure = FindPresetFigure(field);
-        if (figure != nullptr) figure->AddBox().SetText(NumberText(NumberOf(lines, field) * figure->Scale()));
+        if (figure != nullptr) figure->AddBox().SetText(NumberText(file[field] * figure->Scale()));
     }
 }
 
@@ -99,10 +60,10 @@ std::optional<std::size_t> FindBaseCar(float maxPressure, float reverse) {
     return std::nullopt;
 }
 
-void ShowBaseCarOf(const Lines& lines) {
+void ShowBaseCarOf(const PresetFile& file) {
     const Raised loading(presets.LoadingPreset);
-    const auto baseCar = FindBaseCar(static_cast<float>(NumberOf(lines, CarField::RMaxPressure)),
-                                     static_cast<float>(NumberOf(lines, CarField::Reverse)));
+    const auto baseCar =
+        FindBaseCar(static_cast<float>(file[CarField::RMaxPressure]), static_cast<float>(file[CarField::Reverse]));
     if (baseCar) CustomPresets.NewCar.SetText(vehicle.CarName[*baseCar]);
 }
 
@@ -127,24 +88,20 @@ bool ChoosePresetFile(const FileRequest& request) {
 void SavePresetFile() {
     const std::optional<int> preset = ChosenPreset();
     if (!preset) return;
-    const std::string text = TextOf(CustomPresets.EditName.Text(), vehicle.FiguresOfPreset(*preset));
+    const std::string text = PresetText(CustomPresets.EditName.Text(), vehicle.FiguresOfPreset(*preset));
     const std::string reason = WriteTextFile(files.PresetFileName, text);
     if (!reason.empty()) ShowMessage(CannotWrite(files.PresetFileName, reason));
 }
 
 void LoadPresetFile() {
     const FileText file = ReadTextFile(files.PresetFileName, kLongestFile);
-    if (!file.readable) {
-        ShowMessage(CannotRead(files.PresetFileName, file.reason));
+    const Parsed<PresetFile> preset = file.readable ? ParsePreset(file.text) : Refusal{file.reason};
+    if (!preset) {
+        ShowMessage(CannotRead(files.PresetFileName, preset.Reason()));
         return;
     }
-    const Lines lines = EndedLines(file.text);
-    if (lines.size() < kLines) {
-        ShowMessage(CannotRead(files.PresetFileName, "Not a preset file, which has 29 lines ended by CR LF"));
-        return;
-    }
-    FillAddPanel(lines);
-    ShowBaseCarOf(lines);
+    FillAddPanel(*preset);
+    ShowBaseCarOf(*preset);
 }
 
 void SavePresetAs() {

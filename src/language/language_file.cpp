@@ -5,12 +5,12 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
-#include <vector>
 
 #include "fields/windows.h"
 #include "language/caption_table.h"
 #include "language/field_words.h"
 #include "language/language_state.h"
+#include "language/language_text.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "text/texts.h"
@@ -57,7 +57,7 @@ void RebuildListBehind(int line) {
 /// A name that would lead out of the program's folder has no file there.
 bool LeavesFolder(std::string_view name) { return name.find_first_of("/\\") != std::string_view::npos; }
 
-void AssignLines(const std::vector<std::string_view>& lines) {
+void AssignLines(const LanguageLines& lines) {
     for (const CaptionLine& line : CaptionTable()) {
         AssignCaption(line, lines[static_cast<std::size_t>(line.number)]);
         RebuildListBehind(line.number);
@@ -74,13 +74,13 @@ void ChangeLanguage() {
         return;
     }
     const FileText file = ReadTextFile(path, kLongestFile);
-    const std::vector<std::string_view> lines = SplitLines(file.text);
-    if (!file.readable || lines.size() != kCaptionLines) {
-        ShowMessage("Language file does not have the correct number of lines. Loading failed.");
+    const Parsed<LanguageLines> lines = ParseLanguage(file.text);  // one that cannot be read has no lines either
+    if (!lines) {
+        ShowMessage(lines.Reason());
         return;
     }
     LoadWords(name);  // first, for the lists that are rebuilt below calculate and show
-    AssignLines(lines);
+    AssignLines(*lines);
     languageFollowUps.LanguageChanged();
 }
 

@@ -209,20 +209,4 @@ std::string CannotWrite(const std::string& path, std::string_view reason) {
     return "Cannot write " + path + ": " + std::string(reason);
 }
 
-std::vector<std::string_view> SplitLines(std::string_view text) {
-    std::vector<std::string_view> lines;
-    for (auto end = text.find("\r\n"); end != std::string_view::npos; end = text.find("\r\n")) {
-        lines.push_back(text.substr(0, end));
-        text.remove_prefix(end + 2);
-    }
-    lines.push_back(text);
-    return lines;
-}
-
-std::vector<std::string_view> EndedLines(std::string_view text) {
-    std::vector<std::string_view> lines = SplitLines(text);
-    if (lines.back().empty()) lines.pop_back();
-    return lines;
-}
-
 }  // namespace zolv

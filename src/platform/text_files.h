@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace zolv {
 
@@ -43,11 +42,5 @@ FileText ReadTextFile(const std::string& path, std::size_t limit);
 /// Messages about a file, with the file and the reason: "Cannot read set-up.zolv: No such file or directory".
 [[nodiscard]] std::string CannotRead(const std::string& path, std::string_view reason);
 [[nodiscard]] std::string CannotWrite(const std::string& path, std::string_view reason);
-
-/// Splits at CR LF. A text that ends in CR LF has an empty last line; a line feed alone does not end a line.
-std::vector<std::string_view> SplitLines(std::string_view text);
-
-/// The same without the empty line behind a last CR LF: the lines of a file whose every line ends in CR LF.
-std::vector<std::string_view> EndedLines(std::string_view text);
 
 }  // namespace zolv

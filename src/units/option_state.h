@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <variant>
 
 #include "platform/hook.h"
 
@@ -33,8 +34,13 @@ struct OptionState {
     bool AutoRevs = true;         // shift points by gear; otherwise all are CustomRevs
     std::int32_t CustomRevs = 0;  // [rpm]
     bool AccelerationOn = true;   // run the acceleration simulation
+
+    bool operator==(const OptionState&) const = default;
 };
 inline OptionState options;
+
+/// An option that is on or off.
+using OptionFlag = std::variant<bool OptionState::*, std::optional<bool> OptionState::*>;
 
 /// What follows; shell/wiring says what that is.
 struct OptionFollowUps {

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
-#include <variant>
 
 #include "fields/kinds.h"
 #include "units/option_state.h"
@@ -10,9 +8,6 @@
 /// What the fields of the options panel do beside the units: each sets its option at once, then raises the follow-up
 /// that shows the effect, optionFollowUps.GearingOptionChanged or optionFollowUps.PlotOptionChanged.
 namespace zolv {
-
-/// An option that is on or off.
-using OptionFlag = std::variant<bool OptionState::*, std::optional<bool> OptionState::*>;
 
 /// A check box for something that the gearing plots show.
 struct PlotFlag {

@@ -13,6 +13,7 @@
 #include "language/language_state.h"
 #include "platform/text_files.h"
 #include "support/zolv_test.h"
+#include "text/lines.h"
 #include "text/words.h"
 #include "units/option_state.h"
 

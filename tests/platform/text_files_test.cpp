@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "support/zolv_test.h"
+#include "text/lines.h"
 
 namespace zolv {
 namespace {

@@ -1,0 +1,29 @@
+#include "text/lines.h"
+
+#include <algorithm>
+
+namespace zolv {
+
+std::vector<std::string_view> SplitLines(std::string_view text) {
+    std::vector<std::string_view> lines;
+    for (auto end = text.find(kLineEnd); end != std::string_view::npos; end = text.find(kLineEnd)) {
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(end + kLineEnd.size());
+    }
+    lines.push_back(text);
+    return lines;
+}
+
+std::vector<std::string_view> EndedLines(std::string_view text) {
+    std::vector<std::string_view> lines = SplitLines(text);
+    if (lines.back().empty()) lines.pop_back();
+    return lines;
+}
+
+std::string_view From(std::string_view line, std::size_t first) { return line.substr(std::min(first, line.size())); }
+
+std::string_view LastOf(std::string_view line, std::size_t characters) {
+    return line.substr(line.size() - std::min(characters, line.size()));
+}
+
+}  // namespace zolv

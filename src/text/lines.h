@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace zolv {
+
+/// What ends every line of a file that the program writes.
+inline constexpr std::string_view kLineEnd = "\r\n";
+
+/// Splits at CR LF. A text that ends in CR LF has an empty last line; a line feed alone does not end a line.
+std::vector<std::string_view> SplitLines(std::string_view text);
+
+/// The same without the empty line behind a last CR LF: the lines of a file whose every line ends in CR LF.
+std::vector<std::string_view> EndedLines(std::string_view text);
+
+/// What stands in a line from that character on; nothing where the line is shorter.
+std::string_view From(std::string_view line, std::size_t first);
+
+/// The last characters of a line; the whole of a shorter one.
+std::string_view LastOf(std::string_view line, std::size_t characters);
+
+}  // namespace zolv

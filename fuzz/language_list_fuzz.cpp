@@ -1,54 +1,43 @@
-// A language list of any content, with English and one file that is none beside it.
+// A list of languages of any content, read and written without a program behind.
 
-#include "language/language_list.h"
+#include "language/language_list_text.h"
 
-#include "platform/text_files.h"
+#include <algorithm>
+#include <cstdint>
+
 #include "support/expect.h"
-#include "support/fuzzed_program.h"
-#include "text/lines.h"
 
 namespace zolv {
 namespace {
 
-constexpr const char* kFile = "languages.lst";
-
-std::map<std::string, std::string> Files() {
-    std::map<std::string, std::string> contents = FilesOfStart();
-    contents["language_A.txt"] = "no language\r\n";
-    return contents;
-}
-
-/// The names behind line 0, which alone a saved choice changes.
-std::vector<std::string> NamesIn(const std::string& list) {
-    const std::vector<std::string_view> lines = EndedLines(list);
-    return {lines.begin() + 1, lines.end()};
-}
-
-void Load(std::string_view content) {
-    static FuzzedProgram program(Files());
-    PutFile(kFile, content);
-    LoadLanguageList();
-    const bool refused = program.Said("Cannot read") || program.Said("The language list does not exist");
-    if (refused) program.ExpectAsStarted({"LanguageSelection.LanguageSelection"});
-    program.ExpectSound(content);
-    SaveLanguageChoice();
-    const std::string saved = FileContent(kFile);
-    if (refused) {
-        Expect(saved == content, "a refused list stays", saved);
-    } else {
-        const std::vector<std::string>& rows = LanguageSelection.LanguageList.Rows();
-        Expect(NamesIn(saved) == rows, "a saved choice keeps the names", saved);
-        LoadLanguageList();
-        Expect(LanguageSelection.LanguageList.Rows() == NamesIn(saved), "the saved list loads", saved);
-        program.ExpectSound(content);
+void SaveChoice(const LanguageListFile& list, const std::string& chosen) {
+    const std::string number = NumberToStore(list, chosen);
+    const std::string text = LanguageListText(number, list.Names);
+    const Parsed<LanguageListFile> saved = ParseLanguageList(text);
+    Expect(static_cast<bool>(saved), "a saved choice reads", text);
+    Expect(saved->Names == list.Names && saved->LastLineEnds, "a saved choice keeps the names", text);
+    if (number.size() <= 2 && !number.empty()) {
+        Expect(saved->Number == std::stoi(number), "the number comes back", text);
+        const auto place = static_cast<std::size_t>(saved->Number) - 1;
+        Expect(place == list.Names.size() || list.Names[place] == chosen, "the number is that of the name", text);
     }
-    program.PutBack();
+}
+
+void Read(std::string_view content) {
+    const Parsed<LanguageListFile> list = ParseLanguageList(content);
+    Expect(static_cast<bool>(list) == list.Reason().empty(), "a value or a reason");
+    if (!list) return;
+    Expect(list->Number >= -9 && list->Number <= 99, "two characters");
+    if (list->Names.empty()) return;
+    SaveChoice(*list, list->Names.front());
+    SaveChoice(*list, list->Names.back());
+    SaveChoice(*list, "");
 }
 
 }  // namespace
 }  // namespace zolv
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    zolv::Load({reinterpret_cast<const char*>(data), size});
+    zolv::Read({reinterpret_cast<const char*>(data), size});
     return 0;
 }

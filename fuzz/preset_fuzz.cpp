@@ -1,50 +1,40 @@
-// A preset file of any content: read, added as a car, driven and saved again.
+// A preset file of any content, read and written without a program behind.
 
-#include "files/preset_file.h"
+#include "files/preset_text.h"
 
-#include "platform/text_files.h"
-#include "support/expect.h"
-#include "support/fuzzed_program.h"
-#include "text/lines.h"
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+#include "support/parsing.h"
 
 namespace zolv {
 namespace {
 
-constexpr std::size_t kLines = 29;
-
-void AddAndSave(FuzzedProgram& program, std::string_view content) {
-    CustomPresets.AddCar.Click();
-    program.ExpectSound(content);
-    if (vehicle.PresetsUsed == 0) return;
-    Zolv.Select_Car.SetText(vehicle.CustomName[0]);
-    program.ExpectSound(content);
-    CustomPresets.EditName.SetText(vehicle.CustomName[0]);
-    files.PresetFileName = "saved.cup";
-    SavePresetFile();
-    Expect(EndedLines(FileContent("saved.cup")).size() >= kLines, "a saved preset has its lines");
-    LoadPresetFile();
-    program.ExpectSound(content);
-    Expect(CustomPresets.NewName.Text() == vehicle.CustomName[0], "the name comes back", vehicle.CustomName[0]);
+/// As a table of cars would hold it.
+CarFigures SingleFigures(const PresetFile& preset) {
+    CarFigures figures{};
+    std::ranges::transform(preset.Figures, figures.begin(), [](double figure) { return static_cast<float>(figure); });
+    return figures;
 }
 
-void Load(std::string_view content) {
-    static FuzzedProgram program(FilesOfStart());
-    PutFile("input.cup", content);
-    files.PresetFileName = "input.cup";
-    LoadPresetFile();
-    if (program.Said("Cannot read")) {
-        program.ExpectAsStarted();
-    } else {
-        program.ExpectSound(content);
-        AddAndSave(program, content);
-    }
-    program.PutBack();
+std::string TextOf(const PresetFile& preset) { return PresetText(preset.Name, SingleFigures(preset)); }
+
+void Read(std::string_view content) {
+    const Parsed<PresetFile> preset = ParsePreset(content);
+    Expect(static_cast<bool>(preset) == preset.Reason().empty(), "a value or a reason");
+    if (!preset) return;
+    const double drivetrain = (*preset)[CarField::DrivetrainType];
+    Expect(drivetrain >= 0 && drivetrain <= kUnknownDrivetrain, "a drivetrain or none");
+    if (!std::ranges::all_of(SingleFigures(*preset), [](float figure) { return std::isfinite(figure); })) return;
+    ExpectReadsBack(TextOf(*preset), ParsePreset, TextOf);
+    Expect(ParsePreset(TextOf(*preset))->Name == preset->Name, "the name comes back", preset->Name);
 }
 
 }  // namespace
 }  // namespace zolv
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    zolv::Load({reinterpret_cast<const char*>(data), size});
+    zolv::Read({reinterpret_cast<const char*>(data), size});
     return 0;
 }

@@ -1,42 +1,30 @@
-// A settings file of any content.
+// A settings file of any content, read and written without a program behind.
 
-#include "files/settings_file.h"
+#include "files/settings_text.h"
 
-#include "support/expect.h"
-#include "support/fuzzed_program.h"
+#include <cmath>
+#include <cstdint>
+
+#include "support/parsing.h"
+#include "text/lines.h"
 
 namespace zolv {
 namespace {
 
-std::string SavedAs(const std::string& name) {
-    files.CurrentFileName = name;
-    SaveSettingsFile();
-    return FileContent(name);
-}
-
-void Open(std::string_view content) {
-    static FuzzedProgram program(FilesOfStart());
-    PutFile("input.zolv", content);
-    OpenSettingsFile("input.zolv");
-    if (program.Said("Cannot read")) {
-        program.ExpectAsStarted();
-    } else {
-        program.ExpectSound(content);
-        const bool known = !files.CurrentFileName.empty();
-        if (known) {
-            const std::string saved = SavedAs("saved.zolv");
-            OpenSettingsFile("saved.zolv");
-            Expect(SavedAs("again.zolv") == saved, "a saved file opens as it was saved", saved);
-            program.ExpectSound(content);
-        }
-    }
-    program.PutBack();
+void Read(std::string_view content) {
+    const Parsed<SettingsFile> settings = ParseSettings(content);
+    Expect(static_cast<bool>(settings) == settings.Reason().empty(), "a value or a reason");
+    if (!settings) return;
+    const std::string text = SettingsText(*settings);
+    Expect(EndedLines(text).size() == 19, "a line a value", text);
+    ExpectReadsBack(text, ParseSettings, SettingsText);
+    Expect(ParseSettings(text)->CarName == settings->CarName, "the name comes back", text);
 }
 
 }  // namespace
 }  // namespace zolv
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    zolv::Open({reinterpret_cast<const char*>(data), size});
+    zolv::Read({reinterpret_cast<const char*>(data), size});
     return 0;
 }

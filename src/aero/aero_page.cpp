@@ -68,10 +68,9 @@ AirBalance BalanceOf(double share, double weightDist) {
 }
 
 void ShowBalance() {
-    Label& field = Zolv.Aero_AeroDistribution;
-    const auto show = [&field](const Rgb& colour, const std::string& word) {
-        field.SetColour(colour);
-        field.SetToolTip(word);
+    const auto show = [](const Rgb& colour, const std::string& word) {
+        Zolv.Aero_AeroDistribution.SetColour(colour);
+        Zolv.Aero_AeroDistribution.SetToolTip(word);
     };
     switch (aero.Balance) {
         case AirBalance::None: show(kBlack, "N/A"); break;

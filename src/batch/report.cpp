@@ -36,19 +36,12 @@ std::string Shown(const std::string& caption) {
     return shown;
 }
 
-/// A caption on one line.
-std::string Flat(const std::string& caption) {
-    std::string flat;
-    for (const char c : caption) {
-        if (c == '\n') flat += ' ';
-        if (c != '\n' && c != '\r') flat += c;
-    }
-    return flat;
-}
+/// One line of the report, whatever line ends its captions bring.
+void Print(const std::string& line) { PrintLine(Flat(line)); }
 
 void PrintUnderlined(const std::string& heading, char line) {
-    PrintLine(heading);
-    PrintLine(std::string(ColumnsOf(heading), line));
+    Print(heading);
+    PrintLine(std::string(ColumnsOf(Flat(heading)), line));
 }
 
 void PrintHeading(const std::string& heading) {
@@ -66,8 +59,8 @@ struct Entry {
 void AddEntries(TextTable& table, std::initializer_list<Entry> entries) {
     for (const Entry& entry : entries) {
         if (!entry.value->Visible()) continue;
-        std::vector<std::string> row{Shown(entry.name->Caption()), Flat(entry.value->Caption())};
-        if (entry.second != nullptr) row.push_back(Flat(entry.second->Caption()));
+        std::vector<std::string> row{Shown(entry.name->Caption()), entry.value->Caption()};
+        if (entry.second != nullptr) row.push_back(entry.second->Caption());
         table.Add(std::move(row));
     }
 }
@@ -80,7 +73,7 @@ void PrintEntries(std::initializer_list<Entry> entries) {
 
 void PrintCar() {
     PrintUnderlined("Tarmaq Zolv: " + Zolv.Select_Car.Text(), '=');
-    if (!files.CurrentFileName.empty()) PrintLine("  " + files.CurrentFileName);
+    if (!files.CurrentFileName.empty()) Print("  " + files.CurrentFileName);
     PrintEntries({{&Zolv.InfoLabel[5], &Zolv.Info_Power},
                   {&Zolv.InfoLabel[6], &Zolv.Info_Torque},
                   {&Zolv.InfoLabel[7], &Zolv.Info_DT},
@@ -109,11 +102,11 @@ std::string GearName(int gear) { return texts.GearNames[static_cast<std::size_t>
 
 void PrintOrderErrors(const std::vector<int>& wrong) {
     const OrderWords words = OrderWordsOf(gearing.From());
-    PrintLine("  " + words.notUpdated + ' ' + texts.TextBecauseOfThe + ' ' +
-              NumberText(static_cast<int>(wrong.size())) + ' ' + texts.TextErrors);
+    Print("  " + words.notUpdated + ' ' + texts.TextBecauseOfThe + ' ' + NumberText(static_cast<int>(wrong.size())) +
+          ' ' + texts.TextErrors);
     for (const int gear : wrong) {
-        PrintLine("    " + words.theNumberFor + ' ' + GearName(gear + 1) + ' ' + words.isWrongAgainst + ' ' +
-                  GearName(gear));
+        Print("    " + words.theNumberFor + ' ' + GearName(gear + 1) + ' ' + words.isWrongAgainst + ' ' +
+              GearName(gear));
     }
     PrintLine("");
 }
@@ -156,7 +149,7 @@ void PrintGearing() {
     PrintHeading(Shown(Zolv.Select_Page.Rows()[1]) + ": " + Shown(direction.Caption()));
     const std::vector<int>& wrong = gearing.WrongOrder;
     if (!wrong.empty()) PrintOrderErrors(wrong);
-    PrintLine("  " + Zolv.GearingLabel[0].Caption() + ' ' + panel.FinalDrive.Text());
+    Print("  " + Zolv.GearingLabel[0].Caption() + ' ' + panel.FinalDrive.Text());
     PrintLine("");
     PrintGears(panel, wrong.empty());
     if (wrong.empty() && options.AccelerationOn) PrintAcceleration();
@@ -170,7 +163,7 @@ void PrintTyres() {
                   {&Zolv.TyreLabel[11], &Zolv.FRCPR}});
     PrintLine("");
     // The tyre page analyses one axle at a time.
-    PrintLine("  " + (Zolv.FrontTyreAnal.Checked() ? texts.TextFront : texts.TextRear));
+    Print("  " + (Zolv.FrontTyreAnal.Checked() ? texts.TextFront : texts.TextRear));
     PrintEntries({{&Zolv.TyreLabel[7], &Zolv.CPW},
                   {&Zolv.TyreLabel[8], &Zolv.CPL},
                   {&Zolv.TyreLabel[9], &Zolv.CPA},

@@ -31,10 +31,23 @@ bool IsWide(char32_t character) {
 
 }  // namespace
 
+std::string Flat(std::string_view text) {
+    std::string flat;
+    for (const char c : text) {
+        if (c != '\r') flat += c == '\n' ? ' ' : c;
+    }
+    return flat;
+}
+
 std::size_t ColumnsOf(std::string_view text) {
     std::size_t columns = 0;
     while (!text.empty()) columns += std::size_t{IsWide(TakeCharacter(text)) ? 2U : 1U};
     return columns;
+}
+
+void TextTable::Add(std::vector<std::string> row) {
+    for (std::string& cell : row) cell = Flat(cell);
+    rows_.push_back(std::move(row));
 }
 
 std::vector<std::string> TextTable::Lines(std::size_t indent) const {

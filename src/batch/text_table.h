@@ -15,7 +15,8 @@ public:
 
     explicit TextTable(Values values = Values::Right) : values_(values) {}
 
-    void Add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
+    /// A row of cells, each of which stays on its line: a line end in it becomes a blank.
+    void Add(std::vector<std::string> row);
 
     /// The lines, each indented by `indent` blanks and without blanks at its end.
     [[nodiscard]] std::vector<std::string> Lines(std::size_t indent) const;
@@ -24,6 +25,9 @@ private:
     Values values_;
     std::vector<std::vector<std::string>> rows_;
 };
+
+/// A text on one line: a line feed is a blank, a carriage return nothing.
+[[nodiscard]] std::string Flat(std::string_view text);
 
 /// Columns that a UTF-8 text takes on a terminal.
 [[nodiscard]] std::size_t ColumnsOf(std::string_view text);

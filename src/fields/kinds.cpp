@@ -24,7 +24,7 @@ Label::Label(Window& owner, std::string name, Look design)
     : Field(owner, std::move(name), FieldKind::Label, std::move(design)) {}
 
 Panel::Panel(Window& owner, std::string name, PanelState design)
-    : Field(owner, std::move(name), FieldKind::Panel, design.look), design_(std::move(design)), front_(design_.front) {}
+    : FieldWith(owner, std::move(name), FieldKind::Panel, std::move(design)) {}
 
 void Panel::BringToFront() {
     for (Field* field : Owner().Fields()) {
@@ -35,12 +35,7 @@ void Panel::BringToFront() {
 }
 
 void Panel::SetFront(bool front) {
-    if (std::exchange(front_, front) != front) MarkChanged();
-}
-
-void Panel::Reset() {
-    Field::Reset();
-    front_ = design_.front;
+    if (std::exchange(state_.front, front) != front) MarkChanged();
 }
 
 Button::Button(Window& owner, std::string name, Look design)
@@ -52,7 +47,7 @@ MenuEntry::MenuEntry(Window& owner, std::string name, std::string parent, std::s
       shortcut_(std::move(shortcut)) {}
 
 TextBox::TextBox(Window& owner, std::string name, TextBoxState design)
-    : Field(owner, std::move(name), FieldKind::TextBox, design.look), design_(std::move(design)), text_(design_.text) {}
+    : FieldWith(owner, std::move(name), FieldKind::TextBox, std::move(design)) {}
 
 void TextBox::Enter(std::string_view text) {
     std::string typed(text);
@@ -62,34 +57,24 @@ void TextBox::Enter(std::string_view text) {
 }
 
 void TextBox::SetText(std::string text) {
-    if (text == text_) return;
-    text_ = std::move(text);
-    caret_ = 0;
+    if (text == state_.text) return;
+    state_.text = std::move(text);
+    state_.caret = 0;
     MarkChanged();
     OnChange();
 }
 
 void TextBox::SetCaret(std::size_t caret) {
-    caret = std::min(caret, text_.size());
-    if (std::exchange(caret_, caret) != caret) MarkChanged();
-}
-
-void TextBox::Reset() {
-    Field::Reset();
-    text_ = design_.text;
-    caret_ = 0;
+    caret = std::min(caret, state_.text.size());
+    if (std::exchange(state_.caret, caret) != caret) MarkChanged();
 }
 
 Slider::Slider(Window& owner, std::string name, SliderState design)
-    : Field(owner, std::move(name), FieldKind::Slider, design.look),
-      design_(std::move(design)),
-      min_(design_.min),
-      max_(design_.max),
-      value_(design_.value) {}
+    : FieldWith(owner, std::move(name), FieldKind::Slider, std::move(design)) {}
 
 bool Slider::Move(int value) {
-    value = std::clamp(value, min_, max_);
-    if (std::exchange(value_, value) == value) return false;
+    value = std::clamp(value, state_.min, state_.max);
+    if (std::exchange(state_.value, value) == value) return false;
     MarkChanged();
     return true;
 }
@@ -106,71 +91,53 @@ void Slider::SetValue(int value) {
 
 void Slider::SetRange(int min, int max) {
     assert(min <= max);
-    if (min == min_ && max == max_) return;
-    min_ = min;
-    max_ = max;
+    if (min == state_.min && max == state_.max) return;
+    state_.min = min;
+    state_.max = max;
     MarkChanged();
-    SetValue(value_);
-}
-
-void Slider::Reset() {
-    Field::Reset();
-    min_ = design_.min;
-    max_ = design_.max;
-    value_ = design_.value;
+    SetValue(state_.value);
 }
 
 PickList::PickList(Window& owner, std::string name, PickListState design)
     : PickList(owner, std::move(name), FieldKind::PickList, std::move(design)) {}
 
 PickList::PickList(Window& owner, std::string name, FieldKind kind, PickListState design)
-    : Field(owner, std::move(name), kind, design.look),
-      design_(std::move(design)),
-      rows_(design_.rows),
-      picked_(design_.picked),
-      locked_(design_.locked) {}
+    : FieldWith(owner, std::move(name), kind, std::move(design)) {}
 
 const std::string& PickList::Text() const {
     static const std::string kNone;
-    return picked_ >= 0 ? rows_[static_cast<std::size_t>(picked_)] : kNone;
+    return state_.picked >= 0 ? state_.rows[static_cast<std::size_t>(state_.picked)] : kNone;
 }
 
 int PickList::Find(std::string_view text) const {
-    const auto row = std::find(rows_.begin(), rows_.end(), text);
-    return row == rows_.end() ? -1 : static_cast<int>(row - rows_.begin());
+    const auto row = std::find(state_.rows.begin(), state_.rows.end(), text);
+    return row == state_.rows.end() ? -1 : static_cast<int>(row - state_.rows.begin());
 }
 
 void PickList::SetLocked(bool locked) {
-    if (std::exchange(locked_, locked) != locked) MarkChanged();
+    if (std::exchange(state_.locked, locked) != locked) MarkChanged();
 }
 
 void PickList::Pick(int row) {
-    if (row < 0 || row >= static_cast<int>(rows_.size())) return;
-    if (std::exchange(picked_, row) != row) MarkChanged();
+    if (row < 0 || row >= static_cast<int>(state_.rows.size())) return;
+    if (std::exchange(state_.picked, row) != row) MarkChanged();
     OnClick();
 }
 
 void PickList::Add(std::string row) {
-    rows_.push_back(std::move(row));
+    state_.rows.push_back(std::move(row));
     MarkChanged();
 }
 
 void PickList::SetRow(int row, std::string_view text) {
-    rows_[static_cast<std::size_t>(row)] = text;
+    state_.rows[static_cast<std::size_t>(row)] = text;
     MarkChanged();
 }
 
 void PickList::Clear() {
-    rows_.clear();
-    picked_ = -1;
+    state_.rows.clear();
+    state_.picked = -1;
     MarkChanged();
-}
-
-void PickList::Reset() {
-    Field::Reset();
-    rows_ = design_.rows;
-    picked_ = design_.picked;
-    locked_ = design_.locked;
 }
 
 TabStrip::TabStrip(Window& owner, std::string name, std::size_t tabs)
@@ -188,70 +155,46 @@ void TabStrip::Reset() {
 }
 
 CheckBox::CheckBox(Window& owner, std::string name, CheckState design)
-    : Field(owner, std::move(name), FieldKind::CheckBox, design.look),
-      design_(std::move(design)),
-      checked_(design_.checked) {}
+    : FieldWith(owner, std::move(name), FieldKind::CheckBox, std::move(design)) {}
 
 void CheckBox::SetChecked(bool checked) {
-    if (std::exchange(checked_, checked) == checked) return;
+    if (std::exchange(state_.checked, checked) == checked) return;
     MarkChanged();
     OnClick();
-}
-
-void CheckBox::Reset() {
-    Field::Reset();
-    checked_ = design_.checked;
 }
 
 OptionButton::OptionButton(Window& owner, std::string name, CheckState design)
-    : Field(owner, std::move(name), FieldKind::OptionButton, design.look),
-      design_(std::move(design)),
-      checked_(design_.checked) {}
+    : FieldWith(owner, std::move(name), FieldKind::OptionButton, std::move(design)) {}
 
 void OptionButton::Choose() {
-    if (checked_) return;
+    if (state_.checked) return;
     for (Field* field : Owner().Fields()) {
         if (field->Kind() != FieldKind::OptionButton) continue;
         auto& button = static_cast<OptionButton&>(*field);
-        if (button.Group() != Group() || !button.checked_) continue;
-        button.checked_ = false;
+        if (button.Group() != Group() || !button.state_.checked) continue;
+        button.state_.checked = false;
         button.MarkChanged();
     }
-    checked_ = true;
+    state_.checked = true;
     MarkChanged();
     OnClick();
 }
 
-void OptionButton::Reset() {
-    Field::Reset();
-    checked_ = design_.checked;
-}
-
 Picture::Picture(Window& owner, std::string name, Look design)
-    : Field(owner, std::move(name), FieldKind::Picture, std::move(design)) {}
+    : FieldWith(owner, std::move(name), FieldKind::Picture, {.look = std::move(design)}) {}
 
 void Picture::SetPath(std::string path) {
-    if (path == path_) return;
-    path_ = std::move(path);
+    if (path == state_.path) return;
+    state_.path = std::move(path);
     MarkChanged();
-}
-
-void Picture::Reset() {
-    Field::Reset();
-    path_.clear();
 }
 
 CanvasField::CanvasField(Window& owner, std::string name, double width, double height, Look design)
-    : Field(owner, std::move(name), FieldKind::Canvas, std::move(design)), canvas_(width, height) {}
+    : FieldWith(owner, std::move(name), FieldKind::Canvas, {Canvas(width, height), std::move(design)}) {}
 
 Canvas& CanvasField::Draw() {
     MarkChanged();
-    return canvas_;
-}
-
-void CanvasField::Reset() {
-    Field::Reset();
-    canvas_ = Canvas(canvas_.Width(), canvas_.Height());
+    return state_.canvas;
 }
 
 }  // namespace zolv

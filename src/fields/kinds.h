@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "drawing/canvas.h"
@@ -13,6 +14,23 @@
 /// The kinds of fields. Each has two ways in: what a user does (Enter, Drag, Pick, Click, Choose) and what the program
 /// does (the Set... calls); the two differ in which events they raise.
 namespace zolv {
+
+/// A field of a kind that has a state of its own, beside what every field has: as it was designed, and as it is.
+template <class State>
+class FieldWith : public Field {
+public:
+    void Reset() override {
+        Field::Reset();
+        state_ = design_;
+    }
+
+protected:
+    FieldWith(Window& owner, std::string name, FieldKind kind, State design)
+        : Field(owner, std::move(name), kind, std::move(design.look)), design_(std::move(design)), state_(design_) {}
+
+    State design_;  // without its look, which the field has
+    State state_;
+};
 
 class Label : public Field {
 public:
@@ -26,20 +44,16 @@ struct PanelState {
 };
 
 /// A panel, page or frame. Panels of a stack share one place, and one of them is on top.
-class Panel : public Field {
+class Panel : public FieldWith<PanelState> {
 public:
     Panel(Window& owner, std::string name, PanelState design = {});
 
     int Stack() const { return design_.stack; }
-    bool InFront() const { return front_; }
+    bool InFront() const { return state_.front; }
     void BringToFront();
-    void Reset() override;
 
 private:
     void SetFront(bool front);
-
-    PanelState design_;
-    bool front_;
 };
 
 class Button : public Field {
@@ -73,13 +87,14 @@ struct TextBoxState {
     bool locked = false;
     bool multiLine = false;
     Look look = {};
+    std::size_t caret = 0;  // offset into the text
 };
 
-class TextBox : public Field {
+class TextBox : public FieldWith<TextBoxState> {
 public:
     TextBox(Window& owner, std::string name, TextBoxState design = {});
 
-    const std::string& Text() const { return text_; }
+    const std::string& Text() const { return state_.text; }
     std::size_t MaxLength() const { return design_.maxLength; }
     bool MultiLine() const { return design_.multiLine; }
     bool Locked() const override { return design_.locked; }
@@ -92,18 +107,11 @@ public:
     void SetText(std::string text);
 
     /// Where the caret stands, as an offset into the text. A new text puts it back to the start.
-    std::size_t Caret() const { return caret_; }
+    std::size_t Caret() const { return state_.caret; }
     void SetCaret(std::size_t caret);
-
-    void Reset() override;
 
     Hook OnChange;
     std::function<char(char)> OnKeyPress;  // the character that is to reach the box in place of the one typed
-
-private:
-    TextBoxState design_;
-    std::string text_;
-    std::size_t caret_ = 0;
 };
 
 struct SliderState {
@@ -117,13 +125,13 @@ struct SliderState {
 };
 
 /// A slider over whole numbers. What it is given is limited to its range.
-class Slider : public Field {
+class Slider : public FieldWith<SliderState> {
 public:
     Slider(Window& owner, std::string name, SliderState design);
 
-    int Value() const { return value_; }
-    int Min() const { return min_; }
-    int Max() const { return max_; }
+    int Value() const { return state_.value; }
+    int Min() const { return state_.min; }
+    int Max() const { return state_.max; }
     int SmallStep() const { return design_.smallStep; }
     int LargeStep() const { return design_.largeStep; }
     int Tick() const { return design_.tick; }
@@ -137,18 +145,11 @@ public:
     /// A new range; the value moves into it, which is a change like any other. `max` is not below `min`.
     void SetRange(int min, int max);
 
-    void Reset() override;
-
     Hook OnScroll;
     Hook OnChange;
 
 private:
     bool Move(int value);
-
-    SliderState design_;
-    int min_;
-    int max_;
-    int value_;
 };
 
 struct PickListState {
@@ -159,15 +160,15 @@ struct PickListState {
 };
 
 /// A list of rows of which one is picked, or none. It cannot be typed into.
-class PickList : public Field {
+class PickList : public FieldWith<PickListState> {
 public:
     PickList(Window& owner, std::string name, PickListState design = {});
 
-    const std::vector<std::string>& Rows() const { return rows_; }
-    int Picked() const { return picked_; }  // -1 is none
-    const std::string& Text() const;        // of the picked row; empty for none
-    int Find(std::string_view text) const;  // the first row with that text, -1 if there is none
-    bool Locked() const override { return locked_; }
+    const std::vector<std::string>& Rows() const { return state_.rows; }
+    int Picked() const { return state_.picked; }  // -1 is none
+    const std::string& Text() const;              // of the picked row; empty for none
+    int Find(std::string_view text) const;        // the first row with that text, -1 if there is none
+    bool Locked() const override { return state_.locked; }
     void SetLocked(bool locked);
 
     /// The user picks a row: raises click, also for the row already picked.
@@ -179,18 +180,11 @@ public:
     void Add(std::string row);
     void SetRow(int row, std::string_view text);
     void Clear();  // no rows, none picked; raises nothing
-    void Reset() override;
 
     Hook OnClick;
 
 protected:
     PickList(Window& owner, std::string name, FieldKind kind, PickListState design);
-
-private:
-    PickListState design_;
-    std::vector<std::string> rows_;
-    int picked_;
-    bool locked_;
 };
 
 /// A strip of tabs, of which one is in front: a pick list whose rows have tool tips, with the first row picked at
@@ -213,71 +207,60 @@ struct CheckState {
     Look look = {};
 };
 
-class CheckBox : public Field {
+class CheckBox : public FieldWith<CheckState> {
 public:
     CheckBox(Window& owner, std::string name, CheckState design = {});
 
-    bool Checked() const { return checked_; }
+    bool Checked() const { return state_.checked; }
 
     /// By the user or by the program: raises click if the state changes.
     void SetChecked(bool checked);
 
-    void Reset() override;
-
     Hook OnClick;
-
-private:
-    CheckState design_;
-    bool checked_;
 };
 
-class OptionButton : public Field {
+class OptionButton : public FieldWith<CheckState> {
 public:
     OptionButton(Window& owner, std::string name, CheckState design);
 
-    bool Checked() const { return checked_; }
+    bool Checked() const { return state_.checked; }
     int Group() const { return design_.group; }
 
     /// By the user or by the program: clears the others of its group and raises click. One that is chosen already
     /// stays so and raises nothing, so that a second press never repeats a hand-over.
     void Choose();
 
-    void Reset() override;
-
     Hook OnClick;
+};
 
-private:
-    CheckState design_;
-    bool checked_;
+struct PictureState {
+    std::string path = {};
+    Look look = {};
 };
 
 /// A picture from a file.
-class Picture : public Field {
+class Picture : public FieldWith<PictureState> {
 public:
     Picture(Window& owner, std::string name, Look design = {});
 
-    const std::string& Path() const { return path_; }
+    const std::string& Path() const { return state_.path; }
     void SetPath(std::string path);
-    void Reset() override;
+};
 
-private:
-    std::string path_;
+struct CanvasState {
+    Canvas canvas;
+    Look look = {};
 };
 
 /// A canvas on a page. Its visible flag is what hides and shows the drawing.
-class CanvasField : public Field {
+class CanvasField : public FieldWith<CanvasState> {
 public:
     CanvasField(Window& owner, std::string name, double width, double height, Look design = {});
 
-    const Canvas& Drawing() const { return canvas_; }
+    const Canvas& Drawing() const { return state_.canvas; }
 
     /// The canvas for drawing on; the field counts as changed.
     Canvas& Draw();
-
-    void Reset() override;
-
-private:
-    Canvas canvas_;
 };
 
 }  // namespace zolv

@@ -2,8 +2,8 @@
 
 namespace zolv {
 
-/// The options file, "Options.ini" in the program's folder, holds all units and options: 31 lines "Key: value" ended by
-/// CR LF, in a fixed order. The reader goes by line and position and never looks at a key. Units are held by their row.
+/// The options file, "Options.ini" in the program's folder, holds all units and options; its text is told in
+/// options_text.h.
 
 /// Writes the options. A failed write shows a message and leaves the old file whole.
 /// Reads: units, options

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "files/missing_lines.h"
 #include "text/lines.h"
 #include "text/number_text.h"
 
@@ -40,7 +41,7 @@ double FigureOf(std::size_t figure, std::string_view line) {
 
 Parsed<PresetFile> ParsePreset(std::string_view text) {
     const std::vector<std::string_view> lines = EndedLines(text);
-    if (lines.size() < kLines) return Refusal{"Not a preset file, which has 29 lines ended by CR LF"};
+    if (lines.size() < kLines) return Refusal{MissingLines(text, "a custom preset", kLines)};
     PresetFile file{.Name = std::string(From(lines[0], kNameKey.size()))};
     for (std::size_t i = 0; i < kPresetFileFigures; ++i) file.Figures[i] = FigureOf(i, lines[1 + i]);
     return file;

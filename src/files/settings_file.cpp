@@ -59,6 +59,13 @@ void Apply(const SettingsFile& file) {
     Zolv.Select_RearWingAngle.SetValue(ToInt32(file.RWing));
 }
 
+/// @return whether it was written; if not, a message has said why
+bool SaveTo(const std::string& name) {
+    const std::string reason = WriteTextFile(name, SettingsText(PresentSettings()));
+    if (!reason.empty()) ShowMessage(CannotWrite(name, reason));
+    return reason.empty();
+}
+
 void SetCurrentFile(const std::string& name) {
     files.CurrentFileName = name;
     std::string title(kProgramName);
@@ -76,10 +83,7 @@ FileRequest RequestFor(bool saving) {
 
 }  // namespace
 
-void SaveSettingsFile() {
-    const std::string reason = WriteTextFile(files.CurrentFileName, SettingsText(PresentSettings()));
-    if (!reason.empty()) ShowMessage(CannotWrite(files.CurrentFileName, reason));
-}
+void SaveSettingsFile() { SaveTo(files.CurrentFileName); }
 
 bool LoadSettingsFile() {
     const FileText file = ReadTextFile(files.OpenFileName, kLongestFile);
@@ -118,9 +122,7 @@ void SaveSettings() {
 
 void SaveSettingsAs() {
     const std::string name = AskForFile(RequestFor(true));
-    if (name == kPattern) return;
-    SetCurrentFile(name);
-    SaveSettingsFile();
+    if (name != kPattern && SaveTo(name)) SetCurrentFile(name);
 }
 
 void CloseSettings() { SetCurrentFile({}); }

@@ -4,8 +4,8 @@
 
 namespace zolv {
 
-/// A settings file holds one set-up: 19 lines "Key: value", ended by CR LF, in a fixed order. The reader goes by line
-/// and position and never looks at a key. No unit is stored: speeds are in the unit of speed in force.
+/// A settings file holds one set-up; its text is told in settings_text.h. No unit is stored: speeds are in the unit of
+/// speed in force.
 
 /// Writes the set-up to files.CurrentFileName. A failed write shows a message and leaves the old file whole.
 /// Reads: Select_Car, pressures, both gearboxes, wing angles
@@ -24,6 +24,8 @@ void OpenSettings();
 void OpenSettingsFile(const std::string& name);
 
 void SaveSettings();
+
+/// A set-up that could not be written under its new name keeps the one that it had, in the title as well.
 void SaveSettingsAs();
 void CloseSettings();
 

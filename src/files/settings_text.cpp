@@ -1,10 +1,10 @@
 #include "files/settings_text.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <type_traits>
 #include <vector>
 
+#include "files/missing_lines.h"
 #include "text/lines.h"
 #include "text/number_text.h"
 
@@ -49,16 +49,11 @@ auto LinesOf(File& file) {
 
 constexpr std::size_t kLineCount = 19;
 
-std::string TooFewLines(std::size_t count) {
-    return NumberText(static_cast<std::int32_t>(count)) + " of the " +
-           NumberText(static_cast<std::int32_t>(kLineCount)) + " lines of a settings file, which end in CR LF";
-}
-
 }  // namespace
 
 Parsed<SettingsFile> ParseSettings(std::string_view text) {
     const std::vector<std::string_view> lines = EndedLines(text);
-    if (lines.size() < kLineCount) return Refusal{TooFewLines(lines.size())};
+    if (lines.size() < kLineCount) return Refusal{MissingLines(text, "a set-up", kLineCount)};
     SettingsFile file{.CarName = std::string(From(lines[0], kNameKey.size()))};
     std::size_t at = 1;
     for (const auto& line : LinesOf(file)) *line.number = Val(From(lines[at++], line.readFrom));

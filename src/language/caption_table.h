@@ -45,11 +45,21 @@ struct Target {
         : kind(Kind::UnitName), quantity(which), row(rowOfTarget) {}
 };
 
+/// Lists whose rows come from lines. Whoever assigns the lines rebuilds a list behind the line of its last row.
+enum class LastRowOf : std::uint8_t {
+    NoList,
+    Drivetrains,
+    TyreTypes,
+    Graphs,
+    Units,  // of the quantity that the line's first target names
+};
+
 /// One line of a language: its number, the built-in English text, and where it goes, in the order of assignment.
 struct CaptionLine {
     int number;
     std::string_view builtIn;
     std::array<Target, 9> targets;
+    LastRowOf list = LastRowOf::NoList;
 };
 
 /// Lines of a language file.

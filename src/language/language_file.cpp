@@ -1,7 +1,6 @@
 #include "language/language_file.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <span>
 #include <string_view>
@@ -37,21 +36,22 @@ void Rebuild(PickList& list, std::span<const std::string> rows) {
     list.SetText(rows[static_cast<std::size_t>(row)]);
 }
 
-// A list is rebuilt behind the last of the lines that its rows come from.
-constexpr int kLastDrivetrain = 41;
-constexpr int kLastTyreType = 68;
-constexpr int kLastGraph = 72;
-constexpr std::array<int, kQuantities> kLastUnit{255, 260, 265, 270, 276, 281, 283, 288, 292, 296, 303, 309};
+int PlaceOf(Quantity UnitState::*quantity) {
+    const auto found = std::ranges::find(UnitCatalogue(), quantity, &QuantityUnits::state);
+    return static_cast<int>(found - UnitCatalogue().begin());
+}
 
-void RebuildListBehind(int line) {
-    if (line == kLastDrivetrain) FillDrivetrainLists();  // a preset's drivetrain is told by these texts
-    if (line == kLastTyreType) {
-        Fill(Zolv.Select_Tyres2, texts.TyreTypeNames);  // follows the other's click
-        Rebuild(Zolv.Select_Tyres, texts.TyreTypeNames);
+void RebuildListBehind(const CaptionLine& line) {
+    switch (line.list) {
+        case LastRowOf::NoList: break;
+        case LastRowOf::Drivetrains: FillDrivetrainLists(); break;  // a preset's drivetrain is told by these texts
+        case LastRowOf::TyreTypes:
+            Fill(Zolv.Select_Tyres2, texts.TyreTypeNames);  // follows the other's click
+            Rebuild(Zolv.Select_Tyres, texts.TyreTypeNames);
+            break;
+        case LastRowOf::Graphs: Rebuild(Zolv.Select_Graphs, texts.GraphNames); break;
+        case LastRowOf::Units: RebuildUnitList(PlaceOf(line.targets[0].quantity)); break;
     }
-    if (line == kLastGraph) Rebuild(Zolv.Select_Graphs, texts.GraphNames);
-    const auto unit = std::find(kLastUnit.begin(), kLastUnit.end(), line);
-    if (unit != kLastUnit.end()) RebuildUnitList(static_cast<int>(unit - kLastUnit.begin()));
 }
 
 /// A name that would lead out of the program's folder has no file there.
@@ -60,7 +60,7 @@ bool LeavesFolder(std::string_view name) { return name.find_first_of("/\\") != s
 void AssignLines(const LanguageLines& lines) {
     for (const CaptionLine& line : CaptionTable()) {
         AssignCaption(line, lines[static_cast<std::size_t>(line.number)]);
-        RebuildListBehind(line.number);
+        RebuildListBehind(line);
     }
 }
 

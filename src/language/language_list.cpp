@@ -46,11 +46,11 @@ void LoadLanguageList() {
     language.LanguageIndex = stored->Number;
     for (const std::string& name : stored->Names) list.Add(name);
 
-    const auto number = static_cast<std::size_t>(language.LanguageIndex);
-    if (number <= stored->Names.size()) {
-        list.SetText(stored->Names[std::max<std::size_t>(1, number) - 1]);
-    } else {
+    const int number = stored->Number;
+    if (number > static_cast<int>(stored->Names.size())) {
         ShowMessage("Invalid language selection.");
+    } else if (number >= 0) {
+        list.SetText(stored->Names[static_cast<std::size_t>(std::max(1, number)) - 1]);
     }
 }
 

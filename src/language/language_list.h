@@ -3,8 +3,9 @@
 namespace zolv {
 
 /// Reads the list of languages, "languages.lst", and picks the stored one, or the first where none is stored: the pick
-/// loads that language. A list that is missing, cannot be read or names no language is refused with a message: nothing
-/// changes, and the window goes out of the way.
+/// loads that language. A number beyond the list shows a message and picks none; one below 0 picks none. A list that is
+/// missing, cannot be read, or has neither a name nor a number is refused with a message: nothing changes, and the
+/// window goes out of the way.
 /// Reads:  the file
 /// Writes: language.LanguageIndex, LanguageList
 void LoadLanguageList();

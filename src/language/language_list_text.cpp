@@ -1,6 +1,5 @@
 #include "language/language_list_text.h"
 
-#include <algorithm>
 #include <cstddef>
 
 #include "model/whole_number.h"
@@ -16,13 +15,15 @@ constexpr std::string_view kNumberKey = "Language: ";
 
 Parsed<LanguageListFile> ParseLanguageList(std::string_view text) {
     const std::vector<std::string_view> lines = EndedLines(text);
-    if (lines.size() < 2) {
+    LanguageListFile list;
+    if (!lines.empty()) {
+        list.Number = ToInt16(Val(LastOf(lines[0], 2)));
+        list.Names.assign(lines.begin() + 1, lines.end());
+    }
+    list.LastLineEnds = text.ends_with(kLineEnd);
+    if (list.Number == 0 && list.Names.empty()) {
         return Refusal{"Not a language list, whose lines from the second on name a language each and end in CR LF"};
     }
-    LanguageListFile list;
-    list.Number = std::max<std::int16_t>(0, ToInt16(Val(LastOf(lines[0], 2))));
-    list.Names.assign(lines.begin() + 1, lines.end());
-    list.LastLineEnds = text.ends_with(kLineEnd);
     return list;
 }
 

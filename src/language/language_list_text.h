@@ -11,7 +11,7 @@ namespace zolv {
 
 /// What a list of languages holds.
 struct LanguageListFile {
-    std::int16_t Number = 0;  // of the stored choice, from 1; 0 is none yet, and any other may stand there as well
+    std::int16_t Number = 0;  // of the stored choice, from 1; 0 is none yet. No language need have it: -9 to 99
     std::vector<std::string> Names;
     bool LastLineEnds = false;  // what follows the last line end counts as one more line when a choice is saved
 
@@ -21,7 +21,7 @@ struct LanguageListFile {
 /// Reads the text of a list: line 0 "Language: " and the number, of which the last two characters count, so that 112 is
 /// 12; then a name a line. Lines end in CR LF, the last may do without.
 /// @param text  without a byte order mark
-/// @return refused where neither a name nor a choice is stored
+/// @return refused where it neither names a language nor stores a choice
 Parsed<LanguageListFile> ParseLanguageList(std::string_view text);
 
 /// The number to store for the name that is chosen, as text: the last of equal names, nothing for a name that the list

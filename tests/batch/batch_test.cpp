@@ -154,5 +154,20 @@ TEST_F(Batch, ReportLeavesOutWhatTheCarLacksAndSaysWhatIsWrong) {
     EXPECT_THAT(run.output, Not(HasSubstr("v-max")));
 }
 
+TEST_F(Batch, ReportKeepsACaptionWithALineFeedOnItsLine) {
+    RunBatch("write-language language_English.txt\n");
+    WriteContent("languages.lst", "Language: 1\r\nEnglish\r\n");
+    const std::string plain = RunBatch("report\n").output;
+    std::string words = ContentOf("language_English.txt");
+    for (const std::string word : {"Power:", "Acceleration", "Ratios ==> Speeds", "1st", "Drag:", "Front", "Gear"}) {
+        words = Replaced(words, '\n' + word + '\r', '\n' + word + "\nx\r");
+    }
+    WriteContent("language_English.txt", words);
+    const BatchRun run = RunBatch("report\n");
+    EXPECT_EQ(LinesOf(run.output).size(), LinesOf(plain).size());
+    EXPECT_THAT(run.output, AllOf(HasSubstr("Power: x "), HasSubstr("Ratios ==> Speeds x\n--------------------------"
+                                                                    "--\n")));
+}
+
 }  // namespace
 }  // namespace zolv

@@ -5,8 +5,10 @@
 #include <utility>
 
 #include "fields/windows.h"
+#include "language/caption_table.h"
 #include "language/language_state.h"
 #include "platform/text_files.h"
+#include "shell/fresh_start.h"
 #include "support/zolv_test.h"
 
 namespace zolv {
@@ -35,12 +37,12 @@ TEST_F(LanguageList, TheStoredLanguageIsPicked) {
     struct {
         std::string first;  // line
         int index;
-        int picked;  // -1 is none, with a message
+        int picked;  // -1 is none
     } const kCases[] = {{"Language: 2", 2, 1},
                         {"Language: 0", 0, 0},
                         {"Language: ", 0, 0},
                         {"Language: 112", 12, 11},
-                        {"Language: -1", 0, 0},
+                        {"Language: -1", -1, -1},  // none, and no first run
                         {"\xEF\xBB\xBF"
                          "2",
                          2, 1},
@@ -54,8 +56,30 @@ TEST_F(LanguageList, TheStoredLanguageIsPicked) {
             EXPECT_THAT(List().Rows(), ElementsAre("a", "b", "c", "d", "", "f", "g", "h", "i", "j", "k", "l", "m"));
             EXPECT_EQ(List().Picked(), row.picked) << row.first;
             EXPECT_EQ(picks, row.picked >= 0 ? 1 : 0);
-            if (row.picked < 0) ExpectMessage("Invalid language selection.");
+            if (row.index > 13) ExpectMessage("Invalid language selection.");
         }
+    }
+}
+
+TEST_F(LanguageList, OnlyANumberOfNoneIsAFirstRun) {
+    struct {
+        const char* text;
+        int index;
+        bool firstRun;
+        const char* message;
+    } const kCases[] = {{"Language: 0\r\nEnglish\r\n", 0, true, ""},
+                        {"Language: -1\r\nEnglish\r\n", -1, false, ""},
+                        {"Language: 3\r\n", 3, false, "Invalid language selection."},
+                        {"Language: 3", 3, false, "Invalid language selection."}};
+    for (const auto& row : kCases) {
+        FreshStart();
+        WriteContent("languages.lst", row.text);
+        WriteContent("language_English.txt", BuiltInLanguage());
+        Start();
+        if (*row.message != '\0') ExpectMessage(row.message);
+        EXPECT_EQ(language.LanguageIndex, row.index);
+        EXPECT_EQ(LanguageSelection.Visible(), row.firstRun) << row.text;
+        EXPECT_EQ(Zolv.Visible(), !row.firstRun) << row.text;
     }
 }
 

@@ -27,8 +27,7 @@ void Read(std::string_view content) {
     const double drivetrain = (*preset)[CarField::DrivetrainType];
     Expect(drivetrain >= 0 && drivetrain <= kUnknownDrivetrain, "a drivetrain or none");
     if (!std::ranges::all_of(SingleFigures(*preset), [](float figure) { return std::isfinite(figure); })) return;
-    ExpectReadsBack(TextOf(*preset), ParsePreset, TextOf);
-    Expect(ParsePreset(TextOf(*preset))->Name == preset->Name, "the name comes back", preset->Name);
+    Expect(ExpectReadsBack(*preset, ParsePreset, TextOf).Name == preset->Name, "the name comes back", preset->Name);
 }
 
 }  // namespace

@@ -7,12 +7,15 @@
 
 namespace zolv {
 
-/// A text that the program wrote reads again, and is written the same.
-template <class Parse, class Write>
-void ExpectReadsBack(const std::string& text, Parse parse, Write write) {
-    const auto again = parse(text);
+/// What was read is written as a text that reads, and is written the same again.
+/// @return the value read from the written text
+template <class Value, class Parse, class Write>
+Value ExpectReadsBack(const Value& value, Parse parse, Write write) {
+    const std::string text = write(value);
+    const Parsed<Value> again = parse(text);
     Expect(static_cast<bool>(again), "a written text reads", text);
     Expect(write(*again) == text, "a written text is written again", text);
+    return *again;
 }
 
 }  // namespace zolv

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "model/car_record.h"
+#include "model/constants.h"
 
 /// What the air does to a car. Forces in N, speeds in m/s, areas in m^2. Lift is negative for downforce.
 /// The model leaves out yaw, ground clearance, and every influence of one part on another.
 namespace zolv {
-
-inline constexpr double kGravity = 9.80665;  // [m/s^2]
 
 /// Density of air at 20 degrees Celsius and 1013.25 hPa [kg/m^3]. The gas constant times that temperature is
 /// 84148.70574798585 J/kg.

@@ -1,12 +1,8 @@
 #pragma once
 
+#include "model/constants.h"
+
 namespace zolv {
-
-/// Inches in a centimetre as this program has them: 0.393900787, not 0.393700787. Every rim size goes through it.
-inline constexpr double kInchesPerCm = 0.393900787;
-
-/// pi as this program has it, with twelve decimals. Every radius and speed rests on it.
-inline constexpr double kPi = 3.141592653589;
 
 /// Radius of a tyre that carries no load: half of the rim and both sidewalls.
 /// @param width_mm  tyre width [mm]

@@ -8,7 +8,8 @@ namespace zolv {
 
 /// A place where one piece of work can be hung up: the event of a field, or the follow-up of a procedure. What hangs
 /// there runs at once and to its end, inside the call. An empty hook runs nothing.
-/// shell/wiring is the only place that hangs anything up, so that every chain of the program can be read there.
+/// shell/wiring hangs up all that the program does, so that its chains can be read in one place; a front end hangs up
+/// what it does itself when the program ends.
 class Hook {
 public:
     Hook() = default;

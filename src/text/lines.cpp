@@ -5,7 +5,9 @@
 namespace zolv {
 
 std::vector<std::string_view> SplitLines(std::string_view text) {
+    constexpr std::size_t kUsual = 40;  // what files of numbers have at most
     std::vector<std::string_view> lines;
+    lines.reserve(kUsual);
     for (auto end = text.find(kLineEnd); end != std::string_view::npos; end = text.find(kLineEnd)) {
         lines.push_back(text.substr(0, end));
         text.remove_prefix(end + kLineEnd.size());

@@ -52,6 +52,15 @@ std::string LeadingNumber(std::string_view text) {
     return number;
 }
 
+/// Whether a text is a short number just as std::from_chars reads it: digits with at most one point, and nothing else.
+bool IsPlain(std::string_view text) {
+    constexpr std::size_t kLongest = 40;
+    if (text.empty() || text.size() > kLongest) return false;
+    std::size_t digits = 0;
+    for (const char c : text) digits += IsDigit(c) ? 1U : 0U;
+    return digits > 0 && (digits == text.size() || (digits + 1 == text.size() && text.find('.') != text.npos));
+}
+
 /// The place of the first digit that counts: 0 for 1 to 9, 2 for hundreds, -1 for tenths. For numbers that no double
 /// holds, whose sign it tells: far above or far below zero.
 long long PowerOfTen(const std::string& number) {
@@ -155,6 +164,12 @@ std::string DecimalText(double value, int significant) {
 }  // namespace
 
 double Val(std::string_view text) {
+    if (text.starts_with(' ')) text.remove_prefix(1);
+    if (IsPlain(text)) {  // as nearly all are
+        double value = 0;
+        std::from_chars(text.data(), text.data() + text.size(), value);
+        return value;
+    }
     const std::string number = LeadingNumber(text);
     double value = 0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);

@@ -47,8 +47,9 @@ struct Choice {
     UnitChoice& fields;
 };
 
-/// Whether the speed sliders take the new unit's range before the boxes are converted. A unit that the options file has
-/// put in force already comes here as old and new in one, while the sliders have yet another range.
+/// Whether the speed sliders take the new unit's range before the boxes are converted, so that no speed is cut on its
+/// way. An options file puts its unit in force before it is picked here: then both are the same, the sliders still have
+/// the range of some other, and only the two units with the widest ranges come first.
 bool RangeComesFirst(int oldUnit, int newUnit) {
     if (oldUnit == newUnit) return newUnit == kKilometresPerHour || newUnit == kFeetPerSecond;
     return SpeedSliderMaximum(newUnit) > SpeedSliderMaximum(oldUnit);

@@ -3,36 +3,12 @@
 #include <algorithm>
 
 #include "text/number_text.h"
+#include "units/unit_constants.h"
 
 namespace zolv {
 namespace {
 
-// The constants are used exactly as they stand here. Two pairs look alike on purpose: 39.3900787 inches make a metre in
-// lengths, so that a rim of 15 inches shows as 15, but 39.37007874 in the acceleration; and 0.737310284547655
-// pound-feet make a newton metre, which 3.280839895 feet and the pound do not give exactly.
-constexpr double kKmhPerMs = 3.6;
-constexpr double kKmPerMile = 1.609344;
-constexpr double kKnotsPerMph = 0.868976;
-constexpr double kMphPerFps = 0.6818181818181818;
-constexpr double kFeetPerMetre = 3.280839895;
-constexpr double kInchesPerMetre = 39.3900787;
-constexpr double kInchesPerCentimetre = 0.393900787;
-constexpr double kInchesPerMillimetre = 0.0393900787;
-constexpr double kInchesPerMetreInAcc = 39.37007874;
-constexpr double kPoundsPerKg = 2.20462262;
-constexpr double kGravity = 9.80665;  // [m/s^2], and newtons per kilogram-force
-constexpr double kPoundsPerSlug = 32.17404855630175;
-constexpr double kPoundsPerShortTon = 2000;
-constexpr double kPoundsPerLongTon = 2240;
-constexpr double kPsiPerAtmosphere = 14.6959494;
-constexpr double kPoundalsPerKgf = 70.93163522420117;
-constexpr double kPsPerKw = 1.35962;
-constexpr double kHpPerKw = 1.341;
-constexpr double kFootPoundsPerKw = 737.55;
-constexpr double kPoundFeetPerNm = 0.737310284547655;
-constexpr double kPoundInchesPerNm = 8.84772341457186;
-
-constexpr double kPsiPerKpa = kPoundsPerKg / (kInchesPerCentimetre * kInchesPerCentimetre) / kGravity / 10;
+constexpr double kPsiPerKpa = kPoundsPerKg / (kInchesPerCm * kInchesPerCm) / kGravity / 10;
 
 /// The torque-to-weight factor is stored as a 32-bit float.
 constexpr double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
@@ -90,7 +66,7 @@ constexpr UnitRow kAcc[] = {
     {"gal",    " gal",    100,                  1},
     {"gn",     " gn",     1 / kGravity,         2},
     {"ft/s^2", " ft/s^2", kFeetPerMetre,        1},
-    {"in/s^2", " in/s^2", kInchesPerMetreInAcc, 0},
+    {"in/s^2", " in/s^2", kStandardInchesPerMetre, 0},
 };
 constexpr UnitRow kPower[] = {
     {"kW",       " kW",       1,                0},

@@ -10,17 +10,11 @@
 #include "platform/dialogs.h"
 #include "text/number_text.h"
 #include "text/words.h"
+#include "units/unit_constants.h"
 #include "units/unit_state.h"
 
 namespace zolv {
 namespace {
-
-constexpr double kInchesPerMetre = 39.37007874;  // not the 39.3900787 of the program's own lengths
-constexpr double kFeetPerMetre = 3.280839895;
-constexpr double kPoundsPerKg = 2.20462262;
-constexpr double kPoundsPerSlug = 32.17404855630175;
-constexpr double kGravity = 9.80665;  // newtons per kilogram-force
-constexpr double kPoundFeetPerNm = 0.737310284547655;
 
 /// Metric value = input * times / over / andOver, in that order. One row a row of the list.
 struct Conversion {
@@ -29,27 +23,27 @@ struct Conversion {
 
 // clang-format off
 constexpr Conversion kDistance[] = {
-    {1,              100,             1},   // cm
-    {1,              1000,            1},   // mm
-    {1,              kInchesPerMetre, 1},   // in
-    {1,              kFeetPerMetre,   1},   // ft
+    {1,                  100,                     1},   // cm
+    {1,                  1000,                    1},   // mm
+    {1,                  kStandardInchesPerMetre, 1},   // in
+    {1,                  kFeetPerMetre,           1},   // ft
 };
 constexpr Conversion kMass[] = {
-    {1000,           1,               1},   // t
-    {1,              kPoundsPerKg,    1},   // lb
-    {kPoundsPerSlug, kPoundsPerKg,    1},   // slug
-    {2000,           kPoundsPerKg,    1},   // short ton
-    {2240,           kPoundsPerKg,    1},   // long ton
+    {1000,               1,                       1},   // t
+    {1,                  kPoundsPerKg,            1},   // lb
+    {kPoundsPerSlug,     kPoundsPerKg,            1},   // slug
+    {kPoundsPerShortTon, kPoundsPerKg,            1},   // short ton
+    {kPoundsPerLongTon,  kPoundsPerKg,            1},   // long ton
 };
 constexpr Conversion kPower[] = {
-    {1,              1.35962,         1},   // ps
-    {1,              1.341,           1},   // hp
-    {1,              737.55,          1},   // ft lbf/s
+    {1,                  kPsPerKw,                1},   // ps
+    {1,                  kHpPerKw,                1},   // hp
+    {1,                  kFootPoundsPerKw,        1},   // ft lbf/s
 };
 constexpr Conversion kTorque[] = {
-    {kGravity,       1,               1},   // kgfm
-    {1,              kPoundFeetPerNm, 1},   // lbf ft
-    {1,              kPoundFeetPerNm, 12},  // lbf in
+    {kGravity,           1,                       1},   // kgfm
+    {1,                  kPoundFeetPerNm,         1},   // lbf ft
+    {1,                  kPoundFeetPerNm,         12},  // lbf in
 };
 // clang-format on
 

@@ -30,7 +30,6 @@ void Read(std::string_view content) {
     Expect(list->Number >= -9 && list->Number <= 99, "two characters");
     if (list->Names.empty()) return;
     SaveChoice(*list, list->Names.front());
-    SaveChoice(*list, list->Names.back());
     SaveChoice(*list, "");
 }
 

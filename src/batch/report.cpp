@@ -7,6 +7,7 @@
 
 #include "batch/output.h"
 #include "batch/text_table.h"
+#include "fields/label_names.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
 #include "gearing/gearing_common.h"
@@ -74,25 +75,25 @@ void PrintEntries(std::initializer_list<Entry> entries) {
 void PrintCar() {
     PrintUnderlined("Tarmaq Zolv: " + Zolv.Select_Car.Text(), '=');
     if (!files.CurrentFileName.empty()) Print("  " + files.CurrentFileName);
-    PrintEntries({{&Zolv.InfoLabel[5], &Zolv.Info_Power},
-                  {&Zolv.InfoLabel[6], &Zolv.Info_Torque},
-                  {&Zolv.InfoLabel[7], &Zolv.Info_DT},
-                  {&Zolv.InfoLabel[8], &Zolv.Info_Gears},
-                  {&Zolv.InfoLabel[9], &Zolv.Info_Efficiency},
-                  {&Zolv.InfoLabel[0], &Zolv.Info_Mass},
-                  {&Zolv.InfoLabel[2], &Zolv.Info_WD},
-                  {&Zolv.InfoLabel[3], &Zolv.Info_P2W},
-                  {&Zolv.InfoLabel[4], &Zolv.Info_T2W},
-                  {&Zolv.InfoLabel[18], &Zolv.Info_WB}});
+    PrintEntries({{&Zolv.InfoLabel[kInfoPower], &Zolv.Info_Power},
+                  {&Zolv.InfoLabel[kInfoTorque], &Zolv.Info_Torque},
+                  {&Zolv.InfoLabel[kInfoDrivetrain], &Zolv.Info_DT},
+                  {&Zolv.InfoLabel[kInfoGears], &Zolv.Info_Gears},
+                  {&Zolv.InfoLabel[kInfoEfficiency], &Zolv.Info_Efficiency},
+                  {&Zolv.InfoLabel[kInfoMass], &Zolv.Info_Mass},
+                  {&Zolv.InfoLabel[kInfoWeightDist], &Zolv.Info_WD},
+                  {&Zolv.InfoLabel[kInfoP2W], &Zolv.Info_P2W},
+                  {&Zolv.InfoLabel[kInfoT2W], &Zolv.Info_T2W},
+                  {&Zolv.InfoLabel[kInfoWheelbase], &Zolv.Info_WB}});
     PrintLine("");
     TextTable wheels;
-    wheels.Add({Shown(Zolv.InfoPanel[3].Caption()), texts.TextFront, texts.TextRear});
-    AddEntries(wheels, {{&Zolv.InfoLabel[12], &Zolv.Info_RimF, &Zolv.Info_RimR},
-                        {&Zolv.InfoLabel[13], &Zolv.Info_TWF, &Zolv.Info_TWR},
-                        {&Zolv.InfoLabel[14], &Zolv.Info_TPF, &Zolv.Info_TPR},
-                        {&Zolv.InfoLabel[15], &Zolv.Info_THF, &Zolv.Info_THR},
-                        {&Zolv.InfoLabel[16], &Zolv.Info_PRF, &Zolv.Info_PRR},
-                        {&Zolv.InfoLabel[17], &Zolv.Info_TrackF, &Zolv.Info_TrackR}});
+    wheels.Add({Shown(Zolv.InfoPanel[kInfoWheels].Caption()), texts.TextFront, texts.TextRear});
+    AddEntries(wheels, {{&Zolv.InfoLabel[kInfoRim], &Zolv.Info_RimF, &Zolv.Info_RimR},
+                        {&Zolv.InfoLabel[kInfoTyreWidth], &Zolv.Info_TWF, &Zolv.Info_TWR},
+                        {&Zolv.InfoLabel[kInfoTyreProfile], &Zolv.Info_TPF, &Zolv.Info_TPR},
+                        {&Zolv.InfoLabel[kInfoTyreHeight], &Zolv.Info_THF, &Zolv.Info_THR},
+                        {&Zolv.InfoLabel[kInfoPressures], &Zolv.Info_PRF, &Zolv.Info_PRR},
+                        {&Zolv.InfoLabel[kInfoTrack], &Zolv.Info_TrackF, &Zolv.Info_TrackR}});
     PrintTable(wheels);
 }
 
@@ -116,8 +117,9 @@ void PrintGears(GearingPanel& panel, bool known) {
     const auto result = [&](const Label& label) { return known ? label.Caption() : std::string(kNotKnown); };
     const auto title = [](int label) { return Zolv.GearingLabel[label].Caption(); };
     TextTable table;
-    table.Add({"", "", "", title(4), "", ""});
-    table.Add({title(1), title(2), title(3), title(6), title(5), title(7)});
+    table.Add({"", "", "", title(kGearingEngineSpeed), "", ""});
+    table.Add({title(kGearingGear), title(kGearingRatio), title(kGearingSpeed), title(kGearingBefore),
+               title(kGearingAfter), title(kGearingTorque)});
     for (int gear = 1; gear <= GearsOfCar(); ++gear) {
         const std::string& input = panel.Input[gear].Text();
         const std::string found = result(panel.Result[gear]);
@@ -126,8 +128,8 @@ void PrintGears(GearingPanel& panel, bool known) {
                    gear < GearsOfCar() ? result(panel.RAC[gear]) : "", result(panel.Torque[gear])});
     }
     if (panel.GearR.Visible()) {
-        table.Add(
-            {title(14), panel.GearR.Caption(), result(panel.SpeedR), result(panel.RPMR), "", result(panel.TorqueR)});
+        table.Add({title(kGearingReverse), panel.GearR.Caption(), result(panel.SpeedR), result(panel.RPMR), "",
+                   result(panel.TorqueR)});
     }
     PrintTable(table);
 }
@@ -135,11 +137,13 @@ void PrintGears(GearingPanel& panel, bool known) {
 void PrintAcceleration() {
     PrintHeading(Shown(Zolv.ShowAcc.Caption()));
     TextTable table;
-    for (int i = 0; i < 5; ++i) AddEntries(table, {{&Zolv.GearingLabel[30 + i], &Zolv.AccDataLabel[i]}});
+    for (int i = 0; i < 5; ++i)
+        AddEntries(table, {{&Zolv.GearingLabel[kGearingSpeedTime + i], &Zolv.AccDataLabel[kAccSpeedTime + i]}});
     for (int i = 0; i < 2; ++i) {
-        AddEntries(table, {{&Zolv.GearingLabel[36 + i], &Zolv.AccDataLabel[6 + 2 * i], &Zolv.AccDataLabel[7 + 2 * i]}});
+        AddEntries(table, {{&Zolv.GearingLabel[kGearingDistanceTime + i], &Zolv.AccDataLabel[kAccDistanceTime + 2 * i],
+                            &Zolv.AccDataLabel[kAccDistanceSpeed + 2 * i]}});
     }
-    table.Add({Zolv.GearingLabel[35].Caption() + ':', Zolv.AccDataLabel[5].Caption()});
+    table.Add({Zolv.GearingLabel[kGearingEndSpeed].Caption() + ':', Zolv.AccDataLabel[kAccEndSpeed].Caption()});
     PrintTable(table);
 }
 
@@ -149,7 +153,7 @@ void PrintGearing() {
     PrintHeading(Shown(Zolv.Select_Page.Rows()[1]) + ": " + Shown(direction.Caption()));
     const std::vector<int>& wrong = gearing.WrongOrder;
     if (!wrong.empty()) PrintOrderErrors(wrong);
-    Print("  " + Zolv.GearingLabel[0].Caption() + ' ' + panel.FinalDrive.Text());
+    Print("  " + Zolv.GearingLabel[kGearingFinalDrive].Caption() + ' ' + panel.FinalDrive.Text());
     PrintLine("");
     PrintGears(panel, wrong.empty());
     if (wrong.empty() && options.AccelerationOn) PrintAcceleration();
@@ -157,58 +161,59 @@ void PrintGearing() {
 
 void PrintTyres() {
     PrintHeading(Shown(Zolv.Select_Page.Rows()[2]) + ": " + Zolv.Select_Tyres.Text());
-    PrintEntries({{&Zolv.TyreLabel[1], &Zolv.Label_PressureF},
-                  {&Zolv.TyreLabel[2], &Zolv.Label_PressureR},
-                  {&Zolv.TyreLabel[12], &Zolv.MU},
-                  {&Zolv.TyreLabel[11], &Zolv.FRCPR}});
+    PrintEntries({{&Zolv.TyreLabel[kTyrePressureF], &Zolv.Label_PressureF},
+                  {&Zolv.TyreLabel[kTyrePressureR], &Zolv.Label_PressureR},
+                  {&Zolv.TyreLabel[kTyreGrip], &Zolv.MU},
+                  {&Zolv.TyreLabel[kTyrePatchRatio], &Zolv.FRCPR}});
     PrintLine("");
     // The tyre page analyses one axle at a time.
     Print("  " + (Zolv.FrontTyreAnal.Checked() ? texts.TextFront : texts.TextRear));
-    PrintEntries({{&Zolv.TyreLabel[7], &Zolv.CPW},
-                  {&Zolv.TyreLabel[8], &Zolv.CPL},
-                  {&Zolv.TyreLabel[9], &Zolv.CPA},
-                  {&Zolv.TyreLabel[10], &Zolv.CPAR},
-                  {&Zolv.TyreLabel[13], &Zolv.TS},
-                  {&Zolv.TyreLabel[14], &Zolv.TF},
-                  {&Zolv.TyreLabel[15], &Zolv.UTR},
-                  {&Zolv.TyreLabel[16], &Zolv.TD},
-                  {&Zolv.TyreLabel[17], &Zolv.TRRC},
-                  {&Zolv.TyreLabel[18], &Zolv.TWH}});
+    PrintEntries({{&Zolv.TyreLabel[kTyrePatchWidth], &Zolv.CPW},
+                  {&Zolv.TyreLabel[kTyrePatchLength], &Zolv.CPL},
+                  {&Zolv.TyreLabel[kTyrePatchArea], &Zolv.CPA},
+                  {&Zolv.TyreLabel[kTyrePatchAspect], &Zolv.CPAR},
+                  {&Zolv.TyreLabel[kTyreStiffness], &Zolv.TS},
+                  {&Zolv.TyreLabel[kTyreFrequency], &Zolv.TF},
+                  {&Zolv.TyreLabel[kTyreUnloadedRadius], &Zolv.UTR},
+                  {&Zolv.TyreLabel[kTyreDeformation], &Zolv.TD},
+                  {&Zolv.TyreLabel[kTyreRollingRadius], &Zolv.TRRC},
+                  {&Zolv.TyreLabel[kTyreWallHeight], &Zolv.TWH}});
 }
 
 /// The body and the fittings that the car has, side by side.
 void PrintAeroParts() {
     const auto withoutColon = [](const std::string& name) { return name.substr(0, name.find(':')); };
     TextTable table;
-    table.Add({"", withoutColon(Zolv.AeroLabel[3].Caption()), withoutColon(Zolv.AeroLabel[4].Caption()),
-               withoutColon(Zolv.AeroLabel[5].Caption())});
+    table.Add({"", withoutColon(Zolv.AeroLabel[kAeroDrag].Caption()), withoutColon(Zolv.AeroLabel[kAeroLift].Caption()),
+               withoutColon(Zolv.AeroLabel[kAeroLiftDragRatio].Caption())});
     const auto add = [&](int panel, const Label& drag, const Label& lift, const Label& ratio) {
         if (!Zolv.AeroPanel[panel].Visible()) return;
         table.Add({Shown(Zolv.AeroPanel[panel].Caption()), drag.Caption(), lift.Caption(), ratio.Caption()});
     };
-    add(3, Zolv.Aero_BodyAirDrag, Zolv.Aero_BodyLift, Zolv.Aero_BodyLDR);
-    add(5, Zolv.Undertray.Drag, Zolv.Undertray.Lift, Zolv.Undertray.LDR);
-    add(6, Zolv.FrontWing.Drag, Zolv.FrontWing.Lift, Zolv.FrontWing.LDR);
-    add(7, Zolv.RearWing.Drag, Zolv.RearWing.Lift, Zolv.RearWing.LDR);
-    add(1, Zolv.Aero_TotalDrag, Zolv.Aero_TotalLift, Zolv.Aero_TotalLDR);
+    add(kAeroBody, Zolv.Aero_BodyAirDrag, Zolv.Aero_BodyLift, Zolv.Aero_BodyLDR);
+    add(kAeroUndertray, Zolv.Undertray.Drag, Zolv.Undertray.Lift, Zolv.Undertray.LDR);
+    add(kAeroFrontWing, Zolv.FrontWing.Drag, Zolv.FrontWing.Lift, Zolv.FrontWing.LDR);
+    add(kAeroRearWing, Zolv.RearWing.Drag, Zolv.RearWing.Lift, Zolv.RearWing.LDR);
+    add(kAeroTotals, Zolv.Aero_TotalDrag, Zolv.Aero_TotalLift, Zolv.Aero_TotalLDR);
     PrintTable(table);
 }
 
 void PrintAero() {
     PrintHeading(Shown(Zolv.Select_Page.Rows()[3]));
-    PrintEntries({{&Zolv.AeroLabel[9], &Zolv.Aero_TopSpeed},
-                  {&Zolv.AeroLabel[0], Zolv.UseFixedSpeed.Checked() ? &Zolv.Aero_TopSpeed : &Zolv.AeroSpeed},
-                  {&Zolv.AeroLabel[1], &Zolv.WingAngleFront},
-                  {&Zolv.AeroLabel[2], &Zolv.WingAngleRear}});
+    PrintEntries(
+        {{&Zolv.AeroLabel[kAeroTopSpeed], &Zolv.Aero_TopSpeed},
+         {&Zolv.AeroLabel[kAeroCarSpeed], Zolv.UseFixedSpeed.Checked() ? &Zolv.Aero_TopSpeed : &Zolv.AeroSpeed},
+         {&Zolv.AeroLabel[kAeroFrontWingAngle], &Zolv.WingAngleFront},
+         {&Zolv.AeroLabel[kAeroRearWingAngle], &Zolv.WingAngleRear}});
     PrintLine("");
     PrintAeroParts();
     PrintLine("");
-    PrintEntries({{&Zolv.AeroLabel[6], &Zolv.Aero_RR},
-                  {&Zolv.AeroLabel[8], &Zolv.Aero_TotalFriction},
-                  {&Zolv.AeroLabel[20], &Zolv.Aero_ForceFrontWheels},
-                  {&Zolv.AeroLabel[21], &Zolv.Aero_ForceRearWheels},
-                  {&Zolv.AeroLabel[22], &Zolv.Aero_ForceDistribution},
-                  {&Zolv.AeroLabel[23], &Zolv.Aero_AeroDistribution}});
+    PrintEntries({{&Zolv.AeroLabel[kAeroRollingResistance], &Zolv.Aero_RR},
+                  {&Zolv.AeroLabel[kAeroFriction], &Zolv.Aero_TotalFriction},
+                  {&Zolv.AeroLabel[kAeroFrontWheels], &Zolv.Aero_ForceFrontWheels},
+                  {&Zolv.AeroLabel[kAeroRearWheels], &Zolv.Aero_ForceRearWheels},
+                  {&Zolv.AeroLabel[kAeroForceDistribution], &Zolv.Aero_ForceDistribution},
+                  {&Zolv.AeroLabel[kAeroDistribution], &Zolv.Aero_AeroDistribution}});
 }
 
 }  // namespace

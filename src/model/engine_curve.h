@@ -21,7 +21,8 @@ inline constexpr std::int32_t PowerConstant = 9552;
 
 /// A full torque curve made out of the five figures: a straight line from 62.5 % of peak torque at idle up to peak
 /// torque, and above it the cubic CurveA N^3 + CurveB N^2 + CurveC N + CurveD, which may turn negative far above peak
-/// power and is then used like any other value.
+/// power and is then used like any other value. The shares and factors are fits without a stated source, meant for the
+/// cars' engines from idle up to 1.27 times peak power's engine speed, where a rev limiter cuts in.
 struct EngineCurve {
     double CurveA = 0, CurveB = 0, CurveC = 0;
     float CurveD = 0;  // alone of the four rounded to a 32-bit float

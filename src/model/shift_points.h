@@ -39,8 +39,9 @@ struct ShiftRules {
             .RevsMaxMode = shifts.RevsMaxMode};
 }
 
-/// The automatic shift point out of a gear [rpm]: PowerRPM (ratio / ratio of the next gear)^0.44. A fit: the wider the
-/// step, the further past peak power it pays to hold the gear.
+/// The automatic shift point out of a gear [rpm]: PowerRPM (ratio / ratio of the next gear)^0.44: the wider the
+/// step, the further past peak power it pays to hold the gear. A fit without a stated source, meant for the steps of
+/// gearboxes, from equal ratios up to some 1.7; wider ones reach engine speeds at which the rev limiter would cut in.
 [[nodiscard]] float AutomaticShiftPoint(const ShiftRules& rules, double ratio, double nextRatio);
 
 /// Sets the car's top gear and every gear beyond it to TopRevs. Gear 1 is never touched.

@@ -1,5 +1,6 @@
 #include "plots/engine_plot.h"
 
+#include "fields/label_names.h"
 #include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "model/engine_curve.h"
@@ -119,8 +120,8 @@ void DrawCurves(Canvas& plot) {
     DrawCurve(plot, plots.TorquePlotX, plots.TorquePlotY, torqueColour);
     DrawCurve(plot, plots.PowerPlotX, plots.PowerPlotY, powerColour);
     plot.SetLineWidth(1);
-    plot.AddLegend(CurveName(Zolv.InfoLabel[6]), torqueColour);
-    plot.AddLegend(CurveName(Zolv.InfoLabel[5]), powerColour);
+    plot.AddLegend(CurveName(Zolv.InfoLabel[kInfoTorque]), torqueColour);
+    plot.AddLegend(CurveName(Zolv.InfoLabel[kInfoPower]), powerColour);
 }
 
 }  // namespace

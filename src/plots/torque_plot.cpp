@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "fields/label_names.h"
 #include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "model/engine_curve.h"
@@ -89,7 +90,7 @@ void DrawTorquePlot() {
         const Rgb colour = failed ? kRed : isEngine ? kBlue : kBlack;
         plot.SetLineWidth(isEngine ? 3 : 2);
         DrawCurve(plot, curves[i], colour);
-        plot.AddLegend(isEngine ? CurveName(Zolv.InfoLabel[6]) : texts.GearNames[i], colour);
+        plot.AddLegend(isEngine ? CurveName(Zolv.InfoLabel[kInfoTorque]) : texts.GearNames[i], colour);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "vehicle/car_selection.h"
 
 #include "fields/guards.h"
+#include "fields/label_names.h"
 #include "fields/windows.h"
 #include "model/whole_number.h"
 #include "text/number_text.h"
@@ -35,8 +36,8 @@ void ShowGears(int numGears) {
             panel->Torque[gear].SetVisible(has);
         }
         Zolv.Label_SPD[gear].SetVisible(has);
-        Zolv.GearingLabel[7 + gear].SetVisible(has);
-        Zolv.GearingLabel[22 + gear].SetVisible(has);
+        Zolv.GearingLabel[kGearingTorque + gear].SetVisible(has);
+        Zolv.GearingLabel[kGearingOfSpeeds + kGearingTorque + gear].SetVisible(has);
     }
 }
 
@@ -47,29 +48,29 @@ void ShowReverse(bool has) {
         panel->SpeedR.SetVisible(has);
         panel->TorqueR.SetVisible(has);
     }
-    Zolv.GearingLabel[14].SetVisible(has);
-    Zolv.GearingLabel[29].SetVisible(has);
+    Zolv.GearingLabel[kGearingReverse].SetVisible(has);
+    Zolv.GearingLabel[kGearingOfSpeeds + kGearingReverse].SetVisible(has);
 }
 
 void ShowFittings(const CarRecord& car) {
     const bool undertray = car.UndertrayType != 0;
     const bool frontWing = car.FrontWingType != 0;
     const bool rearWing = car.RearWingType != 0;
-    Zolv.AeroPanel[5].SetVisible(undertray);
+    Zolv.AeroPanel[kAeroUndertray].SetVisible(undertray);
 
-    Zolv.AeroPanel[6].SetVisible(frontWing);
+    Zolv.AeroPanel[kAeroFrontWing].SetVisible(frontWing);
     Zolv.Select_FrontWingAngle.SetVisible(frontWing);
     Zolv.WingAngleFront.SetVisible(frontWing);
-    Zolv.AeroLabel[1].SetVisible(frontWing);
+    Zolv.AeroLabel[kAeroFrontWingAngle].SetVisible(frontWing);
 
-    Zolv.AeroPanel[7].SetVisible(rearWing);
+    Zolv.AeroPanel[kAeroRearWing].SetVisible(rearWing);
     Zolv.Select_RearWingAngle.SetVisible(rearWing);
     Zolv.WingAngleRear.SetVisible(rearWing);
-    Zolv.AeroLabel[2].SetVisible(rearWing);
+    Zolv.AeroLabel[kAeroRearWingAngle].SetVisible(rearWing);
 
     // Without a device for downforce the tyre's load does not depend on a speed that could be set.
     const bool any = undertray || frontWing || rearWing;
-    Zolv.TyreLabel[0].SetVisible(any);
+    Zolv.TyreLabel[kTyreCarSpeed].SetVisible(any);
     Zolv.AeroSpeed_TyreTab.SetVisible(any);
     Zolv.Select_AeroSpeed_TyreTab.SetVisible(any);
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <variant>
 
+#include "fields/label_names.h"
 #include "fields/windows.h"
 #include "model/whole_number.h"
 #include "platform/dialogs.h"
@@ -54,12 +55,12 @@ std::array<TextBox*, 3> RearTyreBoxes() {
 }
 
 void ShowRearTyre(bool shown) {
-    CustomPresets.CUPLabel[15].SetVisible(shown);
+    CustomPresets.CUPLabel[kCupRearWheelSize].SetVisible(shown);
     for (TextBox* box : RearTyreBoxes()) box->SetVisible(shown);
 }
 
 void ApplyTyreRule(const TyreRule& rule) {
-    CustomPresets.CUPLabel[13].SetCaption(texts.*rule.frontCaption);
+    CustomPresets.CUPLabel[kCupFrontWheelSize].SetCaption(texts.*rule.frontCaption);
     ShowRearTyre(rule.rearShown);
     for (TextBox* box : FrontTyreBoxes()) box->SetEnabled(rule.typed);
     if (!rule.rearShown) return;

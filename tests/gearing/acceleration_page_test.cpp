@@ -16,7 +16,7 @@ std::string Labels(const std::string& array, std::initializer_list<int> indices)
 
 class AccelerationPage : public StartedTest {};
 
-// From a separate calculation in Python; the targets and their units as printed.
+// From a separate calculation in Python.
 TEST_F(AccelerationPage, ShowsTheRunAtTheTargetsOfTheUnit) {
     struct {
         const char *car, *unit;

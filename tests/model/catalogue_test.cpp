@@ -18,7 +18,7 @@ struct FieldSum {
     double sum, weighted;  // each car's figure once, and times its number from 1
 };
 
-// Sums over the cars of the printed tables, from a separate calculation in Python; in the order of the record. Two
+// Sums over the cars, from a separate calculation in Python; in the order of the record. Two
 // figures that changed places, or one that is wrong, change at least one of the two.
 // clang-format off
 constexpr FieldSum kSums[] = {

@@ -74,14 +74,6 @@ TEST_F(OptionsFile, BringsBackEveryOptionAndAppliesIt) {
     EXPECT_EQ(InMemory(), kOtherFile);
 }
 
-TEST_F(OptionsFile, LeavesTheNumbersOfTheSpeedBoxesAlone) {
-    WriteContent(kName, With("SpdUnits: 0", "SpdUnits: 1"));
-    LoadOptions();
-    EXPECT_EQ(Zolv.Speeds.Input[6].Text(), "60");
-    EXPECT_EQ(Zolv.Label_SPD[6].Caption(), " km/h");
-    EXPECT_EQ(Zolv.Speeds.InputSlider[6].Max(), 720);
-}
-
 TEST_F(OptionsFile, ThatIsNoneIsReportedOnceAndChangesNothing) {
     WriteContent(kName, kOtherFile);
     LoadOptions();

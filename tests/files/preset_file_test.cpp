@@ -6,7 +6,6 @@
 
 #include "files/file_state.h"
 #include "support/preset_window.h"
-#include "vehicle/preset_state.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
@@ -113,13 +112,6 @@ TEST_F(PresetFileTest, AFileThatIsNoneLeavesThePanel) {
         EXPECT_THAT(TakeMessage(), AllOf(HasSubstr(std::string(name) + ": "), HasSubstr(reason)));
         EXPECT_EQ(AddPanel(), before) << name;
     }
-}
-
-TEST_F(PresetFileTest, LastLineNeedsNoEnd) {
-    WriteContent("file.cup", kOndoText.substr(0, kOndoText.size() - 2));
-    LoadFrom("file.cup");
-    EXPECT_EQ(CustomPresets.NewCar.Text(), "Ondo T");
-    EXPECT_FALSE(presets.LoadingPreset);
 }
 
 TEST_F(PresetFileTest, SavingNeedsAPresetAndAPlace) {

@@ -1,14 +1,12 @@
 #include "files/settings_file.h"
 
 #include <filesystem>
-#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "fields/windows.h"
 #include "files/file_state.h"
-#include "shell/fresh_start.h"
 #include "support/zolv_test.h"
 
 namespace zolv {
@@ -96,34 +94,6 @@ TEST_F(SettingsFile, HoldsNoUnitOfSpeed) {
     Set("OptionsPanel.Select_SpeedUnits", "Meters per Second");
     Open("kmh.zolv");
     EXPECT_EQ(Shown("B_Speed1"), "126") << "read as m/s";
-}
-
-TEST_F(SettingsFile, LeavesThePagesAsIfItsValuesHadBeenTyped) {
-    const auto results = [] {
-        return Shown({"Speed1", "Speed6", "RPM1", "RAC5", "Torque6", "SpeedR", "AccDataLabel(0)", "AccDataLabel(9)",
-                      "AccelerationData", "TD", "TRRC", "TS", "CPA", "Aero_TotalDrag", "Aero_TotalLift",
-                      "WingAngleRear", "Aero_TopSpeed", "Aero_ForceRearWheels", "Info_Power"});
-    };
-    for (const auto& [field, value] :
-         std::initializer_list<std::pair<const char*, const char*>>{{"Select_Car", "Series Lo"},
-                                                                    {"Select_PressureF", "131"},
-                                                                    {"Select_PressureR", "117"},
-                                                                    {"GearF", "3.45"},
-                                                                    {"Gear1", "2.65"},
-                                                                    {"Gear2", "2.05"},
-                                                                    {"Gear3", "1.66"},
-                                                                    {"Gear4", "1.41"},
-                                                                    {"Gear5", "1.23"},
-                                                                    {"Gear6", "1.12"},
-                                                                    {"Select_FrontWingAngle", "12"},
-                                                                    {"Select_RearWingAngle", "21"}}) {
-        Set(field, value);
-    }
-    const std::string typed = results();
-    FreshStart();
-    Start();
-    Open("a.zolv", kOtherFile);
-    EXPECT_EQ(results(), typed);
 }
 
 TEST_F(SettingsFile, ThatIsNoneIsReportedOnceAndChangesNothing) {

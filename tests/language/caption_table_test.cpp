@@ -6,7 +6,6 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "fields/windows.h"
@@ -51,35 +50,6 @@ TEST(CaptionTable, NoTargetHasTwoLines) {
         const auto [entry, isNew] = lines.emplace(key, line.number);
         EXPECT_TRUE(isNew) << key << " has the lines " << entry->second << " and " << line.number;
     });
-}
-
-// In the order in which they stand beside their figures.
-TEST(CaptionTable, NamesTheFiguresOfThePages) {
-    FreshStart();
-    constexpr std::pair<const char*, std::string_view> kCases[] = {
-        {"InfoLabel",
-         "Mass:|Weight:|Weight Distribution:|Power to weight:|Torque to weight:|Power:|Torque:|"
-         "Drivetrain:|No. of Gears:|Efficiency:|Front|Rear|Rim diameter:|Tyre width:|"
-         "Tyre profile:|Tyre height:|Pressure range:|Track:|Wheelbase:|"},
-        {"TyreLabel",
-         "Car Speed:|Front tyre pressure:|Rear tyre pressure:|Shape of tyre contact patch:|"
-         "Shape of deformed tyre (side view):|Zoom Picture|Zoom Picture|Contact patch width:|"
-         "Contact patch lenth:|Contact patch area:|Contact patch aspect ratio:|"
-         "Front/rear contact patch ratio:|Coefficient of Grip (Mu):|Tyre stiffness:|"
-         "Tyre frequency:|Unloaded tyre radius:|Tyre deformation:|"
-         "Tyre rolling radius/circumference:|Tyre wall height remaining:|"},
-        {"AeroLabel",
-         "Car Speed:|Front Wing Angle:|Rear Wing Angle:|Drag:|Lift:|Lift/Drag Ratio:|"
-         "Rolling Resistance:|Resistance Split:|Friction:|Top Speed:|Air Temperature:|"
-         "Air Density:|"},
-    };
-    for (const auto& [array, words] : kCases) {
-        std::string shown;
-        for (int i = 0; shown.size() < words.size(); ++i) {
-            shown += FindFields(array + ('(' + std::to_string(i) + ')')).at(0)->Caption() + '|';
-        }
-        EXPECT_EQ(shown, words);
-    }
 }
 
 // Words that are the same in every language, or that the program writes in its own time.

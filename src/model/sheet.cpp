@@ -15,14 +15,14 @@ AirSheet AirOf(const SetUp& setUp, const Fittings& fittings, const AirProfile& p
     return StandUnder(forces, fittings, profile);
 }
 
-/// Fills the gearbox of the set-up's direction; false where what was given is in the wrong order.
-bool FillGears(const SetUp& setUp, const GearedCar& car, Sheet& sheet) {
+/// Fills the gearbox of the set-up's direction, unless what was given is in the wrong order.
+void FillGears(const SetUp& setUp, const GearedCar& car, Sheet& sheet) {
     Gearbox& box = sheet.Gears;
     const bool fromRatios = setUp.From == Direction::FromRatios;
     const ByGear given = WithoutLackingGears(Single(fromRatios ? setUp.Ratios : setUp.Speeds), car.Rules.NumGears,
                                              fromRatios ? kLackingRatio : kLackingSpeed);
     sheet.WrongOrder = GearsInWrongOrder(given, setUp.From);
-    if (!sheet.WrongOrder.empty()) return false;
+    if (!sheet.WrongOrder.empty()) return;
 
     GearLoads loads;
     box.FinalDrive = static_cast<float>(setUp.PresentFinalDrive());
@@ -40,21 +40,22 @@ bool FillGears(const SetUp& setUp, const GearedCar& car, Sheet& sheet) {
     }
     SettleReverse(car, box.FinalDrive, box, loads);
     FindTorque(car, box);
-    return true;
 }
 
-RunSheet RunIn(const SetUp& setUp, const GearedCar& car, const Sheet& sheet, RunRows& rows) {
-    const AccelTargets& targets = AccelTargetTable[static_cast<std::size_t>(setUp.Targets)];
-    const AccelerationResult run =
-        Accelerate(RunOf(car.Rolling, setUp.Car, sheet.Curve, setUp.TyreMu, sheet.Gears, targets.Distances[1]), rows);
-    return {.LastRow = run.LastRow,
-            .Speed = run.Speed,
-            .Results = ResultsOf(std::span(rows).first(static_cast<std::size_t>(run.LastRow) + 1), targets)};
+GearedCar GearedCarOf(const SetUp& setUp, const Sheet& sheet) {
+    const CarRecord& car = setUp.Car;
+    const AirProfile profile = ProfileOf(car, sheet.Air.Parts);
+    return {.Rolling = RollingOn(profile, car, TyreSizesOf(car), sheet.Front.Stiffness, sheet.Rear.Stiffness),
+            .Rules = RulesOf(car, setUp.Shifts),
+            .Torque = car.Torque,
+            .Efficiency = car.Efficiency};
 }
+
+const AccelTargets& TargetsOf(const SetUp& setUp) { return AccelTargetTable[static_cast<std::size_t>(setUp.Targets)]; }
 
 }  // namespace
 
-Sheet Evaluate(const SetUp& setUp, RunRows& rows) {
+Sheet EvaluateStill(const SetUp& setUp) {
     const CarRecord& car = setUp.Car;
     const TyreSizes sizes = TyreSizesOf(car);
     const Fittings fittings = FittingsOf(car, setUp.FrontWingAngle, setUp.RearWingAngle);
@@ -67,12 +68,23 @@ Sheet Evaluate(const SetUp& setUp, RunRows& rows) {
     sheet.Front = FrontTyre(car, sizes, setUp.Blown ? 0 : setUp.FrontPressure, sheet.Air.FrontWheelForce);
     sheet.Rear = RearTyre(car, sizes, setUp.Blown ? 0 : setUp.RearPressure, sheet.Air.RearWheelForce);
     sheet.PatchRatio = sheet.Front.PatchArea / sheet.Rear.PatchArea;
+    FillGears(setUp, GearedCarOf(setUp, sheet), sheet);
+    return sheet;
+}
 
-    const GearedCar geared{.Rolling = RollingOn(profile, car, sizes, sheet.Front.Stiffness, sheet.Rear.Stiffness),
-                           .Rules = RulesOf(car, setUp.Shifts),
-                           .Torque = car.Torque,
-                           .Efficiency = car.Efficiency};
-    if (FillGears(setUp, geared, sheet)) sheet.Run = RunIn(setUp, geared, sheet, rows);
+AccelerationSetup StartOf(const SetUp& setUp, const Sheet& still) {
+    return RunOf(GearedCarOf(setUp, still).Rolling, setUp.Car, still.Curve, setUp.TyreMu, still.Gears,
+                 TargetsOf(setUp).Distances[1]);
+}
+
+Sheet Evaluate(const SetUp& setUp, RunRows& rows) {
+    Sheet sheet = EvaluateStill(setUp);
+    if (!sheet.WrongOrder.empty()) return sheet;
+    const AccelerationResult run = Accelerate(StartOf(setUp, sheet), rows);
+    sheet.Run = {
+        .LastRow = run.LastRow,
+        .Speed = run.Speed,
+        .Results = ResultsOf(std::span(rows).first(static_cast<std::size_t>(run.LastRow) + 1), TargetsOf(setUp))};
     return sheet;
 }
 

@@ -35,6 +35,13 @@ struct Sheet {
     RunSheet Run;
 };
 
+/// The sheet but for its run, which is most of the work.
+[[nodiscard]] Sheet EvaluateStill(const SetUp& setUp);
+
+/// What the run of a set-up starts with.
+/// @param still  of the set-up; with a wrong order the start has no gears
+[[nodiscard]] AccelerationSetup StartOf(const SetUp& setUp, const Sheet& still);
+
 /// Works a set-up out from nothing but itself: any number at once on several threads, each with rows of its own. The
 /// pages' procedures are made of the same functions, so that a set-up laid onto them reads what this gives.
 /// @param rows  takes the run; those behind Run.LastRow keep what they hold

@@ -1,56 +1,14 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <span>
 
 #include "model/engine_curve.h"
 #include "model/gear_speeds.h"
 #include "model/gearbox.h"
+#include "model/run_rows.h"
+#include "model/run_setup.h"
 
 namespace zolv {
-
-/// One row of the run, 0.05 s after the one before: what column holds what.
-enum class AccelColumn : std::uint8_t {
-    Distance,      // [m] at the end of the step
-    Speed,         // [m/s] at the end of the step
-    Revs,          // [rpm] used in the step
-    Gear,          // used in the step
-    DrivingForce,  // [N]
-    Resistance,    // [N]
-    NetForce,      // [N]
-    Acceleration,  // [m/s^2]
-    FrontLoad,     // [N] vertical, on the axle
-    RearLoad,      // [N]
-};
-inline constexpr int kAccelColumns = 10;
-inline constexpr int kAccelRows = 1801;    // 90 seconds
-inline constexpr double kTimeStep = 0.05;  // [s]
-
-struct AccelRow {
-    std::array<float, kAccelColumns> values{};
-
-    float operator[](AccelColumn column) const { return values[static_cast<std::size_t>(column)]; }
-
-    bool operator==(const AccelRow&) const = default;
-};
-using RunRows = std::array<AccelRow, kAccelRows>;
-
-/// A car with its gearbox, ready to start.
-struct AccelerationSetup {
-    RollingCar Car;
-    Engine Motor;
-    EngineCurve Curve;
-    double Efficiency = 0;  // share of the engine's power that reaches the wheels
-    double Wheelbase = 0;   // [m]
-    int NumGears = 0;
-    int DrivetrainType = 0;  // 0 front, 1 rear, 2 all wheel drive
-    double TyreMu = 0;
-    ByGear Ratios{};  // 1 to 6
-    double FinalDrive = 0;
-    ByGear ShiftRevs{};       // [rpm] 1 to 6
-    double LongDistance = 0;  // [m] behind which a run may end
-};
 
 /// @param tyreMu        friction coefficient of the tyres
 /// @param longDistance  [m]

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "model/acceleration_run.h"
+#include "model/aero_model.h"
+#include "model/run_rows.h"
+#include "model/run_setup.h"
 #include "model/tyre_geometry.h"
 #include "model/tyre_model.h"
 

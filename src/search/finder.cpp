@@ -50,6 +50,10 @@ public:
         Polish();
         if (trial_.Wings().size() > 1) TryAllWings();
         if (!Stopped()) PutBackWhatDoesNotMatter();
+        result.Stopped = Stopped();
+        result.Evaluations = evaluations_;
+        result.After = result.Before;
+        if (std::isinf(best_.cost)) return;  // stopped before anything was tried
         const GoalValue value = trial_.ValueOf(best_.choice);
         if (!Stopped() && value.Reached) result.Flatness = FlatnessOfAll();
         result.Stopped = Stopped();
@@ -155,6 +159,7 @@ private:
 
     /// Moves one input at a time by ever smaller steps while that pays.
     void PolishOne(Priced& priced) {
+        if (Stopped()) return;
         priced.cost = Price(priced.choice);
         for (const int step : {16, 8, 4, 2, 1}) {
             for (bool gained = true; gained;) {

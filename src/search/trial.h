@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "model/sheet.h"
-#include "search/finder.h"
+#include "search/finder_task.h"
 
 /// What the finder tries: gearboxes and wings within the bounds, and what each costs.
 namespace zolv {

@@ -38,7 +38,7 @@ TEST(Finder, IsNeverWorseThanEveryGearboxOfAGrid) {
         const FinderResult result = FindBest(task);
         ASSERT_EQ(result.Fault, FinderFault::None);
         double best = 1e9;
-        SetUp setUp = task.Present;
+        zolv::SetUp setUp = task.Present;
         for (setUp.Ratios[2] = 1.8; setUp.Ratios[2] < 2.81; setUp.Ratios[2] += 0.1) {
             for (setUp.Ratios[3] = 1.4; setUp.Ratios[3] < 1.91; setUp.Ratios[3] += 0.1) {
                 for (setUp.FinalDrive[0] = 2.4; setUp.FinalDrive[0] < 5.01; setUp.FinalDrive[0] += 0.1) {
@@ -76,7 +76,7 @@ TEST(Finder, SaysHowFlatTheOptimumIs) {
     ASSERT_EQ(result.Flatness.size(), 3U);
     EXPECT_EQ(result.Flatness[1].Input, Ratio3);
     const auto costAt = [&](double ratio) {
-        SetUp moved = result.Found;
+        zolv::SetUp moved = result.Found;
         moved.Ratios[3] = ratio;
         return CostWith(moved, kKilometre);
     };
@@ -142,15 +142,15 @@ TEST(Finder, GrantsTheWishes) {
         return FindBest(task);
     };
     FinderWishes wishes;
-    wishes.Downforce = {60, 9000};
+    wishes.Downforce = {60, 7000};
     wishes.NeutralBalance = true;
     const FinderResult held = find(wishes);
     ASSERT_TRUE(held.Wished);
     const AirSheet air = EvaluateStill(held.Found).Air;
     EXPECT_NEAR(air.AeroDistribution, held.Found.Car.WeightDist, 0.005);
-    SetUp at60 = held.Found;
+    zolv::SetUp at60 = held.Found;
     at60.AirSpeed = 60;
-    EXPECT_LE(EvaluateStill(at60).Air.Forces.TotalLift, -9000);
+    EXPECT_LE(EvaluateStill(at60).Air.Forces.TotalLift, -7000);
 
     // A top speed that the quickest gearbox does not come to.
     const Goal top{GoalKind::TopSpeed, 0, 0, 0, {}};
@@ -205,7 +205,7 @@ TEST(Finder, NamesWhatLeavesNothingToSeek) {
 TEST(Finder, StartsFromWhateverIsPresent) {
     FinderTask task = TaskWith("Wisp 4", kTo30, {Ratio1, Ratio2});
     task.Present.From = Direction::FromSpeeds;
-    task.Present.Speeds.values = {0, 20, 30, 38, 46, 54, 62};
+    task.Present.Speeds.values = {0, 18, 25, 33, 42, 52, 63};
     const FinderResult fromSpeeds = FindBest(task);
     EXPECT_EQ(fromSpeeds.Found.From, Direction::FromRatios);
     EXPECT_EQ(fromSpeeds.Before.Value, CostWith(task.Present, kTo30));

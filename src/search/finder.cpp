@@ -67,13 +67,15 @@ public:
 private:
     [[nodiscard]] bool Stopped() const { return stop_.stop_requested(); }
 
-    /// A share of the evaluations, for tracks that take a hundred runs each.
+    /// The share of the evaluations that is spent: less where few genes are free, and for a track that takes more than
+    /// a hundred runs.
     [[nodiscard]] double Patience() const {
         std::set<double> entries;
         if (goal_.Kind == GoalKind::AlongStraights) {
             for (const Straight& straight : goal_.Straights) entries.insert(straight.EntrySpeed);
         }
-        return std::clamp(100.0 / static_cast<double>(entries.size() + 1), 0.25, 1.0);
+        const double runs = std::clamp(100.0 / static_cast<double>(entries.size() + 1), 0.25, 1.0);
+        return runs * std::min(1.0, static_cast<double>(trial_.Genes() + 2) / 7);
     }
     [[nodiscard]] int Patiently(int evaluations) const { return static_cast<int>(evaluations * patience_); }
 

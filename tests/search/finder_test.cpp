@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <algorithm>
 #include <cmath>
 
 #include "model/sheet.h"
@@ -30,7 +30,7 @@ double CostWith(const SetUp& setUp, const Goal& goal) {
 
 TEST(Finder, IsNeverWorseThanEveryGearboxOfAGrid) {
     const Goal straights{GoalKind::AlongStraights, 0, 0, 0, {{"", 12, 250}, {"", 20, 600}}};
-    for (const Goal& goal : {kKilometre, kTo30, straights}) {
+    for (const Goal& goal : {kTo30, straights}) {
         FinderTask task = TaskWith("Wisp 4", goal, {Ratio2, Ratio3, FinalDrive});
         task.Bounds[Ratio2] = {1.8, 2.8};
         task.Bounds[Ratio3] = {1.4, 1.9};
@@ -137,7 +137,7 @@ TEST(Finder, StopsWhenToldAndKeepsTheBestUntilThen) {
 
 TEST(Finder, GrantsTheWishes) {
     const auto find = [](const FinderWishes& wishes) {
-        FinderTask task = TaskWith("Series Lo", kKilometre, {Ratio1, Ratio2, FinalDrive, FrontWing, RearWing});
+        FinderTask task = TaskWith("Series Lo", kTo30, {FinalDrive, FrontWing, RearWing});
         task.Wishes = wishes;
         return FindBest(task);
     };
@@ -174,8 +174,14 @@ TEST(Finder, SaysWhichSpeedIsTheMost) {
     EXPECT_FALSE(result.After.Reached);
     EXPECT_TRUE(result.Flatness.empty());
     const Goal top{GoalKind::TopSpeed, 0, 0, 0, {}};
-    const FinderResult fastest = FindBest(TaskWith("Mote 900", top, {Ratio3, Ratio4}));
-    EXPECT_NEAR(result.After.Most, fastest.After.Value, 0.01);
+    zolv::SetUp setUp = SetUpWith("Mote 900");
+    double most = 0;
+    for (setUp.Ratios[3] = 1; setUp.Ratios[3] < 2.2; setUp.Ratios[3] += 0.1) {
+        for (setUp.Ratios[4] = 0.8; setUp.Ratios[4] <= setUp.Ratios[3]; setUp.Ratios[4] += 0.05) {
+            most = std::max(most, -CostWith(setUp, top));
+        }
+    }
+    EXPECT_GE(result.After.Most, most);
     EXPECT_GT(result.After.Most, 40);
 }
 

@@ -183,6 +183,9 @@ TEST_F(ZolvTest, AFreshStartLeavesNothingOfTheRunBefore) {
     Set("UseFixedSpeed", "on");
     Set("Gear1", "3,9");
     Set("OptionsPanel.Select_SpeedUnits", "Miles per Hour");
+    Set("RC_Fixed", "on");  // which disables a check box and enables a text box
+    Set("Select_Graphs", "Acceleration Data Table");
+    Set("AccelerationTestingEnable", "off");  // which hides a panel and locks a list
     EXPECT_NE(EverythingShown(), before);
     FreshStart();
     EXPECT_EQ(EverythingShown(), before);

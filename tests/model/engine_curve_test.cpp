@@ -15,7 +15,8 @@ TEST(EngineCurve, GivesTheTorque) {
         double halfway, atPower, beyond;  // between the peaks, at peak power and at 1.15 times its engine speed
     } const kCases[] = {{kEngine, false, 176.910, 159.072, 119.786},
                         {{400, 7000, 550, 5000, 1000}, true, 552.345, 511.349, 342.824},
-                        {{537, 19076, 284, 16817, 3500}, true, 279.930, 267.010, 187.478}};
+                        {{537, 19076, 284, 16817, 3500}, true, 279.930, 267.010, 187.478},
+                        {{100, 4000, 180, 4000, 1000}, true, 180, 180, 180}};  // one peak: no curve, its torque
     for (const auto& [engine, failed, halfway, atPower, beyond] : kCases) {
         const EngineCurve curve = FittedCurve(engine);
         EXPECT_EQ(curve.CurveFitFailed, failed);
@@ -30,16 +31,6 @@ TEST(EngineCurve, GivesUpAfter100StepsOfAQuarterThousandth) {
     const EngineCurve curve = FittedCurve({400, 7000, 550, 5000, 1000});
     EXPECT_NEAR(curve.CurveSlopeFactor, 1.09 + 0.025, 1e-9);
     EXPECT_NEAR(FittedCurve(kEngine).CurveSlopeFactor, 1.07, 0.005);
-}
-
-TEST(EngineCurve, StartsAtFiveEighthsOfPeakTorque) {
-    EXPECT_DOUBLE_EQ(LowerTorque(kEngine, 1000), 112.5);
-    EXPECT_DOUBLE_EQ(LowerTorque(kEngine, 2500), 146.25);
-    EXPECT_DOUBLE_EQ(LowerTorque(kEngine, 4000), 180);
-    const EngineCurve curve = FittedCurve(kEngine);
-    EXPECT_EQ(EngineTorque(kEngine, curve, 4000), LowerTorque(kEngine, 4000));
-    EXPECT_EQ(EngineTorque(kEngine, curve, 4001), curve.Cubic(4001));
-    EXPECT_LT(curve.Cubic(15000), 0);  // no floor
 }
 
 }  // namespace

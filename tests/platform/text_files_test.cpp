@@ -1,12 +1,33 @@
 #include "platform/text_files.h"
 
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 
 #include "support/zolv_test.h"
 #include "text/lines.h"
+
+namespace {
+
+/// Calls of write that a signal is to interrupt, and behind them those that take one byte only.
+int interrupted = 0, shortened = 0;
+
+}  // namespace
+
+/// Stands in front of the C library's for the whole program.
+extern "C" ssize_t write(int file, const void* from, std::size_t size) {
+    if (interrupted > 0) {
+        --interrupted;
+        errno = EINTR;
+        return -1;
+    }
+    if (shortened > 0 && shortened-- > 0) size = std::min<std::size_t>(size, 1);
+    return ::syscall(SYS_write, file, from, size);
+}
 
 namespace zolv {
 namespace {
@@ -76,6 +97,13 @@ TEST_F(TextFiles, AreReplacedWithTheirPermissionsAndNothingLeftBeside) {
     EXPECT_EQ(ContentOf("file"), "2");
     EXPECT_EQ(fs::status("file").permissions(), fs::perms(0640));
     EXPECT_THAT(Names(), ElementsAre("file"));
+}
+
+TEST_F(TextFiles, AreWrittenWholeByCallsThatAreInterruptedOrTakeAPart) {
+    interrupted = shortened = 2;
+    EXPECT_EQ(WriteTextFile("file", "abcdef"), "");
+    EXPECT_EQ(interrupted + shortened, 0);
+    EXPECT_EQ(ContentOf("file"), "abcdef");
 }
 
 TEST_F(TextFiles, BehindALinkAreReplacedAndTheLinkStays) {

@@ -15,7 +15,7 @@
 namespace zolv {
 namespace {
 
-constexpr int kCases = 20000;
+constexpr int kCases = 4000;
 
 /// The value that stays of another with so many digits.
 double AtDigits(double value, int digits) {

@@ -42,17 +42,6 @@ TEST_F(TyreDrawings, AxesCountFromTheCentreInTheUnitOfDistance) {
     EXPECT_FALSE(Zolv.SV.Drawing().PresentAxes().present);
 }
 
-// By hand: 2800 + Int(deformation * 10 zoom / 0.3) - 10 zoom.
-TEST_F(TyreDrawings, TheWheelsCentreStandsLowerByWholeUnits) {
-    for (const auto& [deformation, zoom, y] : {std::tuple(0.0, 130, 1500), std::tuple(0.0299, 100, 1899),
-                                               std::tuple(0.01, 750, -4450), std::tuple(-0.01, 130, 1456)}) {
-        tyres.FrontDeformation = deformation;
-        Zolv.ZoomSideOn.SetValue(zoom);
-        DrawTyres();
-        EXPECT_EQ(Zolv.SV.Drawing().Operations()[0].y1, y);
-    }
-}
-
 TEST_F(TyreDrawings, FiguresThatAreNoNumbersDrawNothing) {
     tyres.FrontPatchLength = std::numeric_limits<double>::quiet_NaN();
     vehicle.Tyres.FrontUnloadedRadius = 0;

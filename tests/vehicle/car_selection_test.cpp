@@ -1,9 +1,12 @@
 #include "vehicle/car_selection.h"
 
+#include <filesystem>
 #include <tuple>
+#include <utility>
 
 #include "fields/guards.h"
 #include "support/zolv_test.h"
+#include "text/texts.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
@@ -32,42 +35,6 @@ TEST_F(CarSelection, ShowsWhatACarOfOnesOwnHas) {
     }
 }
 
-TEST_F(CarSelection, MovesPressuresIntoTheRangeOfTheCar) {
-    Set("Select_PressureF", "300");
-    Set("Select_PressureR", "110");
-    Set("Select_Car", "Gnat 5");
-    EXPECT_EQ(Shown({"Select_PressureF", "Select_PressureR", "Label_PressureF"}), "152|110|152 kPa|");
-    Set("Select_Car", "Pell S");
-    EXPECT_EQ(Shown("Select_PressureF"), "152");
-    EXPECT_EQ(Zolv.Select_PressureF.Min(), 126);
-    EXPECT_EQ(Zolv.Select_PressureR.Max(), 320);
-}
-
-// From a separate calculation in Python: rims go through 0.393900787 inches a centimetre, rear sizes through a single.
-TEST_F(CarSelection, WorksOutTheTyreSizes) {
-    Set("Select_Car", "Mote 900");  // front and rear alike
-    EXPECT_NEAR(vehicle.Tyres.FrontUnloadedRadius, 0.23232262026427486, 1e-15);
-    EXPECT_NEAR(vehicle.Tyres.FrontMaxDeformation, 0.08, 1e-15);
-    EXPECT_EQ(vehicle.Tyres.RearUnloadedRadius, 0.23232261836528778);
-    EXPECT_EQ(vehicle.Tyres.RearMaxDeformation, 0.07999999821186066);
-    Set("Select_Car", "Ondo R");
-    EXPECT_NEAR(vehicle.Tyres.FrontUnloadedRadius, 0.341677486078613, 1e-15);
-    EXPECT_NEAR(vehicle.Tyres.FrontMaxDeformation, 0.10050000399351117, 1e-15);
-    EXPECT_EQ(vehicle.Tyres.RearUnloadedRadius, 0.3457339406013489);
-    EXPECT_EQ(vehicle.Tyres.RearMaxDeformation, 0.11725001037120819);
-}
-
-TEST_F(CarSelection, LeavesTheSetUpInPlace) {
-    Set("Gear3", "1.65");
-    Set("B_Speed4", "41");
-    Set("Select_FrontWingAngle", "3");
-    Set("Select_Tyres", "Slick R2");
-    Set("Select_Car", "Mote R");
-    Set("Select_Car", "Series Mu");
-    EXPECT_EQ(Shown({"Gear3", "Select_Ratio3", "B_Speed4", "Select_FrontWingAngle", "WingAngleFront", "MU"}),
-              "1.65|1650|41|3|3 degrees|1.6|");
-}
-
 TEST_F(CarSelection, CalculatesNothingDuringTheLoad) {
     const std::string before = Shown("RPM1");
     guards.Loading = true;
@@ -85,18 +52,32 @@ TEST_F(CarSelection, FindsABuiltInCarBeforeAPresetOfItsName) {
     EXPECT_EQ(vehicle.CurrentCar.Mass, 298);
 }
 
-TEST_F(CarSelection, RunsTheWholeChainOnce) {
-    int runs = 0;
-    const Hook wired = vehicleFollowUps.CarChanged;
-    vehicleFollowUps.CarChanged = [&] {
-        ++runs;
-        wired();
-    };
-    Set("Select_Car", "Wisp 6");
-    EXPECT_EQ(runs, 1);
-    // From a separate calculation in Python, as on both panels.
-    EXPECT_EQ(Shown({"Info_Mass", "Aero_TopSpeed", "RPM1", "B_RPM1"}), "624 kg|63.8 m/s|9951 rpm|9272 rpm|");
-    EXPECT_FALSE(Zolv.TorquePowerPlot.Drawing().Operations().empty());
+// A car without a file of its own, an empty one, and names that no file has show the unknown car.
+TEST_F(CarSelection, ThePictureIsTheCarsOwnOrTheUnknownOne) {
+    std::filesystem::create_directory("sub");
+    for (const auto& [car, shown] :
+         {std::pair("Tumbler", "Tumbler.jpg"), std::pair("My own car", "My own car.jpg"),
+          std::pair("Mote R", "unknown.jpg"), std::pair("sub/car", "unknown.jpg"), std::pair("a\\b", "unknown.jpg")}) {
+        WriteContent(car + std::string(".jpg"), car == std::string("Mote R") ? "" : "x");
+        if (vehicle.FindCar(car) < 0) {
+            Set("NewCar", "Gnat 5");
+            Set("NewName", car);
+            CustomPresets.AddCar.Click();
+            ExpectMessage(testing::StartsWith("Added"));
+        }
+        Set("Select_Car", car);
+        EXPECT_EQ(Shown("Info_CarPic"), InFolder(shown)) << car;
+    }
+}
+
+TEST_F(CarSelection, APresetIsUpdatedOnceChosenAndTakesItsDrivetrainByTheWordsInForce) {
+    CustomPresets.EditUpdate.Click();
+    EXPECT_NE(TakeMessage(), "") << "none is chosen";
+    Set("NewName", "Mine");
+    Set("NewCar", "Corvane");
+    texts.TextRWD = "Heckantrieb";  // a language was loaded behind the list
+    CustomPresets.AddCar.Click();
+    ExpectMessage("You must select a drivetrain.");
 }
 
 }  // namespace

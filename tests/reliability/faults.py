@@ -101,11 +101,10 @@ def limited(size):
     return lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (size, resource.RLIM_INFINITY))
 
 
-def run(lines, cwd, user=None, before=None, wrapper=(), script=None):
-    """Status, output and errors of a whole run, by lines on standard input or a script's name."""
+def run(lines, cwd, user=None, before=None, wrapper=()):
+    """Status, output and errors of a whole run, by lines on standard input."""
     as_user = {"user": user, "group": user, "extra_groups": []} if user else {}
-    arguments = [*wrapper, BATCH, *([script] if script else [])]
-    done = subprocess.run(arguments, input="\n".join(lines).encode(), cwd=cwd, capture_output=True, timeout=PATIENCE,
+    done = subprocess.run([*wrapper, BATCH], input="\n".join(lines).encode(), cwd=cwd, capture_output=True, timeout=PATIENCE,
                           preexec_fn=before, **as_user)
     return done.returncode, done.stdout.decode(errors="replace"), done.stderr.decode(errors="replace")
 
@@ -696,56 +695,6 @@ def pictures():
         session.close()
 
 
-SCRIPT = b"""# one of each command
-set Select_Car Wisp 4
-set Gear3 1,65
-get RPM3
-get Select_Page rows
-click Direction2
-answer x.zolv
-click FileSaveAs
-canvas SpeedPlot
-picture SpeedPlot x.svg
-write-language x.txt
-report
-"""
-
-
-def run_script(cwd, fault, content, loaded="run to its end"):
-    path = cwd / "script"
-    path.write_bytes(content)
-    before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss
-    status, output, errors = run([], cwd, script="script")
-    told_where = re.fullmatch(r"zolv-batch: script:\d+: .*\n", errors)
-    ended_well = status == 0 and errors == "" or status == 2 and told_where is not None
-    fine = expect(ended_well, fault, "script", f"{status} {errors[:300]}")
-    peak = resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss
-    fine &= expect(peak == before or peak < MOST_MEMORY >> 10, fault, "script", f"{peak} KiB")
-    if fine and no_odd_number(output):
-        reads.note(fault, "script", loaded if status == 0 else "stopped, told file, line and reason")
-
-
-def damaged_scripts():
-    with folder() as cwd:
-        for cut in range(len(SCRIPT)):
-            run_script(cwd, "cut off at every byte", SCRIPT[:cut])
-        for content in [*rubbish(SCRIPT)][::2]:
-            run_script(cwd, "rubbish, or one or a few bytes or lines changed", content)
-        for line in (b"set GearF ", b"set NewName ", b"get ", b"set Select_Car ", b"set Select_PressureF ", b"answer ",
-                     b"# ", b"picture SpeedPlot ", b""):
-            for size in (1000000, 1 << 20, 4 << 20):
-                run_script(cwd, "a line up to the longest, or of 4 MiB", line + b"9" * size + b"\nget GearF\n")
-        path = cwd / "script"
-        os.truncate(path, 1 << 34)
-        for fault, name in (("a file of 16 GiB", "script"), ("a link to a device without an end", "/dev/zero"),
-                            ("a folder in its place", "."), ("missing", "gone")):
-            status, _, errors = run([], cwd, script=name)
-            if expect(status == 2 and errors.startswith(f"zolv-batch: {name}:"), fault, "script", errors):
-                reads.note(fault, "script", "stopped, told file, line and reason")
-        errors = subprocess.run([BATCH], stdin=os.open(cwd, os.O_RDONLY), cwd=cwd, capture_output=True).stderr
-        expect(errors == b"zolv-batch: -:1: cannot be read\n", "a folder on standard input", "script", errors)
-
-
 def failing_reads():
     """An error of the disk in the middle of a file, planted by strace."""
     with folder() as cwd:
@@ -786,7 +735,7 @@ def show(table, heading, markdown):
 def main():
     traced = shutil.which("strace") and subprocess.run(["strace", "-o", "/dev/null", "true"]).returncode == 0
     parts = [file_size_limits, gone_folders, missing_permissions, other_things_than_files, kills, savers_at_once,
-             damaged_files, damaged_at_start, pictures, damaged_scripts]
+             damaged_files, damaged_at_start, pictures]
     if APART:
         parts += [full_disks, read_only_disk]
     else:

@@ -1,4 +1,6 @@
+#include <functional>
 #include <set>
+#include <utility>
 
 #include "fields/field_row.h"
 #include "shell/fresh_start.h"
@@ -152,6 +154,27 @@ TEST_F(Fields, AWindowKnowsWhatChangedEachOnce) {
     EXPECT_THAT(form.TakeChanged(), IsEmpty());
     form.Text.SetCaption("newer");
     EXPECT_THAT(form.TakeChanged(), ElementsAre(&form.Text));
+}
+
+TEST_F(Fields, EachWriteThatChangesSomethingIsKnown) {
+    const std::pair<Field*, std::function<void()>> kWrites[] = {{&form.Text, [&] { form.Text.SetToolTip("tip"); }},
+                                                                {&form.Text, [&] { form.Text.SetVisible(false); }},
+                                                                {&form.Text, [&] { form.Text.SetEnabled(false); }},
+                                                                {&form.Box, [&] { form.Box.SetText("other"); }},
+                                                                {&form.Box, [&] { form.Box.SetCaret(3); }},
+                                                                {&form.Bar, [&] { form.Bar.SetRange(0, 40); }},
+                                                                {&form.List, [&] { form.List.Pick(1); }},
+                                                                {&form.List, [&] { form.List.Add("c"); }},
+                                                                {&form.List, [&] { form.List.SetRow(0, "A"); }},
+                                                                {&form.List, [&] { form.List.SetLocked(true); }},
+                                                                {&form.List, [&] { form.List.Clear(); }},
+                                                                {&form.Check, [&] { form.Check.SetChecked(true); }},
+                                                                {&form.Photo, [&] { form.Photo.SetPath("a.jpg"); }},
+                                                                {&form, [&] { form.Show(); }}};
+    for (const auto& [field, write] : kWrites) {
+        write();
+        EXPECT_THAT(form.TakeChanged(), ElementsAre(field));
+    }
 }
 
 TEST_F(Fields, ResetIsSilentAndComplete) {

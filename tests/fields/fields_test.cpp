@@ -183,8 +183,10 @@ TEST_F(Fields, ResetIsSilentAndComplete) {
     form.List.Clear();
     form.Right.Choose();
     form.Check.SetChecked(true);
-    form.Text.SetVisible(false);
-    form.Text.SetEnabled(false);
+    for (Field* field : form.Fields()) {
+        field->SetVisible(false);
+        field->SetEnabled(false);
+    }
     form.Sheet[1].BringToFront();
     form.Photo.SetPath("a.jpg");
     form.Plot.Draw().Line(0, 0, 1, 1);
@@ -195,7 +197,8 @@ TEST_F(Fields, ResetIsSilentAndComplete) {
     EXPECT_EQ(form.Box.Text() + form.List.Text() + form.Photo.Path() + form.Title(), "1aA form");
     EXPECT_THAT((std::vector{form.Bar.Value(), form.Bar.Max()}), ElementsAre(15, 20));
     EXPECT_TRUE(form.Left.Checked() && !form.Right.Checked() && !form.Check.Checked());
-    EXPECT_TRUE(form.Text.Visible() && form.Text.Enabled() && form.Sheet[0].InFront());
+    for (const Field* field : form.Fields()) EXPECT_TRUE(field->Visible() && field->Enabled()) << field->Name();
+    EXPECT_TRUE(form.Sheet[0].InFront());
     EXPECT_TRUE(form.Plot.Drawing().Operations().empty());
 }
 

@@ -1,5 +1,6 @@
 #include "platform/text_files.h"
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -7,26 +8,40 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <utility>
 
 #include "support/zolv_test.h"
 #include "text/lines.h"
 
 namespace {
 
-/// Calls of write that a signal is to interrupt, and behind them those that take one byte only.
-int interrupted = 0, shortened = 0;
+/// Calls of read or write that a signal is to interrupt, behind them those that take one byte only, and then an error.
+struct Trouble {
+    int interrupted = 0, shortened = 0, error = 0;
+} reads, writes;
+
+template <class Call>
+long InTrouble(Trouble& trouble, std::size_t size, Call call) {
+    const int error = trouble.interrupted > 0 ? EINTR : trouble.shortened > 0 ? 0 : std::exchange(trouble.error, 0);
+    if (trouble.interrupted > 0) {
+        --trouble.interrupted;
+    } else if (trouble.shortened > 0) {
+        --trouble.shortened;
+        size = std::min<std::size_t>(size, 1);
+    }
+    if (error == 0) return call(size);
+    errno = error;
+    return -1;
+}
 
 }  // namespace
 
-/// Stands in front of the C library's for the whole program.
+// These stand in front of the C library's for the whole program.
+extern "C" ssize_t read(int file, void* to, std::size_t size) {
+    return InTrouble(reads, size, [&](std::size_t n) { return ::syscall(SYS_read, file, to, n); });
+}
 extern "C" ssize_t write(int file, const void* from, std::size_t size) {
-    if (interrupted > 0) {
-        --interrupted;
-        errno = EINTR;
-        return -1;
-    }
-    if (shortened > 0 && shortened-- > 0) size = std::min<std::size_t>(size, 1);
-    return ::syscall(SYS_write, file, from, size);
+    return InTrouble(writes, size, [&](std::size_t n) { return ::syscall(SYS_write, file, from, n); });
 }
 
 namespace zolv {
@@ -99,11 +114,25 @@ TEST_F(TextFiles, AreReplacedWithTheirPermissionsAndNothingLeftBeside) {
     EXPECT_THAT(Names(), ElementsAre("file"));
 }
 
-TEST_F(TextFiles, AreWrittenWholeByCallsThatAreInterruptedOrTakeAPart) {
-    interrupted = shortened = 2;
+TEST_F(TextFiles, PassWholeThroughCallsThatAreInterruptedOrTakeAPart) {
+    writes = reads = {.interrupted = 2, .shortened = 2};
     EXPECT_EQ(WriteTextFile("file", "abcdef"), "");
-    EXPECT_EQ(interrupted + shortened, 0);
+    EXPECT_EQ(ReadTextFile("file", 100).text, "abcdef");
+    EXPECT_EQ(writes.interrupted + writes.shortened + reads.interrupted + reads.shortened, 0);
+    writes = reads = {.error = EIO};
+    EXPECT_EQ(WriteTextFile("file", "new"), "Input/output error");
+    EXPECT_EQ(ReadTextFile("file", 100).reason, "Input/output error");
     EXPECT_EQ(ContentOf("file"), "abcdef");
+}
+
+TEST_F(TextFiles, ThatAreRefusedStayOpenNoLonger) {
+    rlimit before{};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit few{64, before.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &few);
+    WriteContent("file", "abcdef");
+    for (int i = 0; i < 100; ++i) EXPECT_EQ(ReadTextFile("file", 5).reason, "Longer than 5 bytes");
+    ::setrlimit(RLIMIT_NOFILE, &before);
 }
 
 TEST_F(TextFiles, BehindALinkAreReplacedAndTheLinkStays) {

@@ -40,6 +40,7 @@ public:
     OptionButton Other{*this, "Other", {.checked = true, .group = 2}};
     FieldArray<Panel, 2> Sheet{*this, "Sheet", [](int i) { return PanelState{.stack = 1, .front = i == 0}; }};
     Panel Alone{*this, "Alone", {.stack = 2, .front = true}};
+    TabStrip Tabs{*this, "Tabs", 2};
     Picture Photo{*this, "Photo"};
     CanvasField Plot{*this, "Plot", 100, 50};
 };
@@ -168,6 +169,7 @@ TEST_F(Fields, EachWriteThatChangesSomethingIsKnown) {
                                                                 {&form.List, [&] { form.List.SetRow(0, "A"); }},
                                                                 {&form.List, [&] { form.List.SetLocked(true); }},
                                                                 {&form.List, [&] { form.List.Clear(); }},
+                                                                {&form.Tabs, [&] { form.Tabs.SetToolTipOf(1, "tip"); }},
                                                                 {&form.Check, [&] { form.Check.SetChecked(true); }},
                                                                 {&form.Photo, [&] { form.Photo.SetPath("a.jpg"); }},
                                                                 {&form, [&] { form.Show(); }}};
@@ -188,6 +190,8 @@ TEST_F(Fields, ResetIsSilentAndComplete) {
         field->SetEnabled(false);
     }
     form.Sheet[1].BringToFront();
+    form.Tabs.Pick(1);
+    form.Tabs.SetToolTipOf(1, "tip");
     form.Photo.SetPath("a.jpg");
     form.Plot.Draw().Line(0, 0, 1, 1);
     form.SetTitle("Another");
@@ -198,7 +202,7 @@ TEST_F(Fields, ResetIsSilentAndComplete) {
     EXPECT_THAT((std::vector{form.Bar.Value(), form.Bar.Max()}), ElementsAre(15, 20));
     EXPECT_TRUE(form.Left.Checked() && !form.Right.Checked() && !form.Check.Checked());
     for (const Field* field : form.Fields()) EXPECT_TRUE(field->Visible() && field->Enabled()) << field->Name();
-    EXPECT_TRUE(form.Sheet[0].InFront());
+    EXPECT_TRUE(form.Sheet[0].InFront() && form.Tabs.Picked() == 0 && form.Tabs.ToolTips()[1].empty());
     EXPECT_TRUE(form.Plot.Drawing().Operations().empty());
 }
 

@@ -24,7 +24,8 @@ TEST(Val, IsTheLeadingNumberOfAText) {
         // Blanks, tabs and line feeds are skipped wherever they stand, a carriage return is not.
         {" 7000", 7000}, {"1 0", 10}, {"1\t2\n3", 123}, {"- 2", -2}, {"2 e 2", 200}, {"1\r2", 1},
         {"1.5e3", 1500}, {"25D-1", 2.5}, {"2E+2", 200}, {"3e", 3}, {"3e-", 3}, {"2e1.9", 20}, {"0.0001e3", 0.1},
-        {"1e999", 1.7976931348623157e308}, {"-1E999", -1.7976931348623157e308}, {"1e-999", 0},
+        {"1e5-3", 100000}, {"1e-99999999999", 0},
+        {"1e99999999999", 1.7976931348623157e308}, {"1e999", 1.7976931348623157e308}, {"-1E999", -1.7976931348623157e308}, {"1e-999", 0},
     };
     // clang-format on
     for (const auto& [text, value] : kCases) EXPECT_EQ(Val(text), value) << text;

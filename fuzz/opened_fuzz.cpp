@@ -1,5 +1,5 @@
-// A file of any content, opened by the whole program: settings, preset, options, language list or language file, as the
-// first character says.
+// A file of any content, opened by the whole program: settings, preset, options, language list, language file or words,
+// as the first character says.
 
 #include <cstdint>
 
@@ -104,6 +104,14 @@ void OpenLanguage(FuzzedProgram& program, std::string_view input) {
     program.ExpectSound(content);
 }
 
+void OpenWords(FuzzedProgram& program, std::string_view content) {
+    PutFile("words_English.txt", content);
+    LanguageSelection.LanguageList.SetText("English");
+    program.ExpectSound(content);
+    UnitConv.Distance.Input.Enter("12");  // a sentence around a value
+    program.ExpectSound(content);
+}
+
 void Open(std::string_view input) {
     static FuzzedProgram program(Files());
     if (input.empty()) return;
@@ -114,6 +122,7 @@ void Open(std::string_view input) {
         case 'o': OpenOptions(program, content); break;
         case 'l': OpenLanguageList(program, content); break;
         case 'f': OpenLanguage(program, content); break;
+        case 'w': OpenWords(program, content); break;
         default: return;
     }
     program.PutBack();

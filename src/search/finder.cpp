@@ -57,6 +57,7 @@ public:
         const GoalValue value = trial_.ValueOf(best_.choice);
         if (!Stopped() && value.Reached) result.Flatness = FlatnessOfAll();
         result.Stopped = Stopped();
+        if (result.Stopped) result.Flatness.clear();
         result.Found = trial_.SetUpOf(best_.choice);
         result.After = value;
         result.Wished = best_.cost < kUnwished;

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
 namespace zolv {
 namespace {
 
@@ -69,6 +73,22 @@ TEST(Straights, WritesWhatReadsTheSameAgain) {
     ASSERT_FALSE(again.Error);
     EXPECT_EQ(StraightsText(again.File), text);
     EXPECT_NEAR(again.File.Straights[0].EntrySpeed, 31.2928, 1e-9);
+}
+
+/// The examples that come with the program read, and are written as they stand.
+TEST(Straights, ShippedExamplesAreWhole) {
+    int files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(ZOLV_SOURCE_DIR "/examples")) {
+        if (entry.path().extension() != ".straights") continue;
+        ++files;
+        std::stringstream text;
+        text << std::ifstream(entry.path()).rdbuf();
+        const StraightsRead read = ReadStraights(text.str());
+        EXPECT_FALSE(read.Error) << entry.path();
+        EXPECT_EQ(read.File.Straights.size(), 5U) << entry.path();
+        EXPECT_EQ(StraightsText(read.File), text.str()) << entry.path();
+    }
+    EXPECT_EQ(files, 2);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // What the finder is held to: a search of another kind, that takes far more runs.
 //
-// Usage: zolv-finder-reference search RANDOM [SHARD SHARDS]   makes the lines of finder_reference.txt
-//        zolv-finder-reference compare FILE                   holds the finder to them; status 1 where it is worse
+// Usage: zolv-finder-reference search RANDOM [FIRST COUNT]   makes the lines of finder_reference.txt
+//        zolv-finder-reference compare FILE                  holds the finder to them; status 1 where it is worse
 //
 // For each case: RANDOM gearboxes, the logarithms of their ratios drawn evenly over the bounds and sorted; then
 // differential evolution (R. Storn, K. Price, "Differential Evolution", Journal of Global Optimization 11, 1997) on the
@@ -136,9 +136,9 @@ private:
     int evaluations_ = 0;
 };
 
-int Make(int random, std::size_t shard, std::size_t shards) {
+int Make(int random, std::size_t first, std::size_t count) {
     const std::vector<FinderCase> cases = FinderCases();
-    for (std::size_t i = shard; i < cases.size(); i += shards) {
+    for (std::size_t i = first; i < std::min(first + count, cases.size()); ++i) {
         Reference reference(cases[i].Task);
         const Found found = reference.Search(random);
         std::printf("%-24s %9.5f %7d ", cases[i].Name.c_str(), found.cost, reference.Evaluations());
@@ -181,8 +181,8 @@ int main(int argc, char** argv) {
     if (what == "compare" && argc == 3) return zolv::Compare(argv[2]);
     if (what == "search" && (argc == 3 || argc == 5)) {
         const auto number = [&](int i) { return static_cast<std::size_t>(std::strtoul(argv[i], nullptr, 10)); };
-        return zolv::Make(static_cast<int>(number(2)), argc == 5 ? number(3) : 0, argc == 5 ? number(4) : 1);
+        return zolv::Make(static_cast<int>(number(2)), argc == 5 ? number(3) : 0, argc == 5 ? number(4) : 1000);
     }
-    std::fprintf(stderr, "usage: zolv-finder-reference search RANDOM [SHARD SHARDS] | compare FILE\n");
+    std::fprintf(stderr, "usage: zolv-finder-reference search RANDOM [FIRST COUNT] | compare FILE\n");
     return 2;
 }

@@ -8,7 +8,7 @@
 namespace zolv {
 namespace {
 
-constexpr double kMissed = 1000;  // above every time but that of a thousand straights
+constexpr double kMissed = 1000;  // above the time of any run [s], and any speed [m/s]
 
 /// A run and its clock; what is watched is compared before and after a step.
 class Watch {
@@ -127,7 +127,7 @@ GoalValue ValueOf(const Goal& goal, const AccelerationSetup& start) {
 double CostOf(const Goal& goal, const GoalValue& value) {
     if (value.Reached) return goal.Kind == GoalKind::TopSpeed ? -value.Value : value.Value;
     const auto longest = static_cast<double>(std::max<std::size_t>(goal.Straights.size(), 1));
-    return kMissed * longest - value.Most / 1000;  // the most is some tens of kilometres a straight
+    return kMissed * longest - value.Most / 1000;  // less than a thousand for each
 }
 
 std::vector<StraightTime> TimesAlong(const std::vector<Straight>& straights, const AccelerationSetup& start) {

@@ -195,8 +195,10 @@ TEST_F(Fields, ResetIsSilentAndComplete) {
     form.Photo.SetPath("a.jpg");
     form.Plot.Draw().Line(0, 0, 1, 1);
     form.SetTitle("Another");
+    form.Show();
     form.TakeEvents();
     form.Reset();
+    EXPECT_FALSE(form.TakeToFront());
     EXPECT_THAT(form.TakeEvents(), IsEmpty());
     EXPECT_EQ(form.Box.Text() + form.List.Text() + form.Photo.Path() + form.Title(), "1aA form");
     EXPECT_THAT((std::vector{form.Bar.Value(), form.Bar.Max()}), ElementsAre(15, 20));

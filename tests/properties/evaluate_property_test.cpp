@@ -170,7 +170,8 @@ TEST_P(LaidOut, ReadsAsEvaluateHasIt) {
         const zolv::SetUp setUp = PresentSetUp();
         ASSERT_EQ(std::tie(setUp.CarName, setUp.From, setUp.Blown, setUp.TyreType, setUp.AirSpeed, setUp.Shifts),
                   std::tie(wanted.CarName, wanted.From, wanted.Blown, wanted.TyreType, wanted.AirSpeed, wanted.Shifts));
-        ASSERT_EQ(setUp.TyreMu, wanted.TyreMu);
+        ASSERT_EQ(std::tie(setUp.TyreMu, setUp.FrontWingAngle, setUp.RearWingAngle),
+                  std::tie(wanted.TyreMu, wanted.FrontWingAngle, wanted.RearWingAngle));
         ASSERT_EQ(OptionsPanel.RevLimitEnable.Enabled(), wanted.Shifts.AutoRevs);
         ASSERT_EQ(OptionsPanel.RC_FixedVal.Enabled(), !wanted.Shifts.AutoRevs);
         ASSERT_EQ(Zolv.Select_AeroSpeed.Enabled(), wanted.AirSpeed.has_value());

@@ -1,6 +1,7 @@
 // Which windows and pages are in front, and what opens, closes and covers them.
 
 #include "shell/fresh_start.h"
+#include "shell/shell_state.h"
 #include "support/zolv_test.h"
 
 namespace zolv {
@@ -66,8 +67,11 @@ TEST_F(OpenWindows, EndWithTheMainWindow) {
         StartWithLanguage("1");
         OptionsPanel.Show();
         UnitConv.Show();
-        (*end)();
+        int endings = 0;
+        shellFollowUps.Ending = [&] { ++endings; };
+        for (int twice = 0; twice < 2; ++twice) (*end)();
         EXPECT_EQ(Open(), "");
+        EXPECT_EQ(endings, 1);
     }
 }
 

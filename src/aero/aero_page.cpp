@@ -157,6 +157,7 @@ void CalcAeroForces() {
         aero.Forces = ForcesAtChosenSpeed(aero.AeroSpeedValue, aero.Profile());
     }
     const AirSheet air = StandUnder(aero.Forces, aero.Parts, aero.Profile());
+    aero.AeroDistribution = air.AeroDistribution;
     aero.FrontWheelForce = air.FrontWheelForce;
     aero.RearWheelForce = air.RearWheelForce;
     ShowAeroPage(air);

@@ -22,6 +22,7 @@ struct AeroState {
 
     float TopSpeed = 0;  // [m/s]
     AirBalance Balance = AirBalance::None;
+    double AeroDistribution = 0;  // share of the lift on the front axle; 0 where the front has none
 
     // Vertical load on each whole axle [N] at the speed in force. An acceleration run overwrites them and leaves those
     // of its last step, until the next CalcAeroForces.

@@ -105,10 +105,7 @@ void PrintOrderErrors(const std::vector<int>& wrong) {
     const OrderWords words = OrderWordsOf(gearing.From());
     Print("  " + words.notUpdated + ' ' + texts.TextBecauseOfThe + ' ' + NumberText(static_cast<int>(wrong.size())) +
           ' ' + texts.TextErrors);
-    for (const int gear : wrong) {
-        Print("    " + words.theNumberFor + ' ' + GearName(gear + 1) + ' ' + words.isWrongAgainst + ' ' +
-              GearName(gear));
-    }
+    for (const int gear : wrong) Print("    " + OrderSentence(words, gear));
     PrintLine("");
 }
 

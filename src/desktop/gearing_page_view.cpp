@@ -1,23 +1,34 @@
 #include "desktop/gearing_page_view.h"
 
 #include <QComboBox>
+#include <QGraphicsOpacityEffect>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/canvas_view.h"
+#include "desktop/order_fault.h"
 #include "desktop/page_parts.h"
 #include "desktop/run_table.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
+#include "desktop/zolv_style.h"
+#include "gearing/gearing_common.h"
+#include "gearing/gearing_state.h"
+#include "gearing/mark_reasons.h"
+#include "gearing/run_columns.h"
 #include "text/texts.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
@@ -28,19 +39,24 @@ enum Column { kName, kInput, kUnit, kSlider, kResult, kBefore, kAfter, kTorque }
 /// The labels of the ratios panel are GearingLabel(0) to (14), those of the speeds panel the same 15 further on.
 Label& PanelLabel(int mode, int number) { return Zolv.GearingLabel[number + 15 * mode]; }
 
+constexpr int kShortestSlider[] = {90, 60};  // of a ratio; of a speed, beside which its unit stands
 const QString kWidestTime = QStringLiteral("88.88s");
 constexpr double kWidestSpeed = 188.8;   // [m/s]
 constexpr double kWidestTorque = 28888;  // [Nm]
 
-/// Width of a box; a figure in the same column is as wide, so that it ends where the numbers in the boxes do.
-int BoxWidth(const QWidget& widget) {
-    return widget.fontMetrics().horizontalAdvance(QStringLiteral("888.888")) + 2 * kGap;
+/// Width of a box; a figure in the same column is as wide, so that it ends where the numbers in the boxes do. A speed
+/// has room for the mark that stands in front of one that the car does not reach.
+int BoxWidth(const QWidget& widget, int mode) {
+    constexpr int kMark = 22;
+    const int text =
+        widget.fontMetrics().horizontalAdvance(mode == 0 ? QStringLiteral("88.888") : QStringLiteral("888.88"));
+    return text + 2 * kGap + (mode == 0 ? 0 : kMark);
 }
 
-QLineEdit* MakeBox(Binding& binding, TextBox& field, const Field& caption, QWidget* parent) {
+QLineEdit* MakeBox(Binding& binding, TextBox& field, const Field& caption, QWidget* parent, int mode) {
     auto* const box = new QLineEdit(parent);
     box->setAlignment(Qt::AlignRight);
-    box->setFixedWidth(BoxWidth(*box));
+    box->setFixedWidth(BoxWidth(*box, mode));
     binding.Bind(field, *box, &caption);
     return box;
 }
@@ -53,11 +69,37 @@ QComboBox* MakeList(Binding& binding, PickList& field, const Field& caption, QWi
     return list;
 }
 
-QSlider* MakeSlider(Binding& binding, Slider& field, const Field& caption, QWidget* parent) {
+QSlider* MakeSlider(Binding& binding, Slider& field, const Field& caption, QWidget* parent, int mode) {
     auto* const slider = new QSlider(Qt::Horizontal, parent);
-    slider->setMinimumWidth(90);
+    slider->setMinimumWidth(kShortestSlider[mode]);
     binding.Bind(field, *slider, &caption);
     return slider;
+}
+
+/// The colour of a gear, as a small square.
+class GearChip : public QWidget {
+public:
+    GearChip(int gear, QWidget* parent) : QWidget(parent), gear_(gear) { setFixedSize(10, 10); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(GearTint(gear_, 1, palette()));
+        painter.drawRoundedRect(rect(), 2.5, 2.5);
+    }
+
+private:
+    int gear_;
+};
+
+/// Whether a drawing is pale, as one that is older than what is set.
+void Fade(QWidget& view, bool faded) {
+    if (faded == (view.graphicsEffect() != nullptr)) return;
+    auto* const effect = faded ? new QGraphicsOpacityEffect(&view) : nullptr;
+    if (effect != nullptr) effect->setOpacity(0.35);
+    view.setGraphicsEffect(effect);
 }
 
 /// An engine speed, with room for five digits and the word for rpm in any language.
@@ -77,8 +119,8 @@ GearingPageView::GearingPageView(Binding& binding, QWidget* parent) : QWidget(pa
     columns->setSpacing(kSection);
 
     auto* const left = new QVBoxLayout;
-    left->setSpacing(kGap);
-    columns->addLayout(left);
+    left->setSpacing(kSection);
+    columns->addLayout(left, 2);
     left->addWidget(MakeDirections());
     left->addWidget(MakePanels());
     left->addWidget(MakeAcceleration());
@@ -86,9 +128,10 @@ GearingPageView::GearingPageView(Binding& binding, QWidget* parent) : QWidget(pa
 
     auto* const right = new QVBoxLayout;
     right->setSpacing(kGap);
-    columns->addLayout(right, 1);
+    columns->addLayout(right, 3);
     right->addWidget(MakeChoices());
     right->addWidget(MakePlots(), 1);
+    OnOrderChanged(binding_, [this] { ShowOrder(); });
 }
 
 QWidget* GearingPageView::MakeDirections() {
@@ -118,7 +161,8 @@ QWidget* GearingPageView::MakePanels() {
 QWidget* GearingPageView::MakePanel(int mode) {
     QGroupBox* const panel = MakeGroup(binding_, Zolv.GearingOf(mode).Frame, this);
     auto* const grid = new QGridLayout(panel);
-    grid->setHorizontalSpacing(kMargin);
+    SetGroupMargins(*grid);
+    grid->setHorizontalSpacing(kGap);
     grid->setVerticalSpacing(kGap);
     grid->setColumnStretch(kSlider, 1);
     AddTitles(*grid, mode);
@@ -132,7 +176,11 @@ QWidget* GearingPageView::MakePanel(int mode) {
 void GearingPageView::AddTitles(QGridLayout& grid, int mode) {
     QWidget* const parent = grid.parentWidget();
     const auto add = [&](int number, int row, int column, int columns, Qt::Alignment alignment) {
-        grid.addWidget(MakeTitle(binding_, PanelLabel(mode, number), parent), row, column, 1, columns, alignment);
+        Label& caption = PanelLabel(mode, number);
+        QLabel* const title =
+            columns == 1 ? MakeColumnTitle(binding_, caption, parent) : MakeTitle(binding_, caption, parent);
+        title->setAlignment(alignment);
+        grid.addWidget(title, row, column, 1, columns);
     };
     const Qt::Alignment right = Qt::AlignRight | Qt::AlignBottom;
     const int input = mode == 0 ? 2 : 3;  // "Ratio" and "Speed" change places
@@ -146,22 +194,73 @@ void GearingPageView::AddTitles(QGridLayout& grid, int mode) {
     add(7, 1, kTorque, 1, right);
 }
 
+/// A gear's name with its colour in front, the same as in the plots and the table.
+void GearingPageView::AddGearName(QGridLayout& grid, int row, Label& name, int gear) {
+    QWidget* const parent = grid.parentWidget();
+    auto* const cell = new QHBoxLayout;
+    cell->setSpacing(kGap / 2 + 2);
+    auto* const chip = new GearChip(gear, parent);
+    cell->addWidget(chip, 0, Qt::AlignVCenter);
+    cell->addWidget(MakeWords(binding_, name, parent), 1);
+    binding_.OnChanged(name, [&name, chip] { chip->setVisible(name.Visible()); });
+    grid.addLayout(cell, row, kName);
+}
+
 void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
     QWidget* const parent = grid.parentWidget();
     GearingPanel& panel = Zolv.GearingOf(mode);
     Label& name = PanelLabel(mode, 7 + gear);
     const int row = NextRow(grid);
-    const WidestOf speed = WidestTexts(&UnitState::Speed, kWidestSpeed);
-    grid.addWidget(MakeWords(binding_, name, parent), row, kName);
-    grid.addWidget(MakeBox(binding_, panel.Input[gear], name, parent), row, kInput);
+    GearRow& shown = rows_[mode][gear];
+    const auto addFigure = [&](ValueLabel* figure, int column) {
+        shown.figures.push_back(figure);
+        grid.addWidget(figure, row, column);
+        return figure;
+    };
+    AddGearName(grid, row, name, gear);
+    shown.box = MakeBox(binding_, panel.Input[gear], name, parent, mode);
+    grid.addWidget(shown.box, row, kInput);
     if (mode == 1) grid.addWidget(MakeWords(binding_, Zolv.Label_SPD[gear], parent), row, kUnit);
-    grid.addWidget(MakeSlider(binding_, panel.InputSlider[gear], name, parent), row, kSlider);
-    grid.addWidget(MakeFigure(binding_, panel.Result[gear], parent, speed), row, kResult);
-    grid.addWidget(MakeRevs(binding_, panel.RPM[gear], parent), row, kBefore);
+    grid.addWidget(MakeSlider(binding_, panel.InputSlider[gear], name, parent, mode), row, kSlider);
+
+    const WidestOf widest =
+        mode == 0 ? WidestTexts(&UnitState::Speed, kWidestSpeed) : WidestOf{QStringLiteral("88.888")};
+    ValueLabel* const result = addFigure(MakeFigure(binding_, panel.Result[gear], parent, widest), kResult);
+    ValueLabel* const before = addFigure(MakeRevs(binding_, panel.RPM[gear], parent), kBefore);
     // The engine speed after the change out of this gear; the car's top gear has none.
-    if (gear < 6) grid.addWidget(MakeRevs(binding_, panel.RAC[gear], parent), row, kAfter);
-    grid.addWidget(MakeFigure(binding_, panel.Torque[gear], parent, WidestTexts(&UnitState::Torque, kWidestTorque)),
-                   row, kTorque);
+    if (gear < 6) {
+        ValueLabel* const after = addFigure(MakeRevs(binding_, panel.RAC[gear], parent), kAfter);
+        ExplainMark(binding_, panel.RAC[gear], *after, WhyBelowPeakTorque);
+    }
+    const WidestOf torque = WidestTexts(&UnitState::Torque, kWidestTorque);
+    addFigure(MakeFigure(binding_, panel.Torque[gear], parent, torque), kTorque)->SetMarkRoom(false);
+
+    ExplainMark(binding_, panel.RPM[gear], *before, WhyAboveRevLimit);
+    if (mode == 0) {
+        ExplainMark(binding_, panel.Result[gear], *result, WhyAboveTopSpeed);
+    } else {
+        ExplainMark(binding_, panel.Result[gear], *result, [gear] { return WhyRatioIsMarked(gear); });
+        ExplainMark(binding_, panel.Input[gear], *shown.box, WhyAboveTopSpeed);
+    }
+    AddSentence(grid, row, shown);
+}
+
+/// Where the figures of a gear in the wrong order stand, the sentence that says so. It takes no room of its own.
+void GearingPageView::AddSentence(QGridLayout& grid, int row, GearRow& shown) {
+    auto* const sentence = new QLabel(grid.parentWidget());
+    sentence->setObjectName(QStringLiteral("OrderSentence"));
+    sentence->setWordWrap(true);
+    sentence->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    sentence->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    QFont font = sentence->font();
+    font.setPointSizeF(font.pointSizeF() * 0.9);
+    sentence->setFont(font);
+    QPalette ink;
+    ink.setColor(QPalette::WindowText, FaultColour(palette()));
+    sentence->setPalette(ink);
+    sentence->hide();
+    grid.addWidget(sentence, row, kResult, 1, kTorque - kResult + 1);
+    shown.sentence = sentence;
 }
 
 void GearingPageView::AddReverse(QGridLayout& grid, int mode) {
@@ -173,11 +272,17 @@ void GearingPageView::AddReverse(QGridLayout& grid, int mode) {
     const int speed = mode == 0 ? kResult : kInput;
     grid.addWidget(MakeWords(binding_, PanelLabel(mode, 14), parent), row, kName);
     ValueLabel* const reverseRatio = MakeFigure(binding_, panel.GearR, parent);
-    if (ratio == kInput) reverseRatio->setFixedWidth(BoxWidth(*reverseRatio));
+    if (ratio == kInput) reverseRatio->setFixedWidth(BoxWidth(*reverseRatio, mode));
     grid.addWidget(reverseRatio, row, ratio);
-    grid.addWidget(MakeFigure(binding_, panel.SpeedR, parent), row, speed, 1, speed == kInput ? 2 : 1);
-    grid.addWidget(MakeRevs(binding_, panel.RPMR, parent), row, kBefore);
-    grid.addWidget(MakeFigure(binding_, panel.TorqueR, parent), row, kTorque);
+    ValueLabel* const reverseSpeed = MakeFigure(binding_, panel.SpeedR, parent);
+    ExplainMark(binding_, panel.SpeedR, *reverseSpeed, WhyAboveTopSpeed);
+    grid.addWidget(reverseSpeed, row, speed, 1, speed == kInput ? 2 : 1);
+    ValueLabel* const revs = MakeRevs(binding_, panel.RPMR, parent);
+    grid.addWidget(revs, row, kBefore);
+    ValueLabel* const torque = MakeFigure(binding_, panel.TorqueR, parent);
+    torque->SetMarkRoom(false);
+    grid.addWidget(torque, row, kTorque);
+    for (ValueLabel* figure : {reverseSpeed, revs, torque}) others_.push_back(figure);
 }
 
 void GearingPageView::AddFinalDrive(QGridLayout& grid, int mode) {
@@ -186,31 +291,39 @@ void GearingPageView::AddFinalDrive(QGridLayout& grid, int mode) {
     Label& name = PanelLabel(mode, 0);
     const int row = NextRow(grid);
     grid.addWidget(MakeWords(binding_, name, parent), row, kName);
-    grid.addWidget(MakeBox(binding_, panel.FinalDrive, name, parent), row, kInput);
-    grid.addWidget(MakeSlider(binding_, panel.FinalDriveSlider, name, parent), row, kSlider, 1, 3);
+    grid.addWidget(MakeBox(binding_, panel.FinalDrive, name, parent, mode), row, kInput);
+    grid.addWidget(MakeSlider(binding_, panel.FinalDriveSlider, name, parent, mode), row, kSlider, 1, 3);
 }
 
 QWidget* GearingPageView::MakeAcceleration() {
     QGroupBox* const group = MakeGroup(binding_, Zolv.ShowAcc, this);
     auto* const grid = new QGridLayout(group);
-    grid->setHorizontalSpacing(kMargin);
+    SetGroupMargins(*grid);
+    grid->setHorizontalSpacing(kGap);
     grid->setVerticalSpacing(kGap / 2);
     const WidestOf speed = WidestTexts(&UnitState::Speed, kWidestSpeed);
     WidestOf speedAt;
     for (const QString& text : speed) speedAt.push_back(QStringLiteral("@ ") + text);
 
+    const auto addFigure = [&](int number, int row, int column, int columns, const WidestOf& widest) {
+        ValueLabel* const figure = MakeFigure(binding_, Zolv.AccDataLabel[number], group, widest);
+        grid->addWidget(figure, row, column, 1, columns);
+        others_.push_back(figure);
+        return figure;
+    };
+
     // Times to speeds on the left, distances and the top speed on the right.
     for (int i = 0; i < 5; ++i) {
         grid->addWidget(MakeWords(binding_, Zolv.GearingLabel[30 + i], group), i, 0);
-        grid->addWidget(MakeFigure(binding_, Zolv.AccDataLabel[i], group, {kWidestTime}), i, 1);
+        addFigure(i, i, 1, 1, {kWidestTime});
     }
     for (int i = 0; i < 2; ++i) {
         grid->addWidget(MakeWords(binding_, Zolv.GearingLabel[36 + i], group), i, 3);
-        grid->addWidget(MakeFigure(binding_, Zolv.AccDataLabel[6 + 2 * i], group, {kWidestTime}), i, 4);
-        grid->addWidget(MakeFigure(binding_, Zolv.AccDataLabel[7 + 2 * i], group, speedAt), i, 5);
+        addFigure(6 + 2 * i, i, 4, 1, {kWidestTime});
+        addFigure(7 + 2 * i, i, 5, 1, speedAt);
     }
     grid->addWidget(MakeWords(binding_, Zolv.GearingLabel[35], group), 2, 3);
-    grid->addWidget(MakeFigure(binding_, Zolv.AccDataLabel[5], group, speed), 2, 4, 1, 2);
+    ExplainMark(binding_, Zolv.AccDataLabel[5], *addFigure(5, 2, 4, 2, speed), WhyStillGaining);
     grid->setColumnMinimumWidth(2, kSection);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(3, 1);
@@ -224,7 +337,21 @@ QWidget* GearingPageView::MakeChoices() {
     row->setSpacing(kGap);
     row->addWidget(MakeWords(binding_, Zolv.GearingLabel[39], choices));
     row->addWidget(MakeList(binding_, Zolv.Select_Graphs, Zolv.GearingLabel[39], choices), 1);
+    row->addWidget(MakeExport(choices));
     return choices;
+}
+
+/// The button is there while the table is.
+QWidget* GearingPageView::MakeExport(QWidget* parent) {
+    auto* const button = new QPushButton(parent);
+    button->setObjectName(QStringLiteral("ExportRun"));
+    connect(button, &QPushButton::clicked, this, [this] { binding_.Act([] { ExportRun(words["ExportRunTitle"]); }); });
+    binding_.OnChanged(Zolv.GearingLabel[39], [button] {
+        button->setText(ToQt(words["ExportRun"]));
+        button->setAccessibleName(button->text());
+    });
+    binding_.OnChanged(Zolv.AccelerationData, [button] { button->setVisible(Zolv.AccelerationData.Visible()); });
+    return button;
 }
 
 QWidget* GearingPageView::MakePlots() {
@@ -236,11 +363,39 @@ QWidget* GearingPageView::MakePlots() {
         auto* const view = new CanvasView(*field, CanvasView::Shape::Stretched, plots);
         column->addWidget(view, 1);
         binding_.Bind(*field, *view);
+        if (field != &Zolv.TorquePlot) plots_.push_back(view);  // that one has the report
     }
-    auto* const table = new RunTable(Zolv.AccelerationData, plots);
-    column->addWidget(table, 1);
-    binding_.Bind(Zolv.AccelerationData, *table, &Zolv.GearingLabel[39]);
+    table_ = new RunTable(plots);
+    column->addWidget(table_, 1);
+    binding_.Bind(Zolv.AccelerationData, *table_, &Zolv.GearingLabel[39]);
     return plots;
+}
+
+/// While the gears are in the wrong order: the rows at fault are marked and say why, and what is older than the inputs
+/// is greyed.
+void GearingPageView::ShowOrder() {
+    const bool older = !gearing.WrongOrder.empty();
+    const int inForce = gearing.RatiosMode ? 0 : 1;
+    for (int mode = 0; mode < 2; ++mode) {
+        for (int gear = 1; gear <= kGears; ++gear) ShowOrderOf(mode, gear, older && mode == inForce);
+    }
+    for (ValueLabel* figure : others_) figure->SetStanding(older ? FigureStanding::Older : FigureStanding::Follows);
+    for (QWidget* plot : plots_) Fade(*plot, older);
+    table_->SetGreyed(older);
+}
+
+void GearingPageView::ShowOrderOf(int mode, int gear, bool older) {
+    const GearRow& row = rows_[mode][gear];
+    const bool faulty = older && std::ranges::find(gearing.WrongOrder, gear - 1) != gearing.WrongOrder.end();
+    FigureStanding standing = FigureStanding::Follows;
+    if (older) standing = faulty ? FigureStanding::NotShown : FigureStanding::Older;
+    for (ValueLabel* figure : row.figures) figure->SetStanding(standing);
+    row.sentence->setVisible(faulty);
+    if (faulty) row.sentence->setText(ToQt(OrderSentence(OrderWordsOf(gearing.From()), gear - 1)));
+    if (row.box->property(kFaultyProperty).toBool() == faulty) return;
+    row.box->setProperty(kFaultyProperty, faulty);
+    row.box->setAccessibleDescription(faulty ? row.sentence->text() : QString());
+    row.box->update();
 }
 
 }  // namespace zolv

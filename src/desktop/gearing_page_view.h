@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
 #include "desktop/binding.h"
 
@@ -21,12 +22,29 @@ private:
     void AddTitles(QGridLayout& grid, int mode);
     void AddFinalDrive(QGridLayout& grid, int mode);
     void AddGear(QGridLayout& grid, int mode, int gear);
+    void AddGearName(QGridLayout& grid, int row, Label& name, int gear);
     void AddReverse(QGridLayout& grid, int mode);
     QWidget* MakeAcceleration();
     QWidget* MakeChoices();
+    QWidget* MakeExport(QWidget* parent);
     QWidget* MakePlots();
 
+    void ShowOrder();
+    void ShowOrderOf(int mode, int gear, bool older);
+
+    /// What is seen of a gear in one direction.
+    struct GearRow {
+        QLineEdit* box = nullptr;
+        std::vector<ValueLabel*> figures;
+        QLabel* sentence = nullptr;  // in place of the figures while the gear is in the wrong order
+    };
+    void AddSentence(QGridLayout& grid, int row, GearRow& shown);
+
     Binding& binding_;
+    GearRow rows_[2][7];               // by direction and gear
+    std::vector<ValueLabel*> others_;  // figures that follow from all gears
+    std::vector<QWidget*> plots_;
+    RunTable* table_ = nullptr;
 };
 
 }  // namespace zolv

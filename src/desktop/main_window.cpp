@@ -18,6 +18,7 @@
 #include "desktop/aero_page_view.h"
 #include "desktop/gearing_page_view.h"
 #include "desktop/info_page_view.h"
+#include "desktop/order_fault.h"
 #include "desktop/page_parts.h"
 #include "desktop/picture_view.h"
 #include "desktop/texts_of_qt.h"
@@ -119,6 +120,7 @@ QWidget* MainWindow::MakePages() {
     }
     binding_.BindStack(*stack, panels);
     binding_.Bind(Zolv.Select_Page, *tabs);
+    new OrderFaultLine(binding_, *tabs);
     return pages;
 }
 

@@ -4,10 +4,11 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QSlider>
-#include <QStyleOptionGroupBox>
-#include <QStylePainter>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
 
+#include "desktop/state_mark.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
@@ -19,21 +20,15 @@ namespace {
 constexpr int kRowGap = 6;           // between the lines of a table
 constexpr int kShortestSlider = 96;  // still moves by a few units a pixel
 
-/// A frame whose caption alone is bold: a bold font of the box would go on to all that stands in it.
+/// The caption is bold, and no group is narrower than that.
 class Group : public QGroupBox {
 public:
     using QGroupBox::QGroupBox;
 
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QStyleOptionGroupBox option;
-        initStyleOption(&option);
+    QSize minimumSizeHint() const override {
         QFont bold = font();
         bold.setBold(true);
-        option.fontMetrics = QFontMetrics(bold);
-        QStylePainter painter(this);
-        painter.setFont(bold);
-        painter.drawComplexControl(QStyle::CC_GroupBox, option);
+        return QGroupBox::minimumSizeHint().expandedTo({QFontMetrics(bold).horizontalAdvance(title()), 0});
     }
 };
 
@@ -58,6 +53,23 @@ QLabel* MakeWords(Binding& binding, Label& field, QWidget* parent) {
     return label;
 }
 
+QLabel* MakeColumnTitle(Binding& binding, Label& field, QWidget* parent) {
+    QLabel* const title = MakeTitle(binding, field, parent);
+    title->setWordWrap(true);
+    binding.OnChanged(field, [title] {
+        constexpr int kNarrowestColumn = 70;
+        constexpr int kAnyHeight = 1000;
+        const QFontMetrics metrics = title->fontMetrics();
+        int widest = 0;
+        for (const QString& word : title->text().split(QLatin1Char(' '))) {
+            widest = std::max(widest, metrics.horizontalAdvance(word));
+        }
+        const QRect column(0, 0, std::max(widest, kNarrowestColumn), kAnyHeight);
+        title->setMinimumSize(widest + 2, metrics.boundingRect(column, Qt::TextWordWrap, title->text()).height());
+    });
+    return title;
+}
+
 QLabel* MakeTitle(Binding& binding, Label& field, QWidget* parent) {
     QLabel* const label = MakeWords(binding, field, parent);
     QFont font = label->font();
@@ -73,13 +85,24 @@ ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const Wi
     return label;
 }
 
+void ExplainMark(Binding& binding, const Field& field, QWidget& widget, std::function<std::string()> reason) {
+    const auto explain = [&field, &widget, reason = std::move(reason)] {
+        const QString why = HasMark(field.Colour()) ? ToQt(reason()) : QString();
+        widget.setToolTip(why.isEmpty() ? ToQt(field.ToolTip()) : why);
+        widget.setAccessibleDescription(why);
+    };
+    binding.OnChanged(field, explain);
+    // A limit can move and leave the figure as it is. The plot is drawn anew with each calculation.
+    binding.OnChanged(Zolv.TorquePlot, explain);
+}
+
 QGroupBox* MakeGroup(Binding& binding, Panel& field, QWidget* parent) {
     QGroupBox* const box = new Group(parent);
     binding.Bind(field, *box);
     return box;
 }
 
-void SetGroupMargins(QLayout& layout) { layout.setContentsMargins(kMargin, kGap, kMargin, kGap); }
+void SetGroupMargins(QLayout& layout) { layout.setContentsMargins(0, kGap / 2, 0, 0); }
 
 QGridLayout* MakeRows(QWidget* owner) {
     auto* const column = new QVBoxLayout(owner);

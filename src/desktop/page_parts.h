@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "desktop/binding.h"
@@ -33,10 +35,17 @@ QLabel* MakeWords(Binding& binding, Label& field, QWidget* parent);
 /// Words in bold, for the title of a column or a drawing.
 QLabel* MakeTitle(Binding& binding, Label& field, QWidget* parent);
 
+/// The title of a narrow column: it breaks between its words.
+QLabel* MakeColumnTitle(Binding& binding, Label& field, QWidget* parent);
+
 /// A figure, right-aligned, with room for `widest`.
 ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const WidestOf& widest = {});
 
-/// A frame with a bold caption in which the fields of a panel stand.
+/// While `field` has the colour of a state, tells why: in the widget's tool tip and to a screen reader.
+/// @param widget  the one that the field is bound to
+void ExplainMark(Binding& binding, const Field& field, QWidget& widget, std::function<std::string()> reason);
+
+/// A bold caption over a thin rule, and below it the fields of a panel.
 QGroupBox* MakeGroup(Binding& binding, Panel& field, QWidget* parent);
 
 /// Sets a group's margins on its layout.

@@ -1,30 +1,59 @@
 #pragma once
 
-#include <QPlainTextEdit>
-
-#include "fields/kinds.h"
+#include <QAbstractTableModel>
+#include <QTableView>
+#include <vector>
 
 namespace zolv {
 
-/// Shows the table of an acceleration run: the rows of a text box, whose columns are told apart by tabs, under their
-/// titles. It can be selected and copied. The text is taken over only while the table is in view, so that one that is
-/// hidden costs nothing; caret and scroll position stay where the reader put them.
-class RunTable : public QPlainTextEdit {
+/// The rows of the present acceleration run. It holds none itself: a cell is asked for when it comes into view.
+class RunModel : public QAbstractTableModel {
 public:
-    explicit RunTable(const TextBox& field, QWidget* parent = nullptr);
+    using QAbstractTableModel::QAbstractTableModel;
 
-    /// The field holds another text.
+    /// The run, its units or its words have changed.
+    void Refresh();
+
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    int rows_ = 0;
+};
+
+/// Shows the table of an acceleration run under a head that stays: units in the head, bare numbers below, the rows in
+/// which the gear changes tinted. A selection is copied as numbers, with tabs between them. A run is taken over only
+/// while the table is in view, so that one that is hidden costs nothing; selection and scroll position stay where the
+/// reader put them.
+class RunTable : public QTableView {
+public:
+    explicit RunTable(QWidget* parent = nullptr);
+
+    /// There is another run.
     void SetStale();
+
+    /// The figures no longer follow from what is set: they are greyed.
+    void SetGreyed(bool greyed);
+
+    /// Puts the selected numbers into the clipboard, a line for each row.
+    void Copy() const;
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void Fill();
-    void SetTabStops(const QString& text);
+    void MeasureColumns();
+    void SpreadColumns();
 
-    const TextBox& field_;
+    RunModel model_;
+    std::vector<int> narrowest_;  // width of each column, in pixels
     bool stale_ = true;
 };
 

@@ -20,8 +20,10 @@ ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent) {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
-    setContentsMargins(kMarkRoom, 0, 0, 0);
+    SetMarkRoom(true);
 }
+
+void ValueLabel::SetMarkRoom(bool room) { setContentsMargins(room ? kMarkRoom : 0, 0, 0, 0); }
 
 void ValueLabel::ReserveFor(const std::vector<QString>& widest) {
     reserved_ = widest;
@@ -35,23 +37,34 @@ void ValueLabel::SetState(std::optional<Rgb> colour) {
     update();
 }
 
+void ValueLabel::SetStanding(FigureStanding standing) {
+    if (standing_ == standing) return;
+    standing_ = standing;
+    ApplyColour();
+    update();
+}
+
 void ValueLabel::ApplyColour() {
+    const QPalette ground = parentWidget() != nullptr ? parentWidget()->palette() : palette();
     QPalette colours;
-    colours.setColor(QPalette::WindowText, TextColour(state_, parentWidget() ? parentWidget()->palette() : palette()));
+    colours.setColor(QPalette::WindowText, standing_ == FigureStanding::Older
+                                               ? ground.color(QPalette::Disabled, QPalette::WindowText)
+                                               : TextColour(state_, ground));
     setPalette(colours);
 }
 
 QSize ValueLabel::sizeHint() const {
     QSize size = QLabel::sizeHint();
     for (const QString& text : reserved_) {
-        size.setWidth(std::max(size.width(), fontMetrics().horizontalAdvance(text) + kMarkRoom + 2));
+        size.setWidth(std::max(size.width(), fontMetrics().horizontalAdvance(text) + contentsMargins().left() + 2));
     }
     return size;
 }
 
 void ValueLabel::paintEvent(QPaintEvent* event) {
+    if (standing_ == FigureStanding::NotShown) return;
     QLabel::paintEvent(event);
-    if (!HasMark(state_)) return;
+    if (!HasMark(state_) || standing_ == FigureStanding::Older) return;
     const int textWidth = fontMetrics().horizontalAdvance(text());
     const double x = std::max(0, width() - textWidth - kMarkRoom);
     QPainter painter(this);

@@ -22,10 +22,7 @@ void ReportOrder(const OrderWords& words, std::span<const int> wrong) {
     plot.SetInk(kRed);
     plot.Print(words.notUpdated + kLineBreak + texts.TextBecauseOfThe + ' ' +
                NumberText(static_cast<int>(wrong.size())) + ' ' + texts.TextErrors + kLineBreak);
-    for (const int gear : wrong) {
-        plot.Print(words.theNumberFor + ' ' + GearName(gear + 1) + ' ' + words.isWrongAgainst + ' ' + GearName(gear) +
-                   kLineBreak);
-    }
+    for (const int gear : wrong) plot.Print(OrderSentence(words, gear) + kLineBreak);
     plot.SetInk(kBlack);
     if (Zolv.Select_Graphs.Text() != texts.GraphNames[0]) Zolv.Select_Graphs.SetText(texts.GraphNames[0]);
 }
@@ -63,6 +60,10 @@ OrderWords OrderWordsOf(Direction direction) {
         return {texts.TextSpeedsNotUpdated, texts.TextRatioFor, texts.TextCannotBeShorter};
     }
     return {texts.TextRatiosNotUpdated, texts.TextSpeedFor, texts.TextCannotBeLess};
+}
+
+std::string OrderSentence(const OrderWords& words, int gear) {
+    return words.theNumberFor + ' ' + GearName(gear + 1) + ' ' + words.isWrongAgainst + ' ' + GearName(gear);
 }
 
 bool CheckOrder(const ByGear& given, Direction direction) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "fields/zolv_window.h"
 #include "gearing/gearing_state.h"
 
@@ -40,6 +42,10 @@ struct OrderWords {
     const std::string& isWrongAgainst;
 };
 [[nodiscard]] OrderWords OrderWordsOf(Direction direction);
+
+/// "The ratio for 2nd cannot be shorter than the ratio for 1st".
+/// @param gear  one whose next gear is out of order
+[[nodiscard]] std::string OrderSentence(const OrderWords& words, int gear);
 
 /// Red or blue for a state that wants attention; otherwise the system's own.
 inline std::optional<Rgb> ColourIf(bool condition, Rgb colour) {

@@ -29,7 +29,6 @@ void ReadSpeeds() {
 
 /// Limits are no errors: a ratio beyond the sliders' range is red, one above that of the gear below it blue.
 std::optional<Rgb> RatioColour(const ByGear& ratios, int gear) {
-    constexpr double kLowestRatio = 0.5;
     if (ratios[gear] > kHighestRatio) return kRed;
     if (gear > 1 && ratios[gear] > ratios[gear - 1]) return kBlue;
     return ColourIf(ratios[gear] < kLowestRatio, kRed);

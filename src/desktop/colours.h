@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <optional>
+
+#include "drawing/colour.h"
+
+/// Colours that follow from a palette, so that they suit its theme.
+namespace zolv {
+
+/// Whether `palette` is a dark one.
+bool IsDark(const QPalette& palette);
+
+/// A field's colour as text on this palette: black is the ordinary text, the others keep their hue and are light enough
+/// on a dark ground and dark enough on a light one.
+QColor TextColour(std::optional<Rgb> colour, const QPalette& palette);
+
+/// The colour of a gear as a tint of a ground, 0 for none of it to 1 for all of it.
+/// @param gear  1 to 6
+QColor GearTint(int gear, double share, const QPalette& palette);
+
+/// A field's colour on a canvas, which is white in every theme.
+QColor InkColour(Rgb colour);
+
+/// What stands for a fault that the user is to mend: the frame of a box, the ground of a line of words.
+QColor FaultColour(const QPalette& palette);
+
+/// Between two colours: `share` of the first, the rest of the second.
+QColor Blend(const QColor& over, const QColor& under, double share);
+
+}  // namespace zolv

@@ -1,0 +1,94 @@
+#include "desktop/order_fault.h"
+
+#include <QEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QTabBar>
+#include <algorithm>
+#include <functional>
+
+#include "desktop/binding.h"
+#include "desktop/texts_of_qt.h"
+#include "desktop/theme.h"
+#include "fields/windows.h"
+#include "gearing/gearing_common.h"
+#include "gearing/gearing_state.h"
+
+namespace zolv {
+namespace {
+
+constexpr int kGearingPage = 1;
+
+/// "Speeds have NOT been updated: The ratio for 2nd cannot be shorter than the ratio for 1st".
+QString Headline() {
+    const OrderWords said = OrderWordsOf(gearing.From());
+    return ToQt(said.notUpdated + ": " + OrderSentence(said, gearing.WrongOrder.front()));
+}
+
+}  // namespace
+
+void OnOrderChanged(Binding& binding, const std::function<void()>& paint) {
+    // The report goes onto this plot, and so does the first drawing that is right again.
+    binding.OnChanged(Zolv.TorquePlot, paint);
+    for (Panel* page : {&Zolv.Ratios.Frame, &Zolv.Speeds.Frame}) binding.OnChanged(*page, paint);
+}
+
+OrderFaultLine::OrderFaultLine(Binding& binding, QTabBar& tabs) : QPushButton(&tabs), binding_(binding), tabs_(tabs) {
+    setObjectName(QStringLiteral("OrderFault"));
+    setCursor(Qt::PointingHandCursor);
+    tabs.installEventFilter(this);
+    connect(this, &QPushButton::clicked, this, [this] { LeadThere(); });
+    OnOrderChanged(binding, [this] { Refresh(); });
+}
+
+void OrderFaultLine::Refresh() {
+    const bool faulty = !gearing.WrongOrder.empty();
+    setVisible(faulty);
+    if (!faulty) return;
+    setText(Headline());
+    setToolTip(text());
+    setAccessibleName(text());
+    Place();
+}
+
+/// Right of the last tab, as wide as its words or as there is room.
+void OrderFaultLine::Place() {
+    const int left = tabs_.count() == 0 ? 0 : tabs_.tabRect(tabs_.count() - 1).right() + kSection;
+    const int width = std::min(sizeHint().width(), tabs_.width() - left - kMargin);
+    const int height = std::min(sizeHint().height(), tabs_.height());
+    setGeometry(tabs_.width() - kMargin - width, (tabs_.height() - height) / 2, std::max(width, 0), height);
+}
+
+bool OrderFaultLine::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) Place();
+    return QPushButton::eventFilter(watched, event);
+}
+
+QSize OrderFaultLine::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(text()) + 2 * kMargin, fontMetrics().height() + kGap};
+}
+
+void OrderFaultLine::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = FaultColour(palette());
+    painter.setPen(QPen(ink, hasFocus() ? 2 : 1));
+    painter.setBrush(Blend(ink, palette().color(QPalette::Window), underMouse() ? 0.16 : 0.08));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    const QRect room = rect().adjusted(kMargin, 0, -kMargin, 0);
+    painter.setPen(ink);
+    painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+}
+
+void OrderFaultLine::LeadThere() {
+    const int gear = gearing.WrongOrder.front() + 1;
+    const Field& box = Zolv.GearingOf(gearing.RatiosMode ? 0 : 1).Input[gear];
+    binding_.Act([] { Zolv.Select_Page.Pick(kGearingPage); });
+    if (auto* const edit = window()->findChild<QLineEdit*>(ToQt(box.Name()))) {
+        edit->setFocus(Qt::OtherFocusReason);
+        edit->selectAll();
+    }
+}
+
+}  // namespace zolv

@@ -1,5 +1,6 @@
 #include "aero/aero_page.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -59,9 +60,11 @@ void ShowTotals() {
     Zolv.Aero_TotalFriction.SetCaption(units.Force.Text(aero.Forces.TotalFriction));
 }
 
-/// The balance of the lift against that of the weight: within half a per cent either side counts as neutral.
+/// What counts as neutral, either side of the weight's distribution.
+constexpr double kNeutralBand = 0.005;
+
+/// The balance of the lift against that of the weight.
 AirBalance BalanceOf(double share, double weightDist) {
-    constexpr double kNeutralBand = 0.005;
     if (share == 0 || !std::isfinite(share)) return AirBalance::None;
     if (share < weightDist - kNeutralBand) return AirBalance::Understeer;
     return share > weightDist + kNeutralBand ? AirBalance::Oversteer : AirBalance::Neutral;
@@ -161,6 +164,15 @@ void CalcAeroForces() {
     aero.FrontWheelForce = air.FrontWheelForce;
     aero.RearWheelForce = air.RearWheelForce;
     ShowAeroPage(air);
+}
+
+BalanceMarks PresentBalanceMarks() {
+    constexpr double kReach = 0.1;
+    const auto onBar = [](double fromWeight) { return std::clamp(0.5 + fromWeight / (2 * kReach), 0.0, 1.0); };
+    BalanceMarks marks{.BandFrom = onBar(-kNeutralBand), .BandTo = onBar(kNeutralBand)};
+    if (aero.Balance == AirBalance::None) return marks;
+    marks.Here = onBar(aero.AeroDistribution - static_cast<double>(vehicle.CurrentCar.WeightDist));
+    return marks;
 }
 
 void ShowAeroWords() {

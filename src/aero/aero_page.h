@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 namespace zolv {
 
 /// Takes the coefficients of the fittings at their present angles and finds the top speed. Unless the program is
@@ -15,6 +17,14 @@ void FindTopSpeed();
 /// Reads:  Select_AeroSpeed in slider mode, aero, vehicle.CurrentCar, units
 /// Writes: aero, the figures of the aerodynamics page
 void CalcAeroForces();
+
+/// Where the marks of a bar of the balance stand, as shares of its length: the middle is the weight's own distribution,
+/// and each end lies a tenth of the weight away from it. What lies further stands at the end.
+struct BalanceMarks {
+    double BandFrom = 0, BandTo = 0;  // what counts as neutral
+    std::optional<double> Here = {};  // the lift's distribution; none without lift on the front axle
+};
+[[nodiscard]] BalanceMarks PresentBalanceMarks();
 
 /// The language has changed: writes the words among the page's figures anew and calculates nothing.
 void ShowAeroWords();

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "desktop/balance_bar.h"
 #include "desktop/page_parts.h"
 #include "desktop/theme.h"
 #include "fields/windows.h"
@@ -29,8 +30,7 @@ QWidget* MakeSpeedChoice(Binding& binding, QWidget* parent) {
 
 void FillSliders(Binding& binding, QGridLayout& grid) {
     const WidestOf angle{QStringLiteral("28 degrees")};
-    AddSliderRow(binding, grid,
-                 {Zolv.AeroLabel[0], Zolv.Select_AeroSpeed, Zolv.AeroSpeed, WidestTexts(&UnitState::Speed, 188.8)});
+    AddAirSpeedRow(binding, grid, NextRow(grid), 0, {Zolv.AeroLabel[0], Zolv.Select_AeroSpeed, Zolv.AeroSpeed});
     AddSliderRow(binding, grid, {Zolv.AeroLabel[1], Zolv.Select_FrontWingAngle, Zolv.WingAngleFront, angle});
     AddSliderRow(binding, grid, {Zolv.AeroLabel[2], Zolv.Select_RearWingAngle, Zolv.WingAngleRear, angle});
 }
@@ -57,59 +57,66 @@ WidestOf WidestForce() { return WidestTexts(&UnitState::Force, -18888); }
 WidestOf WidestSplit() { return {QStringLiteral("-88.8% / 188.8%")}; }
 
 QWidget* MakeTotals(Binding& binding, QWidget* parent) {
-    auto& words = Zolv.AeroLabel;
+    auto& labels = Zolv.AeroLabel;
     return MakeFigures(binding, 1,
-                       {{words[3], Zolv.Aero_TotalDrag, WidestForce()},
-                        {words[4], Zolv.Aero_TotalLift},
-                        {words[5], Zolv.Aero_TotalLDR},
-                        {words[6], Zolv.Aero_RR},
-                        {words[7], Zolv.Aero_DragSplit, {QStringLiteral("88% / 100%")}},
-                        {words[8], Zolv.Aero_TotalFriction}},
+                       {{labels[3], Zolv.Aero_TotalDrag, WidestForce()},
+                        {labels[4], Zolv.Aero_TotalLift},
+                        {labels[5], Zolv.Aero_TotalLDR},
+                        {labels[6], Zolv.Aero_RR},
+                        {labels[7], Zolv.Aero_DragSplit, {QStringLiteral("88% / 100%")}},
+                        {labels[8], Zolv.Aero_TotalFriction}},
                        parent);
 }
 
 QWidget* MakeMisc(Binding& binding, QWidget* parent) {
-    auto& words = Zolv.AeroLabel;
+    auto& labels = Zolv.AeroLabel;
     return MakeFigures(binding, 2,
-                       {{words[9], Zolv.Aero_TopSpeed, WidestTexts(&UnitState::Speed, 188.8)},
-                        {words[10], Zolv.Aero_AirTemp},
-                        {words[11], Zolv.Aero_AirDensity}},
+                       {{labels[9], Zolv.Aero_TopSpeed, WidestTexts(&UnitState::Speed, 188.8)},
+                        {labels[10], Zolv.Aero_AirTemp},
+                        {labels[11], Zolv.Aero_AirDensity}},
                        parent);
 }
 
 QWidget* MakeBody(Binding& binding, QWidget* parent) {
-    auto& words = Zolv.AeroLabel;
+    auto& labels = Zolv.AeroLabel;
     return MakeFigures(binding, 3,
-                       {{words[12], Zolv.Aero_BodyCd},
-                        {words[13], Zolv.Aero_BodyCl},
-                        {words[14], Zolv.Aero_FrontalArea, WidestTexts(&UnitState::Area, 2.888)},
-                        {words[15], Zolv.Aero_BodyCdA},
-                        {words[16], Zolv.Aero_BodyAirDrag, WidestForce()},
-                        {words[17], Zolv.Aero_BodyLift},
-                        {words[18], Zolv.Aero_BodyLDR}},
+                       {{labels[12], Zolv.Aero_BodyCd},
+                        {labels[13], Zolv.Aero_BodyCl},
+                        {labels[14], Zolv.Aero_FrontalArea, WidestTexts(&UnitState::Area, 2.888)},
+                        {labels[15], Zolv.Aero_BodyCdA},
+                        {labels[16], Zolv.Aero_BodyAirDrag, WidestForce()},
+                        {labels[17], Zolv.Aero_BodyLift},
+                        {labels[18], Zolv.Aero_BodyLDR}},
                        parent);
 }
 
 QWidget* MakeForces(Binding& binding, QWidget* parent) {
-    auto& words = Zolv.AeroLabel;
-    return MakeFigures(binding, 4,
-                       {{words[20], Zolv.Aero_ForceFrontWheels, WidestForce()},
-                        {words[21], Zolv.Aero_ForceRearWheels},
-                        {words[22], Zolv.Aero_ForceDistribution},
-                        {words[23], Zolv.Aero_AeroDistribution, WidestSplit()},
-                        {words[19], Zolv.Aero_WeightMultiple}},
-                       parent);
+    auto& labels = Zolv.AeroLabel;
+    QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[4], parent);
+    QGridLayout& grid = *MakeRows(box);
+    AddFigureRows(binding, grid,
+                  {{labels[20], Zolv.Aero_ForceFrontWheels, WidestForce()},
+                   {labels[21], Zolv.Aero_ForceRearWheels},
+                   {labels[22], Zolv.Aero_ForceDistribution},
+                   {labels[23], Zolv.Aero_AeroDistribution, WidestSplit()}});
+    auto* const bar = new BalanceBar(box);
+    grid.addWidget(bar, NextRow(grid), 0, 1, 2);
+    for (const Field* field : {&Zolv.Aero_AeroDistribution, &Zolv.Aero_ForceDistribution, &labels[23]}) {
+        binding.OnChanged(*field, [bar] { bar->Refresh(); });
+    }
+    AddFigureRows(binding, grid, {{labels[19], Zolv.Aero_WeightMultiple}});
+    return box;
 }
 
 /// The undertray or a wing; `firstWords` is the first of its five labels.
 QWidget* MakeFitting(Binding& binding, int panel, int firstWords, FittingLabels& figures, QWidget* parent) {
-    auto& words = Zolv.AeroLabel;
+    auto& labels = Zolv.AeroLabel;
     return MakeFigures(binding, panel,
-                       {{words[firstWords], figures.CdA},
-                        {words[firstWords + 1], figures.ClA},
-                        {words[firstWords + 2], figures.Drag, WidestForce()},
-                        {words[firstWords + 3], figures.Lift},
-                        {words[firstWords + 4], figures.LDR}},
+                       {{labels[firstWords], figures.CdA},
+                        {labels[firstWords + 1], figures.ClA},
+                        {labels[firstWords + 2], figures.Drag, WidestForce()},
+                        {labels[firstWords + 3], figures.Lift},
+                        {labels[firstWords + 4], figures.LDR}},
                        parent);
 }
 

@@ -7,8 +7,8 @@
 namespace zolv {
 namespace {
 
-// Six colours that can be told apart with any colour blindness, dark enough for words on a light ground and light enough
-// for them on a dark one.
+// Six colours that can be told apart with any colour blindness, dark enough for words on a light ground and light
+// enough for them on a dark one.
 using SixColours = std::array<Rgb, 6>;
 constexpr SixColours kGearsOnLight{{{0x11, 0x11, 0xbb},
                                     {0x99, 0x55, 0x77},
@@ -24,7 +24,6 @@ constexpr SixColours kGearsOnDark{{{0x99, 0x88, 0xff},
                                    {0xbb, 0x99, 0x88}}};
 
 }  // namespace
-
 
 bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
 

@@ -126,26 +126,23 @@ QWidget* MakePlot(Binding& binding, QWidget* parent) {
     return view;
 }
 
+/// The figures, and what is left of their column.
 QLayout* MakeDescription(Binding& binding, QWidget* parent) {
     auto* const column = new QVBoxLayout;
     column->setSpacing(kSection);
     column->addWidget(MakeBody(binding, parent));
     column->addWidget(MakeEngine(binding, parent));
+    column->addWidget(MakeWheels(binding, parent));
     column->addWidget(MakeAbout(binding, parent), 1);
     return column;
 }
 
-/// Wheels and picture over the plot, which gets a little more of the height.
+/// The picture over the plot, which gets a little more of the height.
 QLayout* MakeViews(Binding& binding, QWidget* parent) {
-    auto* const top = new QHBoxLayout;
-    top->setSpacing(kSection);
-    top->addWidget(MakeWheels(binding, parent), 0, Qt::AlignTop);
-    top->addWidget(MakePicture(binding, parent), 1);
-
     auto* const column = new QVBoxLayout;
     column->setSpacing(kSection);
-    column->addLayout(top, 2);
-    column->addWidget(MakePlot(binding, parent), 3);
+    column->addWidget(MakePicture(binding, parent), 4);
+    column->addWidget(MakePlot(binding, parent), 5);
     return column;
 }
 

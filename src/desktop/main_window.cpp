@@ -25,6 +25,7 @@
 #include "desktop/theme.h"
 #include "desktop/tyres_page_view.h"
 #include "files/settings_file.h"
+#include "platform/dialogs.h"
 #include "shell/shell_state.h"
 
 namespace zolv {
@@ -43,6 +44,7 @@ QString SettingsFileIn(const QMimeData& data) {
 MainWindow::MainWindow(Binding& binding, QWidget* parent) : QMainWindow(parent), binding_(binding) {
     setAcceptDrops(true);
     MakeMenus();
+    AddAbout();
     auto* const centre = new QWidget(this);
     auto* const column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
@@ -122,6 +124,15 @@ QWidget* MainWindow::MakePages() {
     binding_.Bind(Zolv.Select_Page, *tabs);
     new OrderFaultLine(binding_, *tabs);
     return pages;
+}
+
+/// What the corner of the info page says, also where that has no room for it.
+void MainWindow::AddAbout() {
+    QMenu* const help = findChild<QAction*>(ToQt(Zolv.HelpMenu.Name()))->menu();
+    QAction* const about = help->addAction(QString(), this, [] { ShowMessage(Zolv.AboutZolv.Caption()); });
+    about->setObjectName(QStringLiteral("HelpAbout"));
+    about->setMenuRole(QAction::AboutRole);
+    binding_.OnChanged(Zolv.InfoPanel[2], [about] { about->setText(ToQt(Zolv.InfoPanel[2].Caption())); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -18,6 +18,7 @@ protected:
 
 private:
     void MakeMenus();
+    void AddAbout();
     QWidget* MakeHead();
     QWidget* MakePages();
 

@@ -4,8 +4,10 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QStackedWidget>
@@ -18,6 +20,8 @@
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
 #include "text/number_text.h"
+#include "text/words.h"
+#include "units/unit_systems.h"
 
 namespace zolv {
 namespace {
@@ -98,17 +102,40 @@ QWidget* OptionsWindow::MakeUnitsPage() {
     grid->setContentsMargins(0, kMargin, 0, 0);
     grid->setHorizontalSpacing(kMargin);
     grid->setVerticalSpacing(kGap);
-    int line = 0;
+    grid->addLayout(MakeSystems(page), 0, 0, 1, 3);
+    int line = 1;
     for (UnitChoice& unit : OptionsPanel.Units) {
-        Label& words = OptionsPanel.OptionsLabel[line];
-        grid->addWidget(MakeWords(Fields(), words, page), line, 0);
-        grid->addWidget(MakeList(unit.Select, page, words), line, 1);
+        Label& caption = OptionsPanel.OptionsLabel[line - 1];
+        grid->addWidget(MakeWords(Fields(), caption, page), line, 0);
+        grid->addWidget(MakeList(unit.Select, page, caption), line, 1);
         grid->addWidget(MakeWords(Fields(), unit.Caption, page), line, 2);
         ++line;
     }
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(line, 1);
     return page;
+}
+
+/// All units of a system in one click.
+QLayout* OptionsWindow::MakeSystems(QWidget* page) {
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, kGap);
+    row->setSpacing(kGap);
+    const auto add = [&](const char* name, UnitSystem system, const std::string& (*word)()) {
+        auto* const button = new QPushButton(page);
+        button->setObjectName(QLatin1String(name));
+        connect(button, &QPushButton::clicked, this,
+                [this, system] { Fields().Act([system] { PickUnitSystem(system); }); });
+        Fields().OnChanged(OptionsPanel.Title_Options, [button, word] {
+            button->setText(ToQt(word()));
+            button->setAccessibleName(button->text());
+        });
+        row->addWidget(button);
+    };
+    add("MetricUnits", UnitSystem::Metric, []() -> const std::string& { return words["MetricUnits"]; });
+    add("ImperialUnits", UnitSystem::Imperial, []() -> const std::string& { return words["ImperialUnits"]; });
+    row->addStretch(1);
+    return row;
 }
 
 QWidget* OptionsWindow::MakeGraphsPage() {
@@ -131,11 +158,11 @@ QGroupBox* OptionsWindow::MakePlotGroup(int plot) {
     return group;
 }
 
-void OptionsWindow::AddScaleRow(QGridLayout& grid, Label& words, ScaleChoice& scale) {
+void OptionsWindow::AddScaleRow(QGridLayout& grid, Label& caption, ScaleChoice& scale) {
     QWidget* const group = grid.parentWidget();
     const int line = NextRow(grid);
-    grid.addWidget(MakeWords(Fields(), words, group), line, 0);
-    auto* const slider = Make<QSlider>(scale.Select, group, &words);
+    grid.addWidget(MakeWords(Fields(), caption, group), line, 0);
+    auto* const slider = Make<QSlider>(scale.Select, group, &caption);
     slider->setFixedWidth(kSliderWidth);
     grid.addWidget(slider, line, 1);
     auto* const step = new ValueLabel(group);

@@ -4,6 +4,7 @@
 
 class QGridLayout;
 class QGroupBox;
+class QLayout;
 
 namespace zolv {
 
@@ -14,11 +15,12 @@ public:
 
 private:
     QWidget* MakeUnitsPage();
+    QLayout* MakeSystems(QWidget* page);
     QWidget* MakeGraphsPage();
     QWidget* MakeMiscPage();
     QGroupBox* MakePlotGroup(int plot);
     QGroupBox* MakeFixedRevsGroup();
-    void AddScaleRow(QGridLayout& grid, Label& words, ScaleChoice& scale);
+    void AddScaleRow(QGridLayout& grid, Label& caption, ScaleChoice& scale);
 };
 
 }  // namespace zolv

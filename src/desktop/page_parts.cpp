@@ -3,11 +3,13 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QSlider>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
+#include "aero/aero_state.h"
 #include "desktop/state_mark.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
@@ -131,7 +133,7 @@ void AddSliderRow(Binding& binding, QGridLayout& grid, const SliderRow& row) {
     PlaceSliderRow(binding, grid, NextRow(grid), 0, row);
 }
 
-void PlaceSliderRow(Binding& binding, QGridLayout& grid, int line, int column, const SliderRow& row) {
+QSlider* PlaceSliderRow(Binding& binding, QGridLayout& grid, int line, int column, const SliderRow& row) {
     QWidget* const parent = grid.parentWidget();
     auto* const slider = new QSlider(Qt::Horizontal, parent);
     slider->setMinimumWidth(kShortestSlider);
@@ -140,6 +142,24 @@ void PlaceSliderRow(Binding& binding, QGridLayout& grid, int line, int column, c
     grid.addWidget(slider, line, column + 1);
     grid.addWidget(MakeFigure(binding, row.value, parent, row.widest), line, column + 2);
     binding.Bind(row.slider, *slider, &row.words);
+    return slider;
+}
+
+void AddAirSpeedRow(Binding& binding, QGridLayout& grid, int line, int column, const SliderRow& row) {
+    SliderRow place = row;
+    place.widest = WidestTexts(&UnitState::Speed, 188.8);
+    QSlider* const slider = PlaceSliderRow(binding, grid, line, column, place);
+    auto* const figure = grid.itemAtPosition(line, column + 2)->widget();
+    const auto show = [&row = row.value, &field = row.slider, slider, label = static_cast<QLabel*>(figure)] {
+        const bool atTopSpeed = Zolv.UseFixedSpeed.Checked();
+        label->setText(ToQt(atTopSpeed ? Zolv.Aero_TopSpeed.Caption() : row.Caption()));
+        label->setAccessibleName(label->text());
+        const QSignalBlocker quiet(slider);
+        slider->setValue(atTopSpeed ? qRound(aero.TopSpeed) : field.Value());
+    };
+    const std::initializer_list<const Field*> follows{&row.value, &row.slider, &Zolv.UseFixedSpeed,
+                                                      &Zolv.Aero_TopSpeed};
+    for (const Field* field : follows) binding.OnChanged(*field, show);
 }
 
 }  // namespace zolv

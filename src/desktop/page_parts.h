@@ -78,7 +78,10 @@ struct SliderRow {
 void AddSliderRow(Binding& binding, QGridLayout& grid, const SliderRow& row);
 
 /// The same at a place of the caller's choice: name, slider and value in row `line` from `column` on.
-void PlaceSliderRow(Binding& binding, QGridLayout& grid, int line, int column, const SliderRow& row);
+QSlider* PlaceSliderRow(Binding& binding, QGridLayout& grid, int line, int column, const SliderRow& row);
+
+/// The same for a slider of the air's speed. While the forces are those at the top speed, it shows that one.
+void AddAirSpeedRow(Binding& binding, QGridLayout& grid, int line, int column, const SliderRow& row);
 
 /// The row below the last one that `grid` uses; 0 in an empty grid, which Qt counts as one row.
 int NextRow(const QGridLayout& grid);

@@ -3,12 +3,16 @@
 #include <QImageReader>
 #include <QPainter>
 
+#include "desktop/colours.h"
+#include "desktop/picture_ground.h"
+
 namespace zolv {
 
 void PictureView::SetPath(const QString& path) {
     QImageReader reader(path);
     reader.setAutoTransform(true);
-    picture_ = path.isEmpty() ? QPixmap() : QPixmap::fromImageReader(&reader);
+    const QImage picture = path.isEmpty() ? QImage() : reader.read();
+    picture_ = QPixmap::fromImage(IsDark(palette()) ? OnGround(picture, palette().color(QPalette::Window)) : picture);
     update();
 }
 

@@ -97,6 +97,9 @@ QGroupBox* PresetsWindow::MakeEditPanel() {
     grid->addWidget(MakeWords(Fields(), form.PresetsUsed, group), kSecondRow, 1);
     AddLines(*grid, form.Edit, kEdit);
     FinishPanel(*grid, form.EditUpdate, form.CP_Save);
+    // Without a preset there is nothing to edit.
+    Fields().OnChanged(form.EditName, [group] { group->setEnabled(!CustomPresets.EditName.Rows().empty()); });
+    Fields().OnChanged(form.PresetsUsed, [group] { group->setEnabled(!CustomPresets.EditName.Rows().empty()); });
     return group;
 }
 

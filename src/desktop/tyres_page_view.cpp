@@ -12,36 +12,48 @@
 
 #include "desktop/canvas_view.h"
 #include "desktop/page_parts.h"
+#include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "fields/windows.h"
+#include "text/words.h"
+#include "tyres/tyres_page.h"
 
 namespace zolv {
 namespace {
 
 /// Columns of the inputs, with a gap between the groups.
-enum { kFitted, kFirstGap, kSliders, kSecondGap = kSliders + 3, kAnalysed };
+enum { kFitted, kFirstGap = kFitted + 2, kSliders, kSecondGap = kSliders + 3, kAnalysed };
 
 /// Which tyre is fitted, and whether it has burst.
 void PlaceFitted(Binding& binding, QGridLayout& grid) {
     auto* const types = new QComboBox(grid.parentWidget());
+    types->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     auto* const blow = new QCheckBox(grid.parentWidget());
-    grid.addWidget(types, 0, kFitted);
-    grid.addWidget(blow, 1, kFitted);
+    auto* const caption = new QLabel(grid.parentWidget());
+    binding.OnChanged(Zolv.GearingLabel[38],
+                      [caption] { caption->setText(PlainCaption(Zolv.GearingLabel[38].Caption())); });
+    grid.addWidget(caption, 0, kFitted);
+    grid.addWidget(types, 0, kFitted + 1);
+    grid.addWidget(blow, 1, kFitted, 1, 2);
     binding.Bind(Zolv.Select_Tyres, *types, &Zolv.GearingLabel[38]);
     binding.Bind(Zolv.BlowTyres, *blow);
 }
 
-/// The speed stands last: a car without downforce has none here.
+/// The speed stands last: a car without downforce has none here. A tyre that has burst has no pressure to set.
 void PlaceSliders(Binding& binding, QGridLayout& grid) {
     const WidestOf pressure = WidestTexts(&UnitState::Pressure, 388);
-    const WidestOf speed = WidestTexts(&UnitState::Speed, 188.8);
     int line = 0;
-    for (const SliderRow& row :
-         {SliderRow{Zolv.TyreLabel[1], Zolv.Select_PressureF, Zolv.Label_PressureF, pressure},
-          SliderRow{Zolv.TyreLabel[2], Zolv.Select_PressureR, Zolv.Label_PressureR, pressure},
-          SliderRow{Zolv.TyreLabel[0], Zolv.Select_AeroSpeed_TyreTab, Zolv.AeroSpeed_TyreTab, speed}}) {
-        PlaceSliderRow(binding, grid, line++, kSliders, row);
+    for (const SliderRow& row : {SliderRow{Zolv.TyreLabel[1], Zolv.Select_PressureF, Zolv.Label_PressureF, pressure},
+                                 SliderRow{Zolv.TyreLabel[2], Zolv.Select_PressureR, Zolv.Label_PressureR, pressure}}) {
+        QSlider* const slider = PlaceSliderRow(binding, grid, line++, kSliders, row);
+        const auto enable = [slider, &field = row.slider] {
+            slider->setEnabled(field.Enabled() && !Zolv.BlowTyres.Checked());
+        };
+        binding.OnChanged(row.slider, enable);
+        binding.OnChanged(Zolv.BlowTyres, enable);
     }
+    AddAirSpeedRow(binding, grid, line, kSliders,
+                   {Zolv.TyreLabel[0], Zolv.Select_AeroSpeed_TyreTab, Zolv.AeroSpeed_TyreTab});
 }
 
 /// Which of the two tyres is analysed.
@@ -65,22 +77,39 @@ void AddInputs(Binding& binding, QVBoxLayout& page) {
     PlaceAnalysed(binding, *grid);
 }
 
+/// In metres the lengths of a tyre read 0.1 m or nothing at all; they are shown in millimetres then.
+void ShowFiner(Binding& binding, const QWidget& box) {
+    for (Label* field : {&Zolv.CPW, &Zolv.CPL, &Zolv.CPA, &Zolv.UTR, &Zolv.TD, &Zolv.TRRC, &Zolv.TWH}) {
+        auto* const figure = box.findChild<QLabel*>(ToQt(field->Name()));
+        const auto show = [field, figure] {
+            const std::string finer = FinerTyreText(*field);
+            figure->setText(ToQt(finer.empty() ? field->Caption() : finer));
+            figure->setAccessibleName(figure->text());
+        };
+        binding.OnChanged(*field, show);
+        binding.OnChanged(Zolv.CPS, show);  // drawn with each analysis, also where the caption stays
+    }
+}
+
 QWidget* MakeFigures(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.TyreNumAnal, parent);
-    auto& words = Zolv.TyreLabel;
-    AddFigureRows(binding, *MakeRows(box),
-                  {{words[7], Zolv.CPW},
-                   {words[8], Zolv.CPL},
-                   {words[9], Zolv.CPA, WidestTexts(&UnitState::Area, 0.0888)},
-                   {words[10], Zolv.CPAR},
-                   {words[11], Zolv.FRCPR},
-                   {words[12], Zolv.MU},
-                   {words[13], Zolv.TS, WidestTexts(&UnitState::Stiffness, 888888)},
-                   {words[14], Zolv.TF},
-                   {words[15], Zolv.UTR, WidestTexts(&UnitState::Distance, 0.388)},
-                   {words[16], Zolv.TD},
-                   {words[17], Zolv.TRRC, WidestTexts(&UnitState::Distance, 0.388, QStringLiteral(" / "), 2.888)},
-                   {words[18], Zolv.TWH}});
+    auto& labels = Zolv.TyreLabel;
+    QGridLayout& grid = *MakeRows(box);
+    AddFigureRows(binding, grid,
+                  {{labels[7], Zolv.CPW},
+                   {labels[8], Zolv.CPL},
+                   {labels[9], Zolv.CPA, WidestTexts(&UnitState::Area, 0.0888)},
+                   {labels[10], Zolv.CPAR},
+                   {labels[11], Zolv.FRCPR},
+                   {labels[12], Zolv.MU},
+                   {labels[13], Zolv.TS, WidestTexts(&UnitState::Stiffness, 888888)},
+                   {labels[14], Zolv.TF},
+                   {labels[15], Zolv.UTR, WidestTexts(&UnitState::Distance, 0.388)},
+                   {labels[16], Zolv.TD},
+                   {labels[17], Zolv.TRRC, WidestTexts(&UnitState::Distance, 0.388, QStringLiteral(" / "), 2.888)},
+                   {labels[18], Zolv.TWH}});
+    ShowFiner(binding, *box);
+    ExplainMark(binding, Zolv.TWH, *box->findChild<QLabel*>(ToQt(Zolv.TWH.Name())), [] { return words["NoWallLeft"]; });
     return box;
 }
 

@@ -44,9 +44,12 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"FRCPR.ToolTip", "This shows the relative difference in sizes between the front and rear contact patches"},
     {"GearR.ToolTip", "Tarmaq does not allow you to change the ratio for reverse, so neither does Zolv."},
     {"GearR2.ToolTip", "Tarmaq does not allow you to change the ratio for reverse, so neither does Zolv."},
+    {"ImperialUnits", "Imperial"},
     {"LocaleCode", "en"},  // of the language, for the words of the system's own dialogs: "de", "pt_BR"
     {"MU.ToolTip", "This affects how much grip the tyre has"},
+    {"MetricUnits", "Metric"},
     {"Neutral", "Neutral"},
+    {"NoWallLeft", "Nothing of the tyre's wall is left"},
     {"Oversteer", "Oversteer"},
     {"PngPicture", "PNG picture"},
     {"RimDiameterTooSmall", "Rim Diameter cannot be less than 1mm"},

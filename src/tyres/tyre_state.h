@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "model/tyre_sheet.h"
 #include "platform/hook.h"
 
 namespace zolv {
@@ -26,6 +27,8 @@ struct TyreState {
 
     double FrontRimRatio = 0;  // rim radius as a fraction of the unloaded tyre radius
     float RearRimRatio = 0;
+
+    TyreSheet Shown;  // the analysed tyre, as the page shows it
 
     bool CopyingTyreType = false;  // the two lists of tyre types do not call each other back
 };

@@ -33,6 +33,7 @@ TyreSheet AnalyseRear(double pressure) {
 }
 
 void ShowTyre(const TyreSheet& tyre) {
+    tyres.Shown = tyre;
     constexpr double kNoWallLeft = 0.0001;  // [m]; told in metres, whatever unit rounds it to zero
     Zolv.TWH.SetColour(tyre.WallHeight < kNoWallLeft ? kRed : kBlack);
     Zolv.CPW.SetCaption(units.Distance.Text(tyre.PatchWidth));
@@ -61,6 +62,22 @@ void AnalyseTyres() {
     Zolv.Label_PressureF.SetCaption(units.Pressure.Text(pressureF));
     Zolv.Label_PressureR.SetCaption(units.Pressure.Text(pressureR));
     DrawTyres();
+}
+
+std::string FinerTyreText(const Label& field) {
+    constexpr double kMillimetres = 1000;
+    constexpr double kSquareCentimetres = 10000;
+    const TyreSheet& tyre = tyres.Shown;
+    if (&field == &Zolv.CPA) {
+        return units.Area.Unit == 0 ? WithUnit(tyre.PatchArea * kSquareCentimetres, 0, " cm^2") : std::string();
+    }
+    if (units.Distance.Unit != 0) return {};
+    const auto text = [](double metres) { return WithUnit(metres * kMillimetres, 0, " mm"); };
+    if (&field == &Zolv.TRRC) return text(tyre.RollingRadius) + " / " + text(tyre.Circumference);
+    if (&field == &Zolv.CPW) return text(tyre.PatchWidth);
+    if (&field == &Zolv.CPL) return text(tyre.PatchLength);
+    if (&field == &Zolv.UTR) return text(tyre.UnloadedRadius);
+    return text(&field == &Zolv.TD ? tyre.Deformation : tyre.WallHeight);
 }
 
 void PickTyreType() {

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+
+#include "fields/kinds.h"
+
 namespace zolv {
 
 /// Works out both tyres at the present pressures and axle loads, shows the chosen one and draws it.
@@ -16,5 +20,10 @@ void PickTyreTypeOnGearingPage();
 
 /// Writes the rows of texts.TyreTypeNames into both lists of tyre types.
 void FillTyreLists();
+
+/// What a length or an area of the analysed tyre reads in millimetres or square centimetres, while the user's unit is
+/// the metre or the square metre, in which it would be cut to two decimals. Empty in any other unit.
+/// @param field  one of CPW, CPL, CPA, UTR, TD, TRRC, TWH
+[[nodiscard]] std::string FinerTyreText(const Label& field);
 
 }  // namespace zolv

@@ -1,10 +1,15 @@
-// What the pages show beyond their fields: the run as a table, colours that can be read.
+// What the pages show beyond their fields: the run as a table, wrong orders, reasons, colours that can be read.
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
+#include <QSlider>
+#include <QTabBar>
 #include <cmath>
 
 #include "desktop/run_table.h"
@@ -22,6 +27,11 @@ private Q_SLOTS:
     void WordsStandOutFromEachGround();
     void SelectionOfTheRunIsCopiedAsNumbers();
     void RunIsExportedFromItsPage();
+    void WrongOrderIsSaidForAsLongAsItLasts();
+    void MarksSayWhy();
+    void SpeedInForceIsShownWhileItIsTheTopSpeed();
+    void BurstTyresHaveNoPressureToSet();
+    void UnitSystemIsOneClick();
 };
 
 /// Contrast of two colours by their relative luminances, as WCAG 2.1 defines it: 1 to 21.
@@ -95,6 +105,98 @@ void Pages::RunIsExportedFromItsPage() {
     Asked().answers << InFolder("run.csv");
     Click(Find<QPushButton>("ExportRun"));
     QVERIFY(Read("run.csv").startsWith("Time [s],Speed [m/s],"));
+}
+
+void Enter(const char* box, const char* text) {
+    SelectAllAndType(Find<QLineEdit>(box), text);
+    QTest::keyClick(&Find<QLineEdit>(box), Qt::Key_Return);
+    Settle();
+}
+
+/// Whether a figure is in the grey of what is older than its inputs.
+bool IsGreyed(const char* figure) {
+    const auto& label = Find<QLabel>(figure);
+    return label.palette().color(QPalette::WindowText) ==
+           QApplication::palette().color(QPalette::Disabled, QPalette::WindowText);
+}
+
+void Pages::WrongOrderIsSaidForAsLongAsItLasts() {
+    const auto& line = Find<QPushButton>("OrderFault");
+    ClickTab("Select_Page", 1);
+    QVERIFY(!line.isVisible());
+    PickWithKeys(Find<QComboBox>("Select_Graphs"), 2);
+    Enter("Gear2", "4");
+    QVERIFY(line.isVisible());
+    QVERIFY(line.text().endsWith(QStringLiteral("The ratio for 2nd cannot be shorter than the ratio for 1st")));
+    QVERIFY(Find<QLineEdit>("Gear2").property("faulty").toBool());
+    QVERIFY(!Find<QLineEdit>("Gear3").property("faulty").toBool());
+    QVERIFY(Find<QLineEdit>("Gear2").accessibleDescription().contains(QStringLiteral("2nd")));
+    for (const char* figure : {"Speed1", "Torque3", "AccDataLabel(0)", "SpeedR"}) QVERIFY2(IsGreyed(figure), figure);
+
+    // It is there on every page, and leads to the box; what does not mend it leaves it.
+    ClickTab("Select_Page", 3);
+    PickWithKeys(Find<QComboBox>("Select_PowerUnits", "OptionsPanel"), 1);
+    QVERIFY(line.isVisible());
+    Click(Find<QPushButton>("OrderFault"));
+    QCOMPARE(Find<QTabBar>("Select_Page").currentIndex(), 1);
+    QVERIFY(Find<QLineEdit>("Gear2").hasFocus());
+
+    Enter("Gear2", "2.4");
+    QVERIFY(!line.isVisible());
+    QVERIFY(!Find<QLineEdit>("Gear2").property("faulty").toBool());
+    QVERIFY(!IsGreyed("Speed1"));
+}
+
+void Pages::MarksSayWhy() {
+    ClickTab("Select_Page", 1);
+    const auto why = [](const char* figure) {
+        const auto& label = Find<QLabel>(figure);
+        return label.toolTip() == label.accessibleDescription() ? label.toolTip() : QStringLiteral("two reasons");
+    };
+    Enter("GearF", "2");  // so long that fifth gear ends beyond what the car has the power for
+    QCOMPARE(why("Speed5"), QStringLiteral("Above the car's top speed, ") + TextOf("Aero_TopSpeed"));
+    Enter("Gear2", "1.9");
+    QCOMPARE(why("RAC1"), QStringLiteral("Falls below peak torque, 5456 rpm"));
+    PickWithKeys(Find<QComboBox>("Select_SpeedUnits", "OptionsPanel"), 1);
+    QVERIFY(why("Speed5").endsWith(QStringLiteral(" km/h")));
+    Enter("GearF", "4");
+    QCOMPARE(why("Speed5"), QString());
+}
+
+void Pages::SpeedInForceIsShownWhileItIsTheTopSpeed() {
+    ClickTab("Select_Page", 3);
+    const QString before = TextOf("AeroSpeed");
+    const QString caption = ToQt(Zolv.AeroSpeed.Caption());
+    Click(Find<QRadioButton>("UseFixedSpeed"));
+    QCOMPARE(TextOf("AeroSpeed"), TextOf("Aero_TopSpeed"));
+    QCOMPARE(TextOf("AeroSpeed_TyreTab"), TextOf("Aero_TopSpeed"));
+    QCOMPARE(ToQt(Zolv.AeroSpeed.Caption()), caption);  // as scripts read it
+    Click(Find<QRadioButton>("UseSliderSpeed"));
+    QCOMPARE(TextOf("AeroSpeed"), before);
+    QCOMPARE(Find<QSlider>("Select_AeroSpeed").value(), 40);
+}
+
+void Pages::BurstTyresHaveNoPressureToSet() {
+    ClickTab("Select_Page", 2);
+    for (const bool burst : {true, false}) {
+        Click(Find<QCheckBox>("BlowTyres"));
+        for (const char* slider : {"Select_PressureF", "Select_PressureR"}) {
+            QCOMPARE(Find<QSlider>(slider).isEnabled(), !burst);
+        }
+    }
+}
+
+void Pages::UnitSystemIsOneClick() {
+    QTest::keyClick(&WindowNamed("Zolv"), Qt::Key_O, Qt::ControlModifier);
+    Click(Find<QPushButton>("ImperialUnits", "OptionsPanel"));
+    const std::pair<const char*, const char*> figures[] = {
+        {"Info_Mass", " lb"}, {"Aero_TopSpeed", " mph"}, {"Label_PressureF", " psi"}, {"Aero_TotalDrag", " lbf"}};
+    for (const auto& [figure, unit] : figures) {
+        QVERIFY2(TextOf(figure).endsWith(QLatin1String(unit)), qPrintable(TextOf(figure)));
+    }
+    Click(Find<QPushButton>("MetricUnits", "OptionsPanel"));
+    QVERIFY(TextOf("Aero_TopSpeed").endsWith(QStringLiteral(" km/h")));
+    QVERIFY(TextOf("Info_Mass").endsWith(QStringLiteral(" kg")));
 }
 
 const bool added = AddSuite<Pages>("Pages");

@@ -82,9 +82,9 @@ bool IsKept(const QString& window, const QString& name) {
 
 /// "12.3 m/s" and the like: a figure without a word of the language.
 bool IsFigure(const QString& text) {
-    static const QRegularExpression figure(
-        QStringLiteral("[-@]?\\s*[-\\d.]+\\s*(%|: 1|s|m|m\\^2|m/s|m/s\\^2|kg|kPa|kN/m|N|Nm|kW|Hz|degrees|kg/m\\^3|\\S*C"
-                       "|k?W/\\S+|Nm/\\S+)?( ?[/-] ?[-\\d.]+\\s*(%|m|kPa)?)?( @ \\d+ rpm)?"));
+    static const QRegularExpression figure(QStringLiteral(
+        "[-@]?\\s*[-\\d.]+\\s*(%|: 1|s|mm|cm\\^2|m|m\\^2|m/s|m/s\\^2|kg|kPa|kN/m|N|Nm|kW|Hz|degrees|kg/m\\^3|\\S*C"
+        "|k?W/\\S+|Nm/\\S+)?( ?[/-] ?[-\\d.]+\\s*(%|mm|m|kPa)?)?( @ \\d+ rpm)?"));
     return QRegularExpression(QRegularExpression::anchoredPattern(figure.pattern())).match(text).hasMatch() ||
            text == QLatin1String("N/A");
 }

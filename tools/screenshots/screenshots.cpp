@@ -1,9 +1,11 @@
-// zolv-screenshots FOLDER [LANGUAGE] [dark]: pictures of every window and page, as PNG files in FOLDER. It starts in
-// the current directory as Zolv does. scripts/screenshots calls it for each theme, language and display scale.
-// zolv-screenshots FOLDER --documents EXAMPLES: the pictures of the manual, of set-ups in the folder EXAMPLES.
+// zolv-screenshots FOLDER [LANGUAGE] [dark] [WxH]: pictures of every window and page, as PNG files in FOLDER; with a
+// size, of the pages in a main window of that size. It starts in the current directory as Zolv does.
+// scripts/screenshots calls it for each theme, language and display scale. zolv-screenshots FOLDER --documents
+// EXAMPLES: the pictures of the manual, of set-ups in the folder EXAMPLES.
 
 #include <QApplication>
 #include <QPalette>
+#include <QRegularExpression>
 #include <functional>
 #include <iostream>
 
@@ -53,8 +55,14 @@ std::vector<Shot> PageShots() {
              Zolv.Select_Page.Pick(0);
          }},
         {"gearing-winged", Zolv, page(1)},
+        {"gearing-six-gears", Zolv,
+         [] {
+             Zolv.Select_Car.SetText("Series Lo");
+             Zolv.Select_Graphs.Pick(0);
+         }},
         {"tyres-blown", Zolv,
          [] {
+             Zolv.Select_Car.SetText("Series Mu");
              Zolv.Select_Page.Pick(2);
              Zolv.BlowTyres.SetChecked(true);
          }},
@@ -150,6 +158,16 @@ private:
     QString folder_;
 };
 
+/// The argument that is a size, as 1024x600; none is an empty one.
+QSize SizeAmong(const QStringList& arguments) {
+    static const QRegularExpression size(QStringLiteral("^(\\d+)x(\\d+)$"));
+    for (const QString& argument : arguments) {
+        const QRegularExpressionMatch match = size.match(argument);
+        if (match.hasMatch()) return {match.captured(1).toInt(), match.captured(2).toInt()};
+    }
+    return {};
+}
+
 int TakeAll(const QStringList& arguments) {
     FreshStart();
     Desktop desktop;
@@ -165,6 +183,10 @@ int TakeAll(const QStringList& arguments) {
     Camera camera(desktop, arguments.at(1));
     desktop.Main().resize(1280, 780);
     if (documents) return camera.Take(DocumentShots(FromQt(arguments.value(3)))) ? 0 : 1;
+    if (const QSize size = SizeAmong(arguments); !size.isEmpty()) {
+        desktop.Main().resize(size);
+        return camera.Take(PageShots()) ? 0 : 1;
+    }
     if (!camera.Take(PageShots()) || !camera.Take(WindowShots())) return 1;
 
     desktop.TheBinding().Act([] { Zolv.Select_Car.SetText("Pell S"); });
@@ -179,7 +201,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2) {
-        std::cerr << "usage: zolv-screenshots FOLDER [LANGUAGE] [dark]\n"
+        std::cerr << "usage: zolv-screenshots FOLDER [LANGUAGE] [dark] [WxH]\n"
                      "       zolv-screenshots FOLDER --documents EXAMPLES\n";
         return 2;
     }

@@ -95,6 +95,10 @@ TEST(Finder, LeavesAGearWhereItWasThatTheGoalDoesNotComeTo) {
     EXPECT_NE(result.Found.Ratios[1], task.Present.Ratios[1]);
     EXPECT_EQ(result.Found.Ratios[4], task.Present.Ratios[4]);
     EXPECT_EQ(result.Found.Ratios[6], task.Present.Ratios[6]);
+    // Such a gear is flat as far as the order of the gears goes.
+    ASSERT_EQ(result.Flatness[4].Input, Ratio5);
+    EXPECT_EQ(result.Flatness[4].Low, result.Found.Ratios[6]);
+    EXPECT_EQ(result.Flatness[4].High, result.Found.Ratios[4]);
 }
 
 TEST(Finder, FindsTheSameOnAnyNumberOfThreads) {

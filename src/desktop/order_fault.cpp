@@ -22,7 +22,9 @@ constexpr int kGearingPage = 1;
 /// "Speeds have NOT been updated: The ratio for 2nd cannot be shorter than the ratio for 1st".
 QString Headline() {
     const OrderWords said = OrderWordsOf(gearing.From());
-    return ToQt(said.notUpdated + ": " + OrderSentence(said, gearing.WrongOrder.front()));
+    QString headline = ToQt(said.notUpdated);
+    while (!headline.isEmpty() && headline.back().isPunct()) headline.chop(1);  // some languages go on with a comma
+    return headline + QStringLiteral(": ") + ToQt(OrderSentence(said, gearing.WrongOrder.front()));
 }
 
 }  // namespace

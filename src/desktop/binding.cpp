@@ -158,7 +158,7 @@ void Binding::Bind(Button& field, QPushButton& button) {
 
 void Binding::Bind(MenuEntry& field, QAction& action) {
     Name(action, field);
-    if (!field.Shortcut().empty()) action.setShortcut(QKeySequence(ToQt(field.Shortcut())));
+    action.setShortcuts(QKeySequence::listFromString(ToQt(field.Shortcut())));
     OnChanged(field, [&] {
         action.setText(ToQt(field.Caption()));
         action.setEnabled(field.Enabled());
@@ -215,6 +215,7 @@ void Binding::Bind(PickList& field, QComboBox& box, const Field* caption) {
     Name(box, field);
     NameByCaption(box, field, caption);
     IgnoreWheelWithoutFocus(box);
+    box.setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);  // never narrower than what it shows
     OnChanged(field, [&] {
         const QSignalBlocker quiet(box);
         PaintRows(field, box);

@@ -1,10 +1,13 @@
 #include "desktop/desktop.h"
 
+#include <QLocale>
+
 #include "desktop/converter_window.h"
 #include "desktop/language_window.h"
 #include "desktop/main_window.h"
 #include "desktop/options_window.h"
 #include "desktop/presets_window.h"
+#include "desktop/texts_of_qt.h"
 #include "fields/windows.h"
 
 namespace zolv {
@@ -15,12 +18,21 @@ Desktop::Desktop() {
     secondary_.push_back(std::make_unique<PresetsWindow>(binding_));
     secondary_.push_back(std::make_unique<ConverterWindow>(binding_));
     secondary_.push_back(std::make_unique<LanguageWindow>(binding_));
+    main_->winId();  // has its handle before a window is to stay above it
+    for (const auto& window : secondary_) window->StayAbove(*main_);
     binding_.OnChanged(LanguageSelection.LanguageList, [this] { qtWords_.Follow(); });
 }
 
 Desktop::~Desktop() = default;
 
+void Desktop::PreselectSystemLanguage() {
+    if (Zolv.Visible() || !LanguageSelection.Visible()) return;
+    const QLocale system(QLocale::system().uiLanguages().value(0));
+    LanguageSelection.LanguageList.SetText(FromQt(QLocale::languageToString(system.language())));
+}
+
 void Desktop::Open() {
+    PreselectSystemLanguage();
     binding_.PaintChanged();
     binding_.Bind(Zolv, *main_);
 }

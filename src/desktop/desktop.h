@@ -8,6 +8,7 @@
 namespace zolv {
 
 class MainWindow;
+class SecondaryWindow;
 
 /// The five windows over a started program.
 class Desktop {
@@ -23,10 +24,13 @@ public:
     MainWindow& Main() { return *main_; }
 
 private:
+    /// On a first run, while the languages stand in front, the system's is picked where there is one for it.
+    void PreselectSystemLanguage();
+
     QtWords qtWords_;
     Binding binding_;
-    std::vector<std::unique_ptr<QWidget>> secondary_;
     std::unique_ptr<MainWindow> main_;
+    std::vector<std::unique_ptr<SecondaryWindow>> secondary_;
 };
 
 }  // namespace zolv

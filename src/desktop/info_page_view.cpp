@@ -116,6 +116,7 @@ QWidget* MakeAbout(Binding& binding, QWidget* parent) {
 
 QWidget* MakePicture(Binding& binding, QWidget* parent) {
     auto* const view = new PictureView(parent);
+    view->SetSubstitute(QStringLiteral("unknown.jpg"));
     binding.Bind(Zolv.Info_CarPic, *view);
     return view;
 }

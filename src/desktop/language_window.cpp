@@ -3,11 +3,25 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMap>
 
 #include "desktop/page_parts.h"
 #include "desktop/theme.h"
 
 namespace zolv {
+namespace {
+
+/// A language as those call it who speak it; one that is not shipped keeps the name of its file.
+QString OwnName(const QString& language) {
+    static const QMap<QString, QString> kOwnNames{
+        {QStringLiteral("French"), QStringLiteral("Français")},  {QStringLiteral("German"), QStringLiteral("Deutsch")},
+        {QStringLiteral("Italian"), QStringLiteral("Italiano")}, {QStringLiteral("Japanese"), QStringLiteral("日本語")},
+        {QStringLiteral("Polish"), QStringLiteral("Polski")},    {QStringLiteral("Spanish"), QStringLiteral("Español")},
+    };
+    return kOwnNames.value(language, language);
+}
+
+}  // namespace
 
 LanguageWindow::LanguageWindow(Binding& binding, QWidget* parent)
     : SecondaryWindow(binding, LanguageSelection, parent) {
@@ -23,6 +37,9 @@ LanguageWindow::LanguageWindow(Binding& binding, QWidget* parent)
     grid->addWidget(MakeWords(binding, form.LanguageNow, Body()), 0, 1);
     QComboBox* const list = MakeList(form.LanguageList, Body(), form.LanguageLabel[1]);
     list->setMinimumContentsLength(20);
+    binding.OnChanged(form.LanguageList, [list] {
+        for (int row = 0; row < list->count(); ++row) list->setItemText(row, OwnName(list->itemText(row)));
+    });
     grid->addWidget(list, 1, 1);
     grid->addWidget(MakeWords(binding, form.LanguageAuthor, Body()), 2, 1);
     grid->setRowStretch(form.LanguageLabel.Size(), 1);

@@ -2,8 +2,12 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
+#include <cstdio>
+#include <cstdlib>
 
 #include "desktop/desktop.h"
+#include "desktop/last_visit.h"
 #include "desktop/main_window.h"
 #include "desktop/theme.h"
 #include "desktop/window_dialogs.h"
@@ -12,9 +16,25 @@
 #include "shell/shell_state.h"
 #include "shell/start_up.h"
 
+namespace {
+
+/// What Qt says while it looks for a display is advice to whoever installs it, and without one it aborts.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type != QtFatalMsg) return;
+    const bool noDisplay = text.contains(QLatin1String("platform plugin"));
+    std::fputs(noDisplay ? "zolv: there is no display to open a window on; zolv-batch works without one\n"
+                         : qPrintable(QStringLiteral("zolv: ") + text + u'\n'),
+               stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     zolv::SurviveSizeLimit();
+    const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
     QApplication application(argc, argv);
+    qInstallMessageHandler(usual);
     QApplication::setApplicationName(QStringLiteral("zolv"));
     QApplication::setDesktopFileName(QStringLiteral("zolv"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zolv"), QIcon(QStringLiteral("zolv.png"))));
@@ -25,10 +45,17 @@ int main(int argc, char** argv) {
     zolv::UseDialogs(&dialogs);
     zolv::FreshStart();
     zolv::Desktop desktop;
-    zolv::shellFollowUps.Ending = [] { QApplication::exit(); };  // quit() would ask each open window
+    zolv::LastVisit visit(zolv::LastVisit::UsersFile(), desktop, dialogs);
+    zolv::shellFollowUps.Ending = [&visit] {
+        visit.Keep();
+        QApplication::exit();  // quit() would ask each open window
+    };
+    dialogs.Gather();
     zolv::LoadZolv();
+    visit.BringBack();
     dialogs.SetParent(&desktop.Main());
     desktop.Open();
+    QTimer::singleShot(0, [&dialogs] { dialogs.ShowGathered(); });
     const int result = QApplication::exec();
     zolv::UseDialogs(nullptr);
     return result;

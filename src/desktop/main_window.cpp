@@ -5,10 +5,13 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QUrl>
@@ -39,6 +42,18 @@ QString SettingsFileIn(const QMimeData& data) {
     return path.endsWith(QLatin1String(".zolv"), Qt::CaseInsensitive) ? path : QString();
 }
 
+/// A page that scrolls where it has too little room. The window's own ground shows through; a view's would be white.
+QScrollArea* Scrolled(QWidget* page, QWidget* parent) {
+    auto* const area = new QScrollArea(parent);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    area->viewport()->setAutoFillBackground(false);
+    page->setAutoFillBackground(false);
+    return area;
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Binding& binding, QWidget* parent) : QMainWindow(parent), binding_(binding) {
@@ -52,7 +67,16 @@ MainWindow::MainWindow(Binding& binding, QWidget* parent) : QMainWindow(parent),
     column->addWidget(MakeHead());
     column->addWidget(MakePages(), 1);
     setCentralWidget(centre);
-    resize(1280, 780);
+    PlaceOnScreen();
+}
+
+void MainWindow::PlaceOnScreen() {
+    constexpr QSize kComfortable(1280, 780);
+    constexpr QSize kFrame(16, 48);  // what systems put around a window; its own is not known before it shows
+    const QRect room = screen()->availableGeometry();
+    resize(kComfortable.boundedTo(room.size() - kFrame));
+    move(room.topLeft() +
+         QPoint(room.width() - kFrame.width() - width(), room.height() - kFrame.height() - height()) / 2);
 }
 
 void MainWindow::MakeMenus() {
@@ -70,7 +94,17 @@ void MainWindow::MakeMenus() {
         if (&entry == &Zolv.FileExit) menu->addSeparator();
         binding_.Bind(entry, *menu->addAction(QString()));
     }
+    for (const MenuEntry* entry : {&Zolv.FileOpen, &Zolv.FileSaveAs}) {
+        auto* const action = findChild<QAction*>(ToQt(entry->Name()));
+        binding_.OnChanged(*entry, [action] {
+            if (!action->text().endsWith(u'\u2026')) action->setText(action->text() + u'\u2026');  // a dialog follows
+        });
+    }
+    connect(findChild<QAction*>(ToQt(Zolv.ViewFullScreen.Name())), &QAction::triggered, this,
+            &MainWindow::SwitchFullScreen);
 }
+
+void MainWindow::SwitchFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
 
 QWidget* MainWindow::MakeHead() {
     auto* const head = new QWidget(this);
@@ -116,7 +150,7 @@ QWidget* MainWindow::MakePages() {
                               new TyresPageView(binding_, stack), new AeroPageView(binding_, stack)};
     std::vector<Panel*> panels;
     for (int i = 0; i < 4; ++i) {
-        stack->addWidget(views[i]);
+        stack->addWidget(Scrolled(views[i], stack));
         binding_.Bind(Zolv.Page[i], *views[i]);
         panels.push_back(&Zolv.Page[i]);
     }
@@ -133,6 +167,14 @@ void MainWindow::AddAbout() {
     about->setObjectName(QStringLiteral("HelpAbout"));
     about->setMenuRole(QAction::AboutRole);
     binding_.OnChanged(Zolv.InfoPanel[2], [about] { about->setText(ToQt(Zolv.InfoPanel[2].Caption())); });
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && isFullScreen()) {
+        SwitchFullScreen();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

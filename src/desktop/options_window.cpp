@@ -16,6 +16,7 @@
 #include <cstdint>
 
 #include "desktop/page_parts.h"
+#include "desktop/saved_note.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
@@ -93,6 +94,7 @@ OptionsWindow::OptionsWindow(Binding& binding, QWidget* parent) : SecondaryWindo
     binding.BindStack(*stack, pages);
     layout->addWidget(stack, 1);
     AddButtons({&form.OptionsLoad, &form.OptionsSave}, {&form.CloseOptions});
+    AddNote(new SavedNote(*findChild<QPushButton*>(ToQt(form.OptionsSave.Name())), this));
     Complete();
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/picture_view.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 
@@ -7,12 +9,24 @@
 #include "desktop/picture_ground.h"
 
 namespace zolv {
+namespace {
 
-void PictureView::SetPath(const QString& path) {
+/// No picture where the file holds none; one without its light plate on a dark ground.
+QPixmap PictureIn(const QString& path, const QPalette& palette) {
     QImageReader reader(path);
     reader.setAutoTransform(true);
     const QImage picture = path.isEmpty() ? QImage() : reader.read();
-    picture_ = QPixmap::fromImage(IsDark(palette()) ? OnGround(picture, palette().color(QPalette::Window)) : picture);
+    if (picture.isNull()) return {};
+    return QPixmap::fromImage(IsDark(palette) ? OnGround(picture, palette.color(QPalette::Window)) : picture);
+}
+
+}  // namespace
+
+void PictureView::SetPath(const QString& path) {
+    picture_ = PictureIn(path, palette());
+    if (picture_.isNull() && !path.isEmpty() && !substitute_.isEmpty()) {
+        picture_ = PictureIn(QFileInfo(path).dir().filePath(substitute_), palette());
+    }
     update();
 }
 

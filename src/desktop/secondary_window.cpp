@@ -4,12 +4,14 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "desktop/theme.h"
 
@@ -55,7 +57,7 @@ public:
 }  // namespace
 
 SecondaryWindow::SecondaryWindow(Binding& binding, Window& window, QWidget* parent)
-    : QWidget(parent, Qt::Window), binding_(binding), window_(window) {
+    : QWidget(parent, Qt::Dialog), binding_(binding), window_(window) {
     setAttribute(Qt::WA_QuitOnClose, false);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -76,6 +78,12 @@ void SecondaryWindow::AddButtons(std::initializer_list<Button*> left, std::initi
     for (Button* field : left) buttons_->addWidget(MakeButton(*field, this));
     buttons_->addStretch();
     for (Button* field : right) buttons_->addWidget(MakeButton(*field, this));
+}
+
+void SecondaryWindow::AddNote(QLabel* note) {
+    int place = 0;
+    while (buttons_->itemAt(place)->spacerItem() == nullptr) ++place;
+    buttons_->insertWidget(place, note);
 }
 
 void SecondaryWindow::Complete() { binding_.Bind(window_, *this); }
@@ -102,13 +110,19 @@ void SecondaryWindow::PlaceOnScreen() {
         restoreGeometry(place_);
         return;
     }
+    // A page that has not been shown yet would only now learn how large it is, and the window jump.
+    for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
     const QRect room = screen()->availableGeometry();
     resize(sizeHint().boundedTo(room.size()));
     move(room.center() - rect().center());
 }
 
 void SecondaryWindow::setVisible(bool visible) {
-    if (visible && !isVisible()) PlaceOnScreen();
+    if (visible && !isVisible()) {
+        PlaceOnScreen();
+        winId();  // makes the window's handle, on which the order of windows rests
+        if (main_ != nullptr) windowHandle()->setTransientParent(main_->windowHandle());
+    }
     if (!visible && isVisible()) place_ = saveGeometry();
     QWidget::setVisible(visible);
 }

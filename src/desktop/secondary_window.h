@@ -10,12 +10,14 @@ class QHBoxLayout;
 
 namespace zolv {
 
-/// A window beside the main one. It is never in the way of the others: closing it, by its close box or Escape, hides it
-/// with its fields as they are. It opens in the middle of the screen the first time, and from then on where it was
-/// left.
+/// A window beside the main one, above which it stays. Closing it, by its close box or Escape, hides it with its fields
+/// as they are. It opens in the middle of the screen the first time, and from then on where it was left.
 class SecondaryWindow : public QWidget {
 public:
     void setVisible(bool visible) override;
+
+    /// The window that this one stays above. It must be there as long.
+    void StayAbove(QWidget& main) { main_ = &main; }
 
 protected:
     /// A derived constructor fills Body(), adds the buttons and ends with Complete().
@@ -31,6 +33,9 @@ protected:
 
     /// Adds the buttons under the body: `left` at the left edge, `right` at the right one.
     void AddButtons(std::initializer_list<Button*> left, std::initializer_list<Button*> right);
+
+    /// Adds a line between the buttons of the left and those of the right.
+    void AddNote(QLabel* note);
 
     /// Binds the window itself, which may open it at once.
     void Complete();
@@ -56,6 +61,7 @@ private:
 
     Binding& binding_;
     Window& window_;
+    QWidget* main_ = nullptr;
     QWidget* body_ = nullptr;
     QHBoxLayout* buttons_ = nullptr;
     QByteArray place_;  // size and position when it was last open

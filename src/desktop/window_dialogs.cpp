@@ -1,15 +1,25 @@
 #include "desktop/window_dialogs.h"
 
 #include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QUrl>
 
 #include "desktop/texts_of_qt.h"
+#include "platform/text_files.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
 
 constexpr const char* kProgram = "Tarmaq Zolv";
+constexpr const char* kManual = "Zolv Manual.pdf";
+constexpr const char* kSettingsPattern = "*.zolv";
 
 QWidget* Above(QWidget* parent) {
     if (QWidget* const active = QApplication::activeWindow()) return active;
@@ -24,21 +34,93 @@ QString FilterOf(const FileRequest& request) {
     return filter;
 }
 
+/// The path of a file in the program's folder.
+QString Beside(const char* name) { return QDir(ToQt(platform.AppPath)).filePath(QLatin1String(name)); }
+
+QString Documents() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+/// A name as every platform can have it.
+QString FileNameOf(QString name) {
+    static const QRegularExpression reserved(QStringLiteral(R"([/\\:*?"<>|\x00-\x1f])"));
+    return name.replace(reserved, QStringLiteral("_"));
+}
+
+/// The shipped set-ups stand at the side, among the places of the system.
+void OfferExamples(QFileDialog& dialog) {
+    const QString examples = Beside("examples");
+    if (!QFileInfo(examples).isDir()) return;
+    dialog.setOption(QFileDialog::DontUseNativeDialog);  // which has no place for them
+    dialog.setSidebarUrls(dialog.sidebarUrls() << QUrl::fromLocalFile(Documents())
+                                               << QUrl::fromLocalFile(QFileInfo(examples).absoluteFilePath()));
+}
+
 }  // namespace
 
+void WindowDialogs::ShowGathered() {
+    gathering_ = false;
+    if (gathered_.isEmpty()) return;
+    QStringList lines{ToQt(
+        words.Sentence("StartedWithout", {FromQt(QDir::toNativeSeparators(QDir::cleanPath(ToQt(platform.AppPath))))}))};
+    for (const QString& message : gathered_) lines << QStringLiteral("\u2022 ") + message;
+    gathered_.clear();
+    Message(FromQt(lines.join(QLatin1String("\n\n"))));
+}
+
 void WindowDialogs::Message(const std::string& text) {
+    if (gathering_) {
+        gathered_ << ToQt(text);
+        return;
+    }
     QMessageBox box(QMessageBox::Information, QLatin1String(kProgram), ToQt(text), QMessageBox::Ok, Above(parent_));
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
-std::string WindowDialogs::AskForFile(const FileRequest& request) {
-    QFileDialog dialog(Above(parent_), ToQt(request.title), QString(), FilterOf(request));
+void WindowDialogs::Prepare(QFileDialog& dialog, const FileRequest& request) const {
+    const QString kind = ToQt(request.presetName);
+    const QString last = folders_.value(kind);
+    QString folder = QFileInfo(last).isDir() ? last : Documents();
+    QString name = ToQt(request.proposedName);
+    if (const QFileInfo path(name); path.isAbsolute()) {
+        folder = path.absolutePath();
+        name = path.fileName();
+    }
+    dialog.setWindowTitle(ToQt(request.title));
+    dialog.setNameFilter(FilterOf(request));
     dialog.setAcceptMode(request.forSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(request.forSaving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setDefaultSuffix(ToQt(request.defaultExtension));
+    if (!request.forSaving && kind == QLatin1String(kSettingsPattern)) OfferExamples(dialog);
+    dialog.setDirectory(folder);
+    if (!name.isEmpty()) {
+        const QString ending = u'.' + ToQt(request.defaultExtension);
+        dialog.selectFile(FileNameOf(name.endsWith(ending) ? name : name + ending));
+    }
+}
+
+std::string WindowDialogs::AskForFile(const FileRequest& request) {
+    QFileDialog dialog(Above(parent_));
+    Prepare(dialog, request);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return request.presetName;
-    return FromQt(dialog.selectedFiles().constFirst());
+    const QString chosen = dialog.selectedFiles().constFirst();
+    folders_[ToQt(request.presetName)] = QFileInfo(chosen).absolutePath();
+    return FromQt(chosen);
+}
+
+bool WindowDialogs::ShowManual() {
+    QString manual = Beside(kManual);
+    if (!QFileInfo::exists(manual)) {
+        manual = QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(kManual));
+    }
+    if (!QFileInfo::exists(manual)) {
+        Message(words.Sentence("ManualMissing", {FromQt(QDir::toNativeSeparators(Beside(kManual)))}));
+    } else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(manual).absoluteFilePath()))) {
+        Message(words.Sentence("ManualUnreadable", {FromQt(QDir::toNativeSeparators(manual))}));
+    }
+    return true;
 }
 
 }  // namespace zolv

@@ -71,7 +71,7 @@ public:
     MenuEntry(Window& owner, std::string name, std::string parent = {}, std::string shortcut = {});
 
     const std::string& Parent() const { return parent_; }
-    const std::string& Shortcut() const { return shortcut_; }  // "Ctrl+U"; empty where there is none
+    const std::string& Shortcut() const { return shortcut_; }  // "Ctrl+U", or several, "Ctrl+Tab; Ctrl+PgDown"
     void Click() { OnClick(); }
 
     Hook OnClick;

@@ -63,16 +63,20 @@ public:
     // Menus
     MenuEntry FileMenu{*this, "FileMenu"};
     MenuEntry FileOpen{*this, "FileOpen", "FileMenu"};
-    MenuEntry FileSave{*this, "FileSave", "FileMenu"};
+    MenuEntry FileSave{*this, "FileSave", "FileMenu", "Ctrl+S"};
     MenuEntry FileSaveAs{*this, "FileSaveAs", "FileMenu"};
     MenuEntry FileClose{*this, "FileClose", "FileMenu"};
     MenuEntry FileExit{*this, "FileExit", "FileMenu"};
+    MenuEntry ViewMenu{*this, "ViewMenu"};
+    MenuEntry ViewNextPage{*this, "ViewNextPage", "ViewMenu", "Ctrl+Tab; Ctrl+PgDown"};
+    MenuEntry ViewPreviousPage{*this, "ViewPreviousPage", "ViewMenu", "Ctrl+Shift+Tab; Ctrl+PgUp"};
+    MenuEntry ViewFullScreen{*this, "ViewFullScreen", "ViewMenu", "F11"};  // the window answers, whose screen it is
     MenuEntry ToolsMenu{*this, "ToolsMenu"};
     MenuEntry ToolsCustom{*this, "ToolsCustom", "ToolsMenu", "Ctrl+U"};
     MenuEntry ToolsOptions{*this, "ToolsOptions", "ToolsMenu", "Ctrl+O"};
     MenuEntry ToolsLanguage{*this, "ToolsLanguage", "ToolsMenu"};
     MenuEntry HelpMenu{*this, "HelpMenu"};
-    MenuEntry HelpUsage{*this, "HelpUsage", "HelpMenu"};
+    MenuEntry HelpUsage{*this, "HelpUsage", "HelpMenu", "F1"};
 
     // Always in view
     Label Label_Car{*this, "Label_Car"};

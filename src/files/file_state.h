@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "files/options_text.h"
 #include "platform/hook.h"
 
 namespace zolv {
@@ -9,6 +10,7 @@ namespace zolv {
 struct FileState {
     std::string CurrentFileName;  // the settings file that FileSave writes; empty when there is none
     std::string OpenFileName;     // the settings file chosen in the open dialog
+    OptionsFile SavedOptions;     // the options as they were last loaded or saved
     std::string PresetFileName;   // the preset file last chosen in a dialog
 };
 inline FileState files;

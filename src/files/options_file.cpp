@@ -44,13 +44,20 @@ std::string ReadOptions() {
 
 void SaveOptions() {
     const std::string reason = WriteTextFile(OptionsPath(), OptionsText(PresentOptions()));
-    if (!reason.empty()) ShowMessage(CannotWrite(OptionsPath(), reason));
+    if (reason.empty()) {
+        files.SavedOptions = PresentOptions();
+    } else {
+        ShowMessage(CannotWrite(OptionsPath(), reason));
+    }
 }
+
+bool OptionsChanged() { return PresentOptions() != files.SavedOptions; }
 
 void LoadOptions() {
     const std::string message = ReadOptions();
     if (!message.empty()) ShowMessage(message);
     ApplyOptions();
+    files.SavedOptions = PresentOptions();
     fileFollowUps.OptionsLoaded();
 }
 

@@ -15,4 +15,7 @@ void SaveOptions();
 /// once. Writes: units, options, the options panel
 void LoadOptions();
 
+/// Whether the options are others than when they were last loaded or saved.
+[[nodiscard]] bool OptionsChanged();
+
 }  // namespace zolv

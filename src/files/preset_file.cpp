@@ -72,7 +72,8 @@ FileRequest RequestFor(bool saving) {
             .title = saving ? texts.TextSavePreset : texts.TextLoadPreset,
             .filterLabel = "Zolv Custom Preset File (*.cup)",
             .presetName = kAnyPresetFile,
-            .defaultExtension = saving ? "cup" : ""};
+            .defaultExtension = saving ? "cup" : "",
+            .proposedName = saving ? CustomPresets.EditName.Text() : ""};
 }
 
 /// Lets the user choose the preset file; false when the dialog was cancelled.

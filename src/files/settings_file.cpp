@@ -73,12 +73,17 @@ void SetCurrentFile(const std::string& name) {
     Zolv.SetTitle(title);
 }
 
+bool IsThere(const std::string& car) { return vehicle.FindCar(car) >= 0 || vehicle.FindPreset(car) >= 0; }
+
 FileRequest RequestFor(bool saving) {
     return {.forSaving = saving,
             .title = saving ? texts.TextSaveSettings : texts.TextOpenSettings,
             .filterLabel = texts.TextSettingsFilter,
             .presetName = kPattern,
-            .defaultExtension = saving ? "zolv" : ""};
+            .defaultExtension = saving ? "zolv" : "",
+            .proposedName = !saving                         ? ""
+                            : files.CurrentFileName.empty() ? Zolv.Select_Car.Text()
+                                                            : files.CurrentFileName};
 }
 
 }  // namespace
@@ -92,7 +97,7 @@ bool LoadSettingsFile() {
         ShowMessage(CannotRead(files.OpenFileName, settings.Reason()));
         return false;
     }
-    if (vehicle.FindCar(settings->CarName) < 0 && vehicle.FindPreset(settings->CarName) < 0) {
+    if (!IsThere(settings->CarName)) {
         SetCurrentFile({});
         ShowMessage(texts.TextCarNotSupported + "\r\n" + texts.TextTryAddingIt);
         return true;
@@ -126,5 +131,14 @@ void SaveSettingsAs() {
 }
 
 void CloseSettings() { SetCurrentFile({}); }
+
+std::string PresentSettingsText() { return SettingsText(PresentSettings()); }
+
+void OpenSettingsText(std::string_view text) {
+    const Parsed<SettingsFile> settings = ParseSettings(text);
+    if (!settings || !IsThere(settings->CarName)) return;
+    Apply(*settings);
+    fileFollowUps.SettingsOpened();
+}
 
 }  // namespace zolv

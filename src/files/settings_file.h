@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace zolv {
 
@@ -28,5 +29,12 @@ void SaveSettings();
 /// A set-up that could not be written under its new name keeps the one that it had, in the title as well.
 void SaveSettingsAs();
 void CloseSettings();
+
+/// The set-up as the text of a settings file.
+[[nodiscard]] std::string PresentSettingsText();
+
+/// Opens such a text as if it stood in a file, but without a file's name and without messages: one that is no set-up,
+/// or of a car that is not there, changes nothing.
+void OpenSettingsText(std::string_view text);
 
 }  // namespace zolv

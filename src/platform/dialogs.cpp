@@ -17,4 +17,6 @@ std::string AskForFile(const FileRequest& request) {
     return inUse != nullptr ? inUse->AskForFile(request) : request.presetName;
 }
 
+bool ShowManual() { return inUse != nullptr && inUse->ShowManual(); }
+
 }  // namespace zolv

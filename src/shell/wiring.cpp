@@ -83,6 +83,12 @@ void WireFollowUps() {
     };
 }
 
+/// The page beside the one in front; the first one follows the last.
+void TurnPage(int direction) {
+    const int pages = Zolv.Page.Size();
+    Zolv.Select_Page.Pick((Zolv.Select_Page.Picked() + direction + pages) % pages);
+}
+
 void WireMenus() {
     Zolv.FileOpen.OnClick = OpenSettings;
     Zolv.FileSave.OnClick = SaveSettings;
@@ -93,7 +99,11 @@ void WireMenus() {
     Zolv.ToolsCustom.OnClick = [] { CustomPresets.Show(); };
     Zolv.ToolsOptions.OnClick = [] { OptionsPanel.Show(); };
     Zolv.ToolsLanguage.OnClick = [] { LanguageSelection.Show(); };
-    Zolv.HelpUsage.OnClick = [] { ShowMessage(texts.TextManualHint); };
+    Zolv.HelpUsage.OnClick = [] {
+        if (!ShowManual()) ShowMessage(texts.TextManualHint);
+    };
+    Zolv.ViewNextPage.OnClick = [] { TurnPage(1); };
+    Zolv.ViewPreviousPage.OnClick = [] { TurnPage(-1); };
 }
 
 void WireCarAndPages() {

@@ -47,9 +47,12 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"ImperialUnits", "Imperial"},
     {"LocaleCode", "en"},  // of the language, for the words of the system's own dialogs: "de", "pt_BR"
     {"MU.ToolTip", "This affects how much grip the tyre has"},
+    {"ManualMissing", "There is no file \"{0}\". The manual is to be had at https://example.org/zolv/, and scripts/manual builds it from the sources."},
+    {"ManualUnreadable", "The manual is the file \"{0}\", but nothing on this system opens it."},
     {"MetricUnits", "Metric"},
     {"Neutral", "Neutral"},
     {"NoWallLeft", "Nothing of the tyre's wall is left"},
+    {"OptionsSaved", "Options saved"},
     {"Oversteer", "Oversteer"},
     {"PngPicture", "PNG picture"},
     {"RimDiameterTooSmall", "Rim Diameter cannot be less than 1mm"},
@@ -67,6 +70,7 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"Select_PressureF.ToolTip", "Change the pressure to see how this affects deformation."},
     {"Select_PressureR.ToolTip", "Change the pressure to see how this affects deformation."},
     {"ShorterThanGearBelow", "Shorter than the gear below it"},
+    {"StartedWithout", "Zolv started in the folder {0}, and not all that it needs is there:"},
     {"StillGaining", "Still gaining after {0}"},
     {"SvgPicture", "SVG picture"},
     {"TD.ToolTip", "How much the tyre has deformed vertically under load."},
@@ -76,6 +80,10 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"TyreWidthInput.ToolTip", "Input the tyre width in mm"},
     {"TyreWidthTooSmall", "Tyre Width cannot be less than 1mm"},
     {"Understeer", "Understeer"},
+    {"ViewFullScreen", "&Full screen"},
+    {"ViewMenu", "&View"},
+    {"ViewNextPage", "&Next page"},
+    {"ViewPreviousPage", "&Previous page"},
 });
 // clang-format on
 

@@ -87,7 +87,8 @@ def check(holds, otherwise):
 
 def use(display, program, home):
     """One visit. The display has no window manager, so that the focus is given by hand."""
-    environment = {**os.environ, "DISPLAY": display.name, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8"}
+    environment = {**os.environ, "DISPLAY": display.name, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
+                   "XDG_CONFIG_HOME": str(Path(home, "config"))}
     environment.pop("WAYLAND_DISPLAY", None)
     zolv = subprocess.Popen([program], cwd=home, env=environment)
     try:
@@ -113,9 +114,18 @@ def use(display, program, home):
         open_file_menu(display)
         display.do("key", "x")
         check(zolv.wait(PATIENCE) == 0, f"ended with status {zolv.returncode}")
+        check("Gear3: 1.875" in Path(home, "config/zolv/zolv.ini").read_text("utf-8"), "the set-up has not been kept")
     finally:
         if zolv.poll() is None:
             zolv.kill()
+
+
+def start_without_display(program, home):
+    environment = {name: value for name, value in os.environ.items()
+                   if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+    zolv = subprocess.run([program], cwd=home, env=environment, capture_output=True, text=True, timeout=PATIENCE)
+    check(zolv.returncode == 1 and zolv.stderr.count("\n") == 1 and "no display" in zolv.stderr,
+          f"without a display: status {zolv.returncode}, {zolv.stderr}")
 
 
 def third_gear(path):
@@ -153,6 +163,7 @@ def main():
             shutil.copy(DATA / name, home)
         Path(home, "languages.lst").write_bytes(b"Language: 1\r\nEnglish\r\n")
         Path(home, "unknown.jpg").write_bytes(b"no picture, but no message either")
+        start_without_display(Path(sys.argv[1]).resolve(), home)
         display = Display(folder)
         try:
             use(display, Path(sys.argv[1]).resolve(), home)

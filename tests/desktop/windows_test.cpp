@@ -1,12 +1,18 @@
 // The windows together: opening, hiding, closing, the first run, sizes.
 
+#include <QAction>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSlider>
 #include <QTabBar>
+#include <QWindow>
 
+#include "desktop/last_visit.h"
+#include "desktop/window_dialogs.h"
 #include "language/caption_table.h"
 #include "suites.h"
 
@@ -21,6 +27,15 @@ private Q_SLOTS:
     void HiddenWindowsComeBackAsTheyWere_data();
     void HiddenWindowsComeBackAsTheyWere();
     void OpenWindowComesToTheFront();
+    void SecondaryWindowsStayAboveTheMainOne();
+    void FirstSizeFitsTheScreen();
+    void OptionsKeepTheirSize();
+    void PagesAndMoreByKeys_data();
+    void PagesAndMoreByKeys();
+    void KeyboardFocusScrollsIntoView();
+    void NextStartBringsBackTheLast();
+    void NothingBrokenComesBack_data();
+    void NothingBrokenComesBack();
     void ConverterOpensFromThePresets();
     void ClosingTheMainWindowEndsTheProgram();
     void ExitInTheMenuEndsTheProgram();
@@ -87,6 +102,147 @@ void WindowsTogether::OpenWindowComesToTheFront() {
     QTRY_VERIFY(WindowNamed("OptionsPanel").isActiveWindow());
 }
 
+void WindowsTogether::SecondaryWindowsStayAboveTheMainOne() {
+    OpenAll(Windows());
+    for (const char* name : kSecondary) {
+        QCOMPARE(WindowNamed(name).windowHandle()->transientParent(), WindowNamed("Zolv").windowHandle());
+        QCOMPARE(WindowNamed(name).windowType(), Qt::Dialog);
+    }
+}
+
+void WindowsTogether::FirstSizeFitsTheScreen() {
+    const QWidget& main = WindowNamed("Zolv");
+    const QRect room = main.screen()->availableGeometry();
+    QVERIFY(room.contains(main.geometry()));
+    // A title bar and borders fit, too; and no screen in use is too small for the whole of what does not scroll.
+    QVERIFY(room.width() - main.width() >= 8 && room.height() - main.height() >= 32);
+    QVERIFY(main.minimumSizeHint().width() <= 1024 - 8 && main.minimumSizeHint().height() <= 600 - 32);
+}
+
+void WindowsTogether::OptionsKeepTheirSize() {
+    Windows().TheBinding().Act([] { OptionsPanel.Show(); });
+    Settle();
+    const QSize first = WindowNamed("OptionsPanel").size();
+    for (const int page : {1, 2, 0}) {
+        ClickTab("Select_Options", page, "OptionsPanel");
+        QCOMPARE(WindowNamed("OptionsPanel").size(), first);
+    }
+}
+
+/// From the gearing page, page 1, with the focus in a box.
+void WindowsTogether::PagesAndMoreByKeys_data() {
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("with");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("entry");
+    QTest::newRow("CtrlTab") << int{Qt::Key_Tab} << int{Qt::CTRL} << 2 << "ViewNextPage";
+    QTest::newRow("CtrlPageDown") << int{Qt::Key_PageDown} << int{Qt::CTRL} << 2 << "ViewNextPage";
+    QTest::newRow("CtrlShiftTab") << int{Qt::Key_Backtab} << int{Qt::CTRL | Qt::SHIFT} << 0 << "ViewPreviousPage";
+    QTest::newRow("CtrlPageUp") << int{Qt::Key_PageUp} << int{Qt::CTRL} << 0 << "ViewPreviousPage";
+    QTest::newRow("CtrlS") << int{Qt::Key_S} << int{Qt::CTRL} << 1 << "FileSave";
+    QTest::newRow("F1") << int{Qt::Key_F1} << 0 << 1 << "HelpUsage";
+    QTest::newRow("F11") << int{Qt::Key_F11} << 0 << 1 << "ViewFullScreen";
+}
+
+void WindowsTogether::PagesAndMoreByKeys() {
+    QFETCH(int, key);
+    QFETCH(int, with);
+    QFETCH(int, page);
+    QFETCH(QString, entry);
+    ClickTab("Select_Page", 1);
+    int triggered = 0;
+    auto& action = Find<QAction>(entry.toLatin1().constData());
+    connect(&action, &QAction::triggered, this, [&] { ++triggered; });
+    Click(Find<QLineEdit>("Gear1"));
+    QTest::keyClick(&Find<QLineEdit>("Gear1"), static_cast<Qt::Key>(key), Qt::KeyboardModifiers(with));
+    Settle();
+    QCOMPARE(triggered, 1);
+    QVERIFY(!action.associatedObjects().isEmpty() && !action.text().isEmpty());  // it is in a menu
+    QCOMPARE(Find<QTabBar>("Select_Page").currentIndex(), page);
+    QCOMPARE(Asked().requests.size(), key == Qt::Key_S ? 1U : 0U);
+    if (key == Qt::Key_S) QCOMPARE(Asked().requests[0].proposedName, "Pell S");
+    QCOMPARE(TakeMessage().isEmpty(), key != Qt::Key_F1);
+    QCOMPARE(WindowNamed("Zolv").isFullScreen(), key == Qt::Key_F11);
+    if (key == Qt::Key_F11) {
+        QTest::keyClick(&WindowNamed("Zolv"), Qt::Key_Escape);
+        QVERIFY(!WindowNamed("Zolv").isFullScreen());
+    }
+}
+
+void WindowsTogether::KeyboardFocusScrollsIntoView() {
+    ClickTab("Select_Page", 1);
+    WindowNamed("Zolv").resize(700, 300);
+    Settle();
+    auto& box = Find<QLineEdit>("GearF");
+    QVERIFY(box.visibleRegion().isEmpty());
+    Find<QLineEdit>("Gear1").setFocus();
+    for (int step = 0; step < 20 && !box.hasFocus(); ++step) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    Settle();
+    QCOMPARE(box.visibleRegion().boundingRect(), box.rect());
+}
+
+void WindowsTogether::NextStartBringsBackTheLast() {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("zolv.ini"));
+    WindowDialogs dialogs;
+    dialogs.SetFolders({{QStringLiteral("*.zolv"), folder.path()}});
+    WindowNamed("Zolv").setGeometry(31, 57, 700, 501);
+    PickWithKeys(Find<QComboBox>("Select_Car"), "Ondo T");
+    ClickTab("Select_Page", 1);
+    PickWithKeys(Find<QComboBox>("Select_Graphs"), 1);
+    Click(Find<QRadioButton>("Direction2"));
+    SelectAllAndType(Find<QLineEdit>("B_Speed2"), "27");
+    Find<QSlider>("Select_PressureF").setValue(199);
+    const auto boxes = [] {
+        QStringList all{TextOf("Info_Mass")};
+        for (const QLineEdit* box : WindowNamed("Zolv").findChildren<QLineEdit*>()) all << box->text();
+        return all;
+    };
+    const QStringList before = boxes();
+    LastVisit(file, Windows(), dialogs).Keep();
+    QVERIFY(!QFileInfo::exists(InFolder("Options.ini")));  // nothing of them has changed
+
+    Stop();
+    Start();
+    WindowDialogs next;
+    LastVisit visit(file, Windows(), next);
+    Windows().TheBinding().Act([&] { visit.BringBack(); });
+    Settle();
+    QCOMPARE(WindowNamed("Zolv").geometry(), QRect(31, 57, 700, 501));
+    QCOMPARE(Find<QTabBar>("Select_Page").currentIndex(), 1);
+    QCOMPARE(Find<QComboBox>("Select_Graphs").currentIndex(), 1);
+    QCOMPARE(Find<QLineEdit>("B_Speed2").text(), QStringLiteral("27"));
+    QCOMPARE(Find<QSlider>("Select_PressureF").value(), 199);
+    QCOMPARE(boxes(), before);
+    QCOMPARE(next.Folders().value(QStringLiteral("*.zolv")), folder.path());
+
+    PickWithKeys(Find<QComboBox>("Select_PowerUnits", "OptionsPanel"), 1);
+    visit.Keep();
+    QVERIFY(QFileInfo::exists(InFolder("Options.ini")));
+}
+
+void WindowsTogether::NothingBrokenComesBack_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("NoSettings") << QByteArray("\x01\x02 this is [no file of settings\n=\n\xFF");
+    QTest::newRow("OutOfRange") << QByteArray("[Window]\nPage=17\nGraph=-3\nPlace=@ByteArray(xyz)\n");
+    QTest::newRow("OtherKinds") << QByteArray("[Window]\nPage=first\nGraph=@Point(1 2)\nPlace=12\n[Folders]\nzolv=7\n");
+    QTest::newRow("ForeignCar") << QByteArray("[SetUp]\nSettings=\"CarName: Nobody\"\nTyres=99\n");
+}
+
+void WindowsTogether::NothingBrokenComesBack() {
+    QFETCH(QByteArray, content);
+    QVERIFY(Write("zolv.ini", content));
+    const QRect place = WindowNamed("Zolv").geometry();
+    const auto before = TextsOf(WindowNamed("Zolv"));
+    WindowDialogs dialogs;
+    LastVisit visit(InFolder("zolv.ini"), Windows(), dialogs);
+    Windows().TheBinding().Act([&] { visit.BringBack(); });
+    Settle();
+    QCOMPARE(WindowNamed("Zolv").geometry(), place);
+    QCOMPARE(Find<QTabBar>("Select_Page").currentIndex(), 0);
+    QVERIFY(TextsOf(WindowNamed("Zolv")) == before);
+}
+
 void WindowsTogether::ConverterOpensFromThePresets() {
     QTest::keyClick(&WindowNamed("Zolv"), Qt::Key_U, Qt::ControlModifier);
     QTest::mouseClick(&Find<QPushButton>("LoadUnitConv", "CustomPresets"), Qt::LeftButton);
@@ -121,6 +277,7 @@ void WindowsTogether::ExitInTheMenuEndsTheProgram() {
 void WindowsTogether::NothingIsCutOff_data() {
     QTest::addColumn<QSize>("size");
     QTest::newRow("AsItOpens") << QSize(1280, 780);
+    QTest::newRow("SmallScreen") << QSize(1024, 600);
     QTest::newRow("AsSmallAsItGets") << QSize(1, 1);
 }
 
@@ -164,7 +321,8 @@ class FirstRun : public DesktopTest {
     Q_OBJECT
 
     void Prepare() override {
-        QVERIFY(Write("languages.lst", "Language: 0\r\nEnglish\r\nLonger\r\n"));
+        QVERIFY(Write("languages.lst", "Language: 0\r\nEnglish\r\nLonger\r\nGerman\r\n"));
+        QVERIFY(Write("language_German.txt", QByteArray::fromStdString(BuiltInLanguage())));
         QVERIFY(Write("language_English.txt", QByteArray::fromStdString(BuiltInLanguage())));
         QVERIFY(Write("language_Longer.txt", LanguageOf([](int line) { return "L" + QByteArray::number(line); })));
     }
@@ -177,13 +335,16 @@ private Q_SLOTS:
 void FirstRun::LanguageIsChosenBeforeTheMainWindowShows() {
     QVERIFY(!WindowNamed("Zolv").isVisible());
     QVERIFY(WindowNamed("LanguageSelection").isVisible());
-    PickWithKeys(Find<QComboBox>("LanguageList", "LanguageSelection"), 1);
+    auto& languages = Find<QComboBox>("LanguageList", "LanguageSelection");
+    QCOMPARE(languages.itemText(2), QStringLiteral("Deutsch"));
+    QCOMPARE(languages.currentIndex(), QLocale::system().language() == QLocale::German ? 2 : 0);
+    PickWithKeys(languages, 1);
     QCOMPARE(TextOf("LanguageNow", "LanguageSelection"), QStringLiteral("L0"));
     QTest::mouseClick(&Find<QPushButton>("SaveLanguage", "LanguageSelection"), Qt::LeftButton);
     Settle();
     QVERIFY(WindowNamed("Zolv").isVisible());
     QVERIFY(!WindowNamed("LanguageSelection").isVisible());
-    QCOMPARE(Read("languages.lst"), QByteArray("Language: 2\r\nEnglish\r\nLonger\r\n"));
+    QCOMPARE(Read("languages.lst"), QByteArray("Language: 2\r\nEnglish\r\nLonger\r\nGerman\r\n"));
 }
 
 void FirstRun::ClosingTheLanguagesBringsTheMainWindow() {

@@ -58,7 +58,8 @@ constexpr const char* kWithoutLine =
     "CustomPresets|Zolv_version|AboutZolv|"  // a title that stays; a number; several lines at once
     "AeroLabel\\((12|13|15|24|25|29|30|34|35)\\)|CUPLabel\\((12|29)\\)|GearingLabel\\(3[0-7]\\)|"  // Cd, ClA ..., v-max
     "Label_SPD[1-6]|Label_[A-Za-z0-9]+Units|"                                                      // units
-    "(Distance|Mass|Power|Torque)Output|InputSlash|InputR";
+    "(Distance|Mass|Power|Torque)Output|InputSlash|InputR|"
+    "View[A-Za-z]*";  // words by name
 
 /// Captions beside a control and titles of a group: they have words also before they get their line.
 constexpr const char* kNamesOthers =

@@ -1,0 +1,84 @@
+#include "desktop/last_visit.h"
+
+#include <QStandardPaths>
+
+#include "desktop/desktop.h"
+#include "desktop/main_window.h"
+#include "desktop/texts_of_qt.h"
+#include "desktop/window_dialogs.h"
+#include "fields/windows.h"
+#include "files/options_file.h"
+#include "files/settings_file.h"
+#include "units/unit_state.h"
+
+namespace zolv {
+namespace {
+
+const QString kPlace = QStringLiteral("Window/Place");
+const QString kPage = QStringLiteral("Window/Page");
+const QString kGraph = QStringLiteral("Window/Graph");
+const QString kSetUp = QStringLiteral("SetUp/Settings");
+const QString kSpeedUnit = QStringLiteral("SetUp/SpeedUnit");  // the one of the speeds in it
+const QString kFromSpeeds = QStringLiteral("SetUp/FromSpeeds");
+const QString kTyres = QStringLiteral("SetUp/Tyres");
+const QString kFolders = QStringLiteral("Folders");
+
+/// The row is picked if there is such a one.
+void Pick(PickList& list, const QVariant& row) {
+    bool isNumber = false;
+    const int number = row.toInt(&isNumber);
+    if (isNumber && !list.Locked()) list.Pick(number);
+}
+
+}  // namespace
+
+LastVisit::LastVisit(const QString& file, Desktop& desktop, WindowDialogs& dialogs)
+    : settings_(file, QSettings::IniFormat), desktop_(desktop), dialogs_(dialogs) {}
+
+QString LastVisit::UsersFile() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/zolv/zolv.ini");
+}
+
+void LastVisit::BringBack() {
+    MainWindow& window = desktop_.Main();
+    if (window.restoreGeometry(settings_.value(kPlace).toByteArray())) {
+        window.setWindowState(window.windowState() & ~(Qt::WindowFullScreen | Qt::WindowMinimized));
+    }
+    BringBackSetUp();
+    Pick(Zolv.Select_Graphs, settings_.value(kGraph));
+    Pick(Zolv.Select_Page, settings_.value(kPage));
+    QMap<QString, QString> folders;
+    settings_.beginGroup(kFolders);
+    for (const QString& kind : settings_.childKeys())
+        folders[QLatin1String("*.") + kind] = settings_.value(kind).toString();
+    settings_.endGroup();
+    dialogs_.SetFolders(folders);
+}
+
+/// A direction takes over what the other one has found, so that it comes first and the numbers behind it.
+void LastVisit::BringBackSetUp() {
+    if (settings_.value(kSpeedUnit).toInt() != units.Speed.Unit) return;
+    const std::string text = FromQt(settings_.value(kSetUp).toString());
+    if (text.empty()) return;
+    if (settings_.value(kFromSpeeds).toBool()) Zolv.Direction2.Choose();
+    Pick(Zolv.Select_Tyres, settings_.value(kTyres));
+    // A slider that moves rewrites its box in its own steps; once all stand, the boxes take what they had.
+    for (int pass = 0; pass < 2; ++pass) OpenSettingsText(text);
+}
+
+void LastVisit::Keep() {
+    settings_.setValue(kPlace, desktop_.Main().saveGeometry());
+    settings_.setValue(kPage, Zolv.Select_Page.Picked());
+    settings_.setValue(kGraph, Zolv.Select_Graphs.Picked());
+    settings_.setValue(kSetUp, ToQt(PresentSettingsText()));
+    settings_.setValue(kSpeedUnit, units.Speed.Unit);
+    settings_.setValue(kFromSpeeds, Zolv.Direction2.Checked());
+    settings_.setValue(kTyres, Zolv.Select_Tyres.Picked());
+    settings_.beginGroup(kFolders);
+    for (const auto& [kind, folder] : dialogs_.Folders().asKeyValueRange()) settings_.setValue(kind.mid(2), folder);
+    settings_.endGroup();
+    settings_.sync();
+    if (OptionsChanged()) SaveOptions();
+}
+
+}  // namespace zolv

@@ -7,6 +7,7 @@ set(ZOLV_ICONS ${PROJECT_BINARY_DIR}/icons)
 add_custom_target(data ALL
   COMMAND ${CMAKE_COMMAND} -D "FROM=${PROJECT_SOURCE_DIR}/data$<SEMICOLON>${ZOLV_MADE}" -D TO=${ZOLV_DATA}
           -P ${PROJECT_SOURCE_DIR}/cmake/fill_data.cmake
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_SOURCE_DIR}/examples ${ZOLV_DATA}/examples
   COMMENT "Filling ${ZOLV_DATA}"
   VERBATIM)
 add_dependencies(programs data)

@@ -15,6 +15,7 @@ if(TARGET zolv)
   # From the sources: those of the build's own folder hold the choices of whoever tried the build.
   install(DIRECTORY data/ DESTINATION ${share})
   install(DIRECTORY ${ZOLV_MADE}/ DESTINATION ${share})
+  install(DIRECTORY examples DESTINATION ${share})  # which the dialog that opens a file offers
   install(DIRECTORY ${ZOLV_ICONS}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
   install(FILES packaging/zolv.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
   install(FILES packaging/io.github.tarmaq_zolv.Zolv.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

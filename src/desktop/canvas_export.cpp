@@ -7,6 +7,7 @@
 #include "desktop/plot_marks.h"
 #include "desktop/theme.h"
 #include "drawing/svg.h"
+#include "fields/windows.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "text/words.h"
@@ -27,7 +28,8 @@ FileRequest RequestFor(const std::string& title, const std::string& kind, const 
             .title = title,
             .filterLabel = kind + " (" + pattern + ")",
             .presetName = pattern,
-            .defaultExtension = extension};
+            .defaultExtension = extension,
+            .proposedName = Zolv.Select_Car.Text()};
 }
 
 }  // namespace

@@ -111,7 +111,8 @@ void ExportRun(const std::string& title) {
                               .title = title,
                               .filterLabel = "CSV (*.csv)",
                               .presetName = "*.csv",
-                              .defaultExtension = "csv"};
+                              .defaultExtension = "csv",
+                              .proposedName = Zolv.Select_Car.Text()};
     const std::string path = AskForFile(request);
     if (path.empty() || path == request.presetName) return;
     const std::string reason = WriteTextFile(path, RunAsCsv());

@@ -82,6 +82,7 @@ void DesktopTest::Start() {
     for (const char* lacking : {"Options.ini does not exist", "language list does not exist"}) {
         dialogs_.messages.removeIf([&](const QString& text) { return text.contains(QLatin1String(lacking)); });
     }
+    desktop_->Main().resize(1280, 780);  // room for every page, whatever the screen
     QApplication::setActiveWindow(&desktop_->Main());
     Settle();
 }

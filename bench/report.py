@@ -33,6 +33,8 @@ ROWS = [
     ("RunYardstick", "its yardstick, a flat loop", None, None),
     ("RunAndTable", "run and its table", "RunAndTableYardstick", 1.3),
     ("RunAndTableYardstick", "its yardstick, two flat loops", None, None),
+    ("EvaluateSetUp", "a set-up by Evaluate, with its run", "PartsOfSetUp", 1.1),
+    ("PartsOfSetUp", "its yardstick, the parts alone", None, None),
     ("SliderMove", "slider move: labels, run, table, four plots", "RunAndTableYardstick", 2),
     ("ChangeOfCar", "change of car", None, None),
     ("ChangeOfSpeedUnit", "change of the speed unit", None, None),

@@ -1,5 +1,5 @@
-// Set-ups through the model alone, without fields or files: one by Evaluate and by the parts that it is composed of, and
-// what a search for the best of ten thousand costs, on one thread and on two.
+// Set-ups through the model alone, without fields or files: one by Evaluate and by the parts that it is composed of,
+// and what a search for the best of ten thousand costs, on one thread and on two.
 
 #include <benchmark/benchmark.h>
 

@@ -17,8 +17,7 @@ inline FileState files;
 
 /// What follows; shell/wiring says what that is.
 struct FileFollowUps {
-    Hook SettingsOpened;  // a settings file was read, whether its car is known or not
-    Hook OptionsLoaded;   // the options have been applied, from a file or as they stood
+    Hook OptionsLoaded;  // the options have been applied, from a file or as they stood
 };
 inline FileFollowUps fileFollowUps;
 

@@ -1,17 +1,18 @@
 #include "files/settings_file.h"
 
+#include <array>
 #include <cstddef>
 #include <string>
 
-#include "fields/guards.h"
+#include "desk/present.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
 #include "files/settings_text.h"
 #include "model/whole_number.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
-#include "text/number_text.h"
 #include "text/texts.h"
+#include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
@@ -21,47 +22,47 @@ constexpr std::string_view kProgramName = "Tarmaq Zolv";
 constexpr const char* kPattern = "*.zolv";   // what a cancelled dialog returns
 constexpr std::size_t kLongestFile = 65536;  // a real one has some 250 bytes
 
-void Gather(GearingPanel& from, double& finalDrive, std::array<double, 6>& inputs) {
-    finalDrive = Val(from.FinalDrive.Text());
-    for (std::size_t i = 0; i < inputs.size(); ++i) inputs[i] = Val(from.Input[static_cast<int>(i) + 1].Text());
+std::array<double, 6> Numbers(const PerGear<double>& gears, double factor) {
+    std::array<double, 6> numbers{};
+    for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] = gears[i + 1] * factor;
+    return numbers;
 }
 
-/// The set-up as it stands in the fields.
-SettingsFile PresentSettings() {
-    SettingsFile file;
-    file.CarName = Zolv.Select_Car.Text();
-    file.FPressure = Zolv.Select_PressureF.Value();
-    file.RPressure = Zolv.Select_PressureR.Value();
-    Gather(Zolv.Ratios, file.GearF, file.Gear);
-    Gather(Zolv.Speeds, file.Final, file.Speed);
-    file.FWing = Zolv.Select_FrontWingAngle.Value();
-    file.RWing = Zolv.Select_RearWingAngle.Value();
-    return file;
+PerGear<double> Gears(const std::array<double, 6>& numbers, double factor) {
+    PerGear<double> gears;
+    for (std::size_t i = 0; i < numbers.size(); ++i) gears[i + 1] = numbers[i] / factor;
+    return gears;
 }
 
-void Write(GearingPanel& to, double finalDrive, const std::array<double, 6>& inputs) {
-    to.FinalDrive.SetText(NumberText(finalDrive));
-    for (std::size_t i = 0; i < inputs.size(); ++i) {
-        to.Input[static_cast<int>(i) + 1].SetText(NumberText(inputs[i]));
-    }
+/// What of a set-up a file holds; speeds in the unit in force.
+SettingsFile FileOf(const SetUp& setUp) {
+    return {.CarName = setUp.CarName,
+            .FPressure = static_cast<double>(setUp.FrontPressure),
+            .RPressure = static_cast<double>(setUp.RearPressure),
+            .GearF = setUp.FinalDrive[0],
+            .Gear = Numbers(setUp.Ratios, 1),
+            .Final = setUp.FinalDrive[1],
+            .Speed = Numbers(setUp.Speeds, units.Speed.Factor),
+            .FWing = static_cast<double>(setUp.FrontWingAngle),
+            .RWing = static_cast<double>(setUp.RearWingAngle)};
 }
 
-/// Writes a set-up to the fields, whose order is that of the file. Nothing but the car and the pressures starts a
-/// calculation on the way.
-void Apply(const SettingsFile& file) {
-    const Raised busy(guards.Busy);
-    Zolv.Select_Car.SetText(file.CarName);
-    Zolv.Select_PressureF.SetValue(ToInt32(file.FPressure));
-    Zolv.Select_PressureR.SetValue(ToInt32(file.RPressure));
-    Write(Zolv.Ratios, file.GearF, file.Gear);
-    Write(Zolv.Speeds, file.Final, file.Speed);
-    Zolv.Select_FrontWingAngle.SetValue(ToInt32(file.FWing));
-    Zolv.Select_RearWingAngle.SetValue(ToInt32(file.RWing));
+/// The set-up with what a file holds of one; the rest stays.
+SetUp With(SetUp setUp, const SettingsFile& file) {
+    setUp.CarName = file.CarName;
+    setUp.FrontPressure = ToInt32(file.FPressure);
+    setUp.RearPressure = ToInt32(file.RPressure);
+    setUp.FinalDrive = {file.GearF, file.Final};
+    setUp.Ratios = Gears(file.Gear, 1);
+    setUp.Speeds = Gears(file.Speed, units.Speed.Factor);
+    setUp.FrontWingAngle = ToInt32(file.FWing);
+    setUp.RearWingAngle = ToInt32(file.RWing);
+    return setUp;
 }
 
 /// @return whether it was written; if not, a message has said why
 bool SaveTo(const std::string& name) {
-    const std::string reason = WriteTextFile(name, SettingsText(PresentSettings()));
+    const std::string reason = WriteTextFile(name, SettingsText(FileOf(PresentSetUp())));
     if (!reason.empty()) ShowMessage(CannotWrite(name, reason));
     return reason.empty();
 }
@@ -90,23 +91,6 @@ FileRequest RequestFor(bool saving) {
 
 void SaveSettingsFile() { SaveTo(files.CurrentFileName); }
 
-bool LoadSettingsFile() {
-    const FileText file = ReadTextFile(files.OpenFileName, kLongestFile);
-    const Parsed<SettingsFile> settings = file.readable ? ParseSettings(file.text) : Refusal{file.reason};
-    if (!settings) {
-        ShowMessage(CannotRead(files.OpenFileName, settings.Reason()));
-        return false;
-    }
-    if (!IsThere(settings->CarName)) {
-        SetCurrentFile({});
-        ShowMessage(texts.TextCarNotSupported + "\r\n" + texts.TextTryAddingIt);
-        return true;
-    }
-    Apply(*settings);
-    SetCurrentFile(files.OpenFileName);
-    return true;
-}
-
 void OpenSettings() {
     const std::string name = AskForFile(RequestFor(false));
     if (name != kPattern) OpenSettingsFile(name);
@@ -114,7 +98,18 @@ void OpenSettings() {
 
 void OpenSettingsFile(const std::string& name) {
     files.OpenFileName = name;
-    if (LoadSettingsFile()) fileFollowUps.SettingsOpened();
+    const FileText file = ReadTextFile(name, kLongestFile);
+    const Parsed<SettingsFile> settings = file.readable ? ParseSettings(file.text) : Refusal{file.reason};
+    if (!settings) {
+        ShowMessage(CannotRead(name, settings.Reason()));
+    } else if (!IsThere(settings->CarName)) {
+        SetCurrentFile({});
+        ShowMessage(texts.TextCarNotSupported + "\r\n" + texts.TextTryAddingIt);
+        deskFollowUps.LaidOut();  // what was there before lies there still
+    } else {
+        SetCurrentFile(name);
+        LayOut(With(PresentSetUp(), *settings));
+    }
 }
 
 void SaveSettings() {
@@ -132,13 +127,11 @@ void SaveSettingsAs() {
 
 void CloseSettings() { SetCurrentFile({}); }
 
-std::string PresentSettingsText() { return SettingsText(PresentSettings()); }
+std::string PresentSettingsText() { return SettingsText(FileOf(PresentSetUp())); }
 
 void OpenSettingsText(std::string_view text) {
     const Parsed<SettingsFile> settings = ParseSettings(text);
-    if (!settings || !IsThere(settings->CarName)) return;
-    Apply(*settings);
-    fileFollowUps.SettingsOpened();
+    if (settings && IsThere(settings->CarName)) LayOut(With(PresentSetUp(), *settings));
 }
 
 }  // namespace zolv

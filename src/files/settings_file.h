@@ -12,16 +12,13 @@ namespace zolv {
 /// Reads: Select_Car, pressures, both gearboxes, wing angles
 void SaveSettingsFile();
 
-/// Reads files.OpenFileName and applies it, with guards.Busy set. A car in neither table shows a message and closes the
-/// current file. A file that cannot be read or has too few lines shows a message, and everything stays as it was.
-/// @return whether the file could be read, its car known or not
-bool LoadSettingsFile();
-
-/// The menu entries. FileOpen ends with the follow-up fileFollowUps.SettingsOpened, unless the dialog was cancelled or
-/// the file could not be read.
+/// The menu entry: asks for a file and opens it, unless the dialog was cancelled.
 void OpenSettings();
 
-/// Opens a file as FileOpen does with the name that its dialog returned.
+/// Lays out what a file holds of a set-up; the rest stays as it was. A file that cannot be read or has too few lines
+/// shows a message, and everything stays as it was. A car in neither table shows a message and closes the current file;
+/// the pages are then refreshed as they stand.
+/// Writes: files.OpenFileName and CurrentFileName, the title, and what LayOut writes
 void OpenSettingsFile(const std::string& name);
 
 void SaveSettings();

@@ -73,7 +73,7 @@ void WireFollowUps() {
         ShowCarInfo();
         Recalculate();
     };
-    fileFollowUps.SettingsOpened = deskFollowUps.LaidOut = [] {
+    deskFollowUps.LaidOut = [] {
         ShowCarInfo();
         ShowCarPicture();
         DrawEnginePlot();

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "desk/present.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
 #include "support/zolv_test.h"
@@ -122,7 +123,7 @@ TEST_F(SettingsFile, OfAnUnknownCarIsRefusedAndCloses) {
     for (const char* car : {"Nobody", "series lo"}) {
         Open("good.zolv", kOtherFile);
         refreshed = 0;
-        fileFollowUps.SettingsOpened = [&] { ++refreshed; };
+        deskFollowUps.LaidOut = [&] { ++refreshed; };
         Open("bad.zolv", Replaced(kStartFile, "Pell S", car));
         ExpectMessage("That car is not supported by Tarmaq Zolv.\r\nTry adding it from the Custom Presets panel.");
         EXPECT_EQ(InMemory(), kOtherFile) << car;

@@ -33,11 +33,12 @@ class Display:
     def __init__(self, folder):
         self.screen = Path(folder, "Xvfb_screen0")
         reading, writing = os.pipe()
-        # A number that no other run has: two servers that look for a free one at once can take each other's.
+        # A number that no other run has: two servers that look for a free one at once can take each other's. And no
+        # reset when the first client leaves, during which the server would turn the program away.
         number = 100 + os.getpid() % 59000
         self.server = subprocess.Popen(
             ["Xvfb", f":{number}", "-displayfd", str(writing), "-screen", "0", f"{SIZE[0]}x{SIZE[1]}x24", "-fbdir", folder,
-             "-nolisten", "tcp"], pass_fds=[writing], stderr=subprocess.DEVNULL)
+             "-nolisten", "tcp", "-noreset"], pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as ready:
             self.name = ":" + ready.readline().strip()

@@ -136,10 +136,20 @@ def third_gear(path):
 
 def save(display, window, path):
     """By keys: File, Save As; then the name in the dialog."""
-    display.do("windowfocus", window)
-    open_file_menu(display)
-    display.do("key", "a")
-    dialog = wait_for("the dialog", lambda: display.do("search", "--onlyvisible", "--name", "Save settings"))[0]
+    def asked():
+        """A busy machine can show the menu before it takes keys, and the key is lost: then once more from the start."""
+        display.do("windowfocus", window)
+        open_file_menu(display)
+        time.sleep(0.2)
+        display.do("key", "a")
+        for _ in range(60):
+            if found := display.do("search", "--onlyvisible", "--name", "Save settings"):
+                return found
+            time.sleep(0.05)
+        display.do("key", "Escape")
+        return None
+
+    dialog = wait_for("the dialog", asked)[0]
     display.do("windowfocus", dialog)
     display.do("key", "ctrl+a")
     display.do("type", "--delay", "20", path)

@@ -12,6 +12,7 @@
 #include "platform/text_files.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
+#include "text/version.h"
 
 namespace {
 
@@ -90,7 +91,7 @@ int main(int argc, char** argv) {
             return 0;
         }
         if (argument == "--version") {
-            std::cout << "zolv-batch 2.5.3\n";
+            std::cout << "zolv-batch " << zolv::Version() << '\n';
             return 0;
         }
         if (argument != kStandardInput && argument.starts_with('-')) {

@@ -2,6 +2,7 @@
 
 #include "fields/field_row.h"
 #include "fields/kinds.h"
+#include "text/version.h"
 
 /// The main window as a form. Words that a language can replace are not here: they stand in the caption table and in
 /// the table of words.
@@ -82,7 +83,7 @@ public:
     Label Label_Car{*this, "Label_Car"};
     PickList Select_Car{*this, "Select_Car"};
     TabStrip Select_Page{*this, "Select_Page", 4};
-    Label Zolv_version{*this, "Zolv_version", {.caption = "v2.5.3"}};
+    Label Zolv_version{*this, "Zolv_version", {.caption = WithVersion("v{version}")}};
     Picture TitleImage{*this, "TitleImage"};
     Picture TarmaqLogo{*this, "TarmaqLogo"};
     FieldArray<Panel, 4> Page{*this, "Page", [](int i) { return PanelState{.stack = 1, .front = i == 0}; }};

@@ -3,6 +3,7 @@
 #include <cassert>
 
 #include "fields/windows.h"
+#include "text/version.h"
 
 namespace zolv {
 namespace {
@@ -64,7 +65,7 @@ constexpr std::array<CaptionLine, kCaptionLines> kCaptionTable{{
     {43, "Efficiency:", {"InfoLabel(9)"}},
     {44, "This graph shows both engine power and torque vs. engine rpm", {ToolTip("TorquePowerPlot")}},
     {45, "About Tarmaq Zolv", {"InfoPanel(2)"}},
-    {46, "Tarmaq Zolv v2.5.3, made by drivers for drivers", {AboutParagraph(0)}},
+    {46, "Tarmaq Zolv v{version}, made by drivers for drivers", {AboutParagraph(0)}},
     {47, "Built in C++ with Qt", {AboutParagraph(1)}},
     {48, "Made to try and take the guesswork out of gearing", {AboutParagraph(2)}},
     {49, "The latest version is at the place where you found this one", {AboutParagraph(3)}},
@@ -401,7 +402,7 @@ void Assign(const Target& target, std::string_view line) {
         case Target::Kind::GearName: texts.GearNames[row] = text; break;
         case Target::Kind::UnitName: (units.*target.quantity).UnitNames[row] = text; break;
         case Target::Kind::AboutParagraph:
-            texts.AboutParagraphs[row] = text;
+            texts.AboutParagraphs[row] = WithVersion(text);
             if (row + 1 == texts.AboutParagraphs.size()) ShowAbout();
             break;
     }
@@ -423,7 +424,7 @@ std::string BuiltInLanguage() {
     std::string text;
     for (const CaptionLine& line : kCaptionTable) {
         if (line.number > 0) text += "\r\n";
-        text += line.builtIn;
+        text += WithVersion(line.builtIn);
     }
     return text;
 }

@@ -60,11 +60,15 @@ TEST_F(Batch, AnUnusableLineEndsTheRun) {
 TEST_F(Batch, TellsItsUseAndItsVersion) {
     const BatchRun help = RunBatch("", "--help");
     EXPECT_EQ(help.status, 0);
+    const std::string manual = ContentOf(ZOLV_SOURCE_DIR "/packaging/man/zolv-batch.1.in");
     for (const char* command : {"set FIELD VALUE", "click FIELD", "get FIELD", "canvas FIELD", "picture FIELD FILE",
                                 "answer PATH", "write-language FILE", "write-words FILE", "report"}) {
         EXPECT_THAT(help.output, HasSubstr(command));
+        const std::string name =
+            Replaced(std::string(command).substr(0, std::string_view(command).find(' ')), "-", "\\-");
+        EXPECT_THAT(manual, testing::ContainsRegex("\n\\.BI? " + Replaced(name, "\\", "\\\\"))) << "the man page";
     }
-    EXPECT_EQ(RunBatch("", "--version").output, "zolv-batch 2.5.3\n");
+    EXPECT_EQ(RunBatch("", "--version").output, "zolv-batch " ZOLV_VERSION "\n");
     const BatchRun unknown = RunBatch("", "--halp");
     EXPECT_EQ(unknown.status, 2);
     EXPECT_EQ(unknown.output, "");

@@ -1,4 +1,4 @@
-// zolv: the program on the desktop. It reads no command line of its own.
+// zolv: the program on the desktop.
 
 #include <QApplication>
 #include <QIcon>
@@ -12,6 +12,7 @@
 #include "desktop/theme.h"
 #include "desktop/window_dialogs.h"
 #include "platform/text_files.h"
+#include "shell/command_line.h"
 #include "shell/fresh_start.h"
 #include "shell/shell_state.h"
 #include "shell/start_up.h"
@@ -31,12 +32,14 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
 }  // namespace
 
 int main(int argc, char** argv) {
+    const zolv::CommandLine line = zolv::ReadCommandLine({argv + 1, argv + argc});
+    if (!line.answer.empty() || !line.fault.empty()) return zolv::Answer(line);
     zolv::SurviveSizeLimit();
     const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(usual);
     QApplication::setApplicationName(QStringLiteral("zolv"));
-    QApplication::setDesktopFileName(QStringLiteral("zolv"));
+    QApplication::setDesktopFileName(QStringLiteral("io.github.tarmaq_zolv.Zolv"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zolv"), QIcon(QStringLiteral("zolv.png"))));
     QApplication::setQuitOnLastWindowClosed(false);  // on a first run the main window waits behind the languages
     zolv::ApplyTheme();
@@ -51,9 +54,11 @@ int main(int argc, char** argv) {
         QApplication::exit();  // quit() would ask each open window
     };
     dialogs.Gather();
+    zolv::EnterDataFolder();
     zolv::LoadZolv();
     visit.BringBack();
     dialogs.SetParent(&desktop.Main());
+    zolv::OpenNamedFile(line);
     desktop.Open();
     QTimer::singleShot(0, [&dialogs] { dialogs.ShowGathered(); });
     const int result = QApplication::exec();

@@ -34,8 +34,12 @@ QString FilterOf(const FileRequest& request) {
     return filter;
 }
 
-/// The path of a file in the program's folder.
-QString Beside(const char* name) { return QDir(ToQt(platform.AppPath)).filePath(QLatin1String(name)); }
+/// The path of a file or folder in the program's folder or, where that lacks it, among what is installed.
+QString Beside(const char* name) {
+    const QString own = QDir(ToQt(platform.AppPath)).filePath(QLatin1String(name));
+    if (QFileInfo::exists(own) || platform.SharedPath.empty()) return own;
+    return QDir(ToQt(platform.SharedPath)).filePath(QLatin1String(name));
+}
 
 QString Documents() {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);

@@ -18,7 +18,9 @@ namespace {
 
 constexpr std::size_t kLongestFile = 65536;  // a real one has some 500 bytes
 
-std::string OptionsPath() { return platform.AppPath + "Options.ini"; }
+constexpr const char* kName = "Options.ini";
+
+std::string OptionsPath() { return platform.AppPath + kName; }
 
 OptionsFile PresentOptions() {
     OptionsFile file{.Options = options};
@@ -28,7 +30,7 @@ OptionsFile PresentOptions() {
 
 /// The message on a file that is not used; empty when its options are in force.
 std::string ReadOptions() {
-    const std::string path = OptionsPath();
+    const std::string path = DataFile(kName);
     const FileText file = ReadTextFile(path, kLongestFile);
     if (file.missing || (file.readable && file.text.empty())) return texts.TextOptionsMissing;
     const Parsed<OptionsFile> read = file.readable ? ParseOptions(file.text) : Refusal{file.reason};

@@ -57,7 +57,7 @@ void AssignFieldWords() {
 }
 
 void LoadWords(const std::string& language) {
-    const std::string path = platform.AppPath + "words_" + language + ".txt";
+    const std::string path = DataFile("words_" + language + ".txt");
     const FileText file = ReadTextFile(path, kLongestFile);
     if (!file.readable && !file.missing) ShowMessage(CannotRead(path, file.reason));
     words = Words::Read(file.text);

@@ -68,7 +68,7 @@ void AssignLines(const LanguageLines& lines) {
 
 void ChangeLanguage() {
     const std::string& name = LanguageSelection.LanguageList.Text();
-    const std::string path = platform.AppPath + "language_" + name + ".txt";
+    const std::string path = DataFile("language_" + name + ".txt");
     if (LeavesFolder(name) || FileExists(path) == 0) {
         ShowMessage("The language file cannot be found: " + path);
         return;

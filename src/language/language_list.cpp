@@ -16,12 +16,14 @@ namespace {
 
 constexpr std::size_t kLongestList = 65536;
 
-std::string ListPath() { return platform.AppPath + "languages.lst"; }
+constexpr const char* kListName = "languages.lst";
+
+std::string ListPath() { return platform.AppPath + kListName; }
 
 /// Reads the file; nothing, after a message, where it cannot be used.
 /// @param lost  what cannot be done without the list
 std::optional<LanguageListFile> ReadList(const std::string& lost) {
-    const std::string path = ListPath();
+    const std::string path = DataFile(kListName);
     if (FileExists(path) == 0) {
         ShowMessage("The language list does not exist - the language cannot be " + lost + ".");
         return std::nullopt;

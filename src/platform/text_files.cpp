@@ -114,6 +114,12 @@ std::string CurrentDirectory() {
     return path;
 }
 
+std::string DataFile(const std::string& name) {
+    const bool isShared = !platform.SharedPath.empty() && FileExists(platform.AppPath + name) == 0 &&
+                          FileExists(platform.SharedPath + name) != 0;
+    return (isShared ? platform.SharedPath : platform.AppPath) + name;
+}
+
 std::int16_t FileExists(const std::string& path) {
     if (path.find('\0') != std::string::npos) return 0;
     std::error_code error;

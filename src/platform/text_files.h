@@ -7,11 +7,16 @@
 
 namespace zolv {
 
-/// Where the program looks for its own files: the current directory at start, ended by the platform's separator.
+/// Where the program looks for its own files.
 struct PlatformState {
-    std::string AppPath;
+    std::string AppPath;     // the current directory at start, ended by the platform's separator
+    std::string SharedPath;  // ended so, too: where files lie that the other lacks; empty for nowhere
 };
 extern PlatformState platform;
+
+/// The program's own file of that name, for reading: in AppPath, or where it is missing there and is in SharedPath, in
+/// that. Writing goes to AppPath.
+[[nodiscard]] std::string DataFile(const std::string& name);
 
 /// For the start of a program: a file that grows beyond the user's limit is from then on a failed write with its
 /// message, and no longer the end of the program.

@@ -66,8 +66,8 @@ void LoadZolv() {
     AnalyseTyres();
     LoadOptions();  // and with them the first full calculation
     ShowCarPicture();
-    ShowIfThere(Zolv.TitleImage, platform.AppPath + "title.png");
-    ShowIfThere(Zolv.TarmaqLogo, platform.AppPath + "logo.png");
+    ShowIfThere(Zolv.TitleImage, DataFile("title.png"));
+    ShowIfThere(Zolv.TarmaqLogo, DataFile("logo.png"));
     LoadLanguageList();
     OfferFirstLanguageChoice();
 }

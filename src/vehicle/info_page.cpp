@@ -102,7 +102,7 @@ void ShowCarInfo() {
 
 void ShowCarPicture() {
     for (const std::string& name : {Zolv.Select_Car.Text(), std::string("unknown")}) {
-        const std::string path = platform.AppPath + name + ".jpg";
+        const std::string path = DataFile(name + ".jpg");
         if (!CanNameFile(name) || FileExists(path) == 0) continue;
         Zolv.Info_CarPic.SetPath(path);
         return;

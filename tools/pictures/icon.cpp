@@ -7,7 +7,7 @@
 namespace zolv::pictures {
 namespace {
 
-const QColor kWheel(0x3a668c), kFace(0xf6f8fa), kCurve(0xe2661c);
+const QColor kWheel(0x3a668c), kFace(0xf6f8fa), kCurve(0xe2661c), kSheetEdge(0x9aa5b1);
 
 /// Measures on a square of 128.
 struct IconForm {
@@ -71,6 +71,26 @@ QImage IconOf(int size) {
     QPainter painter(&image);
     painter.scale(size / kGrid, size / kGrid);
     Paint(painter, FormFor(size));
+    return image;
+}
+
+QImage SheetIconOf(int size, const QColor& stripe) {
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size / kGrid, size / kGrid);
+    painter.setPen(QPen(kSheetEdge, 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(kFace);
+    painter.drawPolygon(QPolygonF({{20, 4}, {80, 4}, {108, 32}, {108, 124}, {20, 124}}));
+    painter.setBrush(kSheetEdge);
+    painter.drawPolygon(QPolygonF({{80, 4}, {108, 32}, {80, 32}}));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(stripe);
+    painter.drawRect(QRectF(30, 104, 68, 12));
+    painter.translate(32, 36);
+    painter.scale(0.5, 0.5);
+    Paint(painter, FormFor(size / 2));
     return image;
 }
 

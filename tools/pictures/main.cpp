@@ -2,11 +2,13 @@
 //
 // Usage: zolv-pictures PICTURES ICONS
 //   PICTURES  folder for the cars, "unknown.jpg", "title.png", "logo.png" and "zolv.png"
-//   ICONS     folder for the icon theme: SIZExSIZE/apps/zolv.png and scalable/apps/zolv.svg
+//   ICONS     folder for the icon theme: SIZExSIZE/apps/zolv.png, scalable/apps/zolv.svg, and an icon for each kind of
+//             file, SIZExSIZE/mimetypes/application-x-zolv-KIND.png
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 #include <cstdio>
 
 #include "model/catalogue.h"
@@ -18,6 +20,13 @@ namespace zolv::pictures {
 namespace {
 
 constexpr int kQuality = 88;
+
+struct FileKind {
+    const char* name;
+    QRgb stripe;
+};
+constexpr FileKind kFileKinds[] = {{"setup", 0xe2661c}, {"preset", 0x3a668c}, {"straights", 0x4f8a4b}};
+
 constexpr int kIconSizes[] = {16, 22, 24, 32, 48, 64, 128, 256, 512};
 
 bool Complain(const QString& what) {
@@ -44,8 +53,18 @@ bool SaveMarks(const QDir& folder) {
            Save(IconOf(256), folder.filePath(QStringLiteral("zolv.png")));
 }
 
+bool SaveFileIcons(const QDir& theme, int size) {
+    const QString folder = QStringLiteral("%1x%1/mimetypes").arg(size);
+    if (!theme.mkpath(folder)) return Complain(QStringLiteral("cannot make ") + folder);
+    return std::ranges::all_of(kFileKinds, [&](const FileKind& kind) {
+        const QString name = QStringLiteral("/application-x-zolv-") + QLatin1String(kind.name) + QStringLiteral(".png");
+        return Save(SheetIconOf(size, QColor(kind.stripe)), theme.filePath(folder + name));
+    });
+}
+
 bool SaveIcons(const QDir& theme) {
     for (const int size : kIconSizes) {
+        if (!SaveFileIcons(theme, size)) return false;
         const QString folder = QStringLiteral("%1x%1/apps").arg(size);
         if (!theme.mkpath(folder) || !Save(IconOf(size), theme.filePath(folder + QStringLiteral("/zolv.png"))))
             return false;

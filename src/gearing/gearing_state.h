@@ -32,11 +32,8 @@ struct GearingState {
     /// What the driver gives on the page in force.
     [[nodiscard]] Direction From() const { return RatiosMode ? Direction::FromRatios : Direction::FromSpeeds; }
 
-    [[nodiscard]] Gearbox& Box(Direction direction) {
-        return direction == Direction::FromRatios ? FromRatios : FromSpeeds;
-    }
     /// The gearbox of the page in force.
-    [[nodiscard]] Gearbox& Present() { return Box(From()); }
+    [[nodiscard]] Gearbox& Present() { return RatiosMode ? FromRatios : FromSpeeds; }
 };
 inline GearingState gearing;
 

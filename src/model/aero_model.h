@@ -46,15 +46,21 @@ struct AirProfile {
                                    const Fitting& rearWing, double airDensity);
 
 /// All forces at one speed [N].
-struct AirForces {
-    double BodyDrag = 0, BodyLift = 0;
-    double UndertrayDrag = 0, UndertrayLift = 0;
-    double FrontWingDrag = 0, FrontWingLift = 0;
-    double RearWingDrag = 0, RearWingLift = 0;
-    double TotalDrag = 0, TotalLift = 0;
-    double RollingResistance = 0;
-    double TotalFriction = 0;  // drag and rolling resistance
+template <class Number>
+struct ForcesIn {
+    Number BodyDrag = 0, BodyLift = 0;
+    Number UndertrayDrag = 0, UndertrayLift = 0;
+    Number FrontWingDrag = 0, FrontWingLift = 0;
+    Number RearWingDrag = 0, RearWingLift = 0;
+    Number TotalDrag = 0, TotalLift = 0;
+    Number RollingResistance = 0;
+    Number TotalFriction = 0;  // drag and rolling resistance
+
+    bool operator==(const ForcesIn&) const = default;
 };
+using AirForces = ForcesIn<double>;
+using StoredForces = ForcesIn<float>;  // as the page keeps them
+
 /// The body's drag is (q Cd) FrontalArea, with q the dynamic pressure.
 [[nodiscard]] AirForces ForcesAt(double speed, const AirProfile& car);
 

@@ -13,19 +13,6 @@ struct Fittings {
 [[nodiscard]] Fittings FittingsOf(const CarRecord& car, int frontWingAngle, int rearWingAngle);
 [[nodiscard]] AirProfile ProfileOf(const CarRecord& car, const Fittings& fittings);
 
-/// The forces at the speed in force, as they are stored [N].
-struct StoredForces {
-    float BodyDrag = 0, BodyLift = 0;
-    float UndertrayDrag = 0, UndertrayLift = 0;
-    float FrontWingDrag = 0, FrontWingLift = 0;
-    float RearWingDrag = 0, RearWingLift = 0;
-    float TotalDrag = 0, TotalLift = 0;
-    float RollingResistance = 0;
-    float TotalFriction = 0;  // drag and rolling resistance
-
-    bool operator==(const StoredForces&) const = default;
-};
-
 /// Each force rounded by itself, the sums too: the forces at the top speed.
 [[nodiscard]] StoredForces RoundedForces(const AirForces& forces);
 

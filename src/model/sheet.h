@@ -18,9 +18,6 @@ struct RunSheet {
     int LastRow = -1;  // of the rows; -1 where there was no run
     double Speed = 0;  // [m/s] at the end
     AccelResults Results;
-
-    /// Whether the run ended for want of rows: the car was still gaining after 90 s.
-    [[nodiscard]] bool StillGaining() const { return LastRow == kAccelRows - 1; }
 };
 
 /// What follows from a set-up: everything that any page shows, in base units.

@@ -56,7 +56,8 @@ void DrawLines(Canvas& canvas, std::int64_t count) {
     canvas.Clear();
     for (std::int64_t i = 0; i < count; ++i) {
         const auto x = static_cast<double>(i % 400);
-        canvas.Line(x, 0.1 * x, x + 1, 200 - 0.3 * x, i % 2 == 0 ? kRed : kBlue);
+        canvas.Line(i % 2 == 0 ? Role::Resistance : Role::NetForce, x, 0.1 * x, x + 1, 200 - 0.3 * x,
+                    i % 2 == 0 ? kRed : kBlue);
     }
 }
 

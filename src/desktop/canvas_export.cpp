@@ -6,7 +6,6 @@
 #include "desktop/canvas_painting.h"
 #include "desktop/plot_marks.h"
 #include "desktop/theme.h"
-#include "drawing/svg.h"
 #include "fields/windows.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
@@ -22,11 +21,11 @@ void Save(const FileRequest& request, std::string_view content) {
     if (!reason.empty()) ShowMessage(CannotWrite(path, reason));
 }
 
-FileRequest RequestFor(const std::string& title, const std::string& kind, const std::string& extension) {
+FileRequest RequestFor(std::string_view title, std::string_view kind, const std::string& extension) {
     const std::string pattern = "*." + extension;
     return {.forSaving = true,
-            .title = title,
-            .filterLabel = kind + " (" + pattern + ")",
+            .title = std::string(title),
+            .filterLabel = std::string(kind) + " (" + pattern + ")",
             .presetName = pattern,
             .defaultExtension = extension,
             .proposedName = Zolv.Select_Car.Text()};
@@ -41,25 +40,24 @@ void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& plac
     painter.setFont(font);
     PaintPrints(painter, canvas, place.ground);
     painter.setFont(NumberFont(font));
-    PaintNumbers(painter, canvas, place, inks.words);
-    PaintLegend(painter, canvas, place, inks.words);
+    PaintLabels(painter, canvas, place, inks.words);
 }
 
-QImage PictureOf(const Canvas& canvas, CanvasShape shape, const QSize& size, const QFont& font) {
+QImage PictureOf(const Canvas& canvas, const SvgSize& size, const QFont& font) {
     constexpr int kResolution = 2;
-    const QSize whole = size + QSize(2 * kMargin, 2 * kMargin);
-    QImage image(whole * kResolution, QImage::Format_RGB32);
+    const QSizeF whole(size.width + 2 * kMargin, size.height + 2 * kMargin);
+    QImage image((whole * kResolution).toSize(), QImage::Format_RGB32);
     image.setDevicePixelRatio(kResolution);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.translate(kMargin, kMargin);
-    const PlotPlace place = PlaceOf(canvas, shape, size, QFontMetricsF(NumberFont(font)));
-    PaintPicture(painter, canvas, place, font, {.words = QColor(60, 66, 74), .frame = QColor(150, 156, 164)});
+    const PlotPlace place = PlaceOf(canvas, size.shape, {size.width, size.height}, MeasureOf(NumberFont(font)));
+    PaintPicture(painter, canvas, place, font, {.words = ToQt(kWordsInk), .frame = ToQt(kFrameInk)});
     return image;
 }
 
-void SaveAsSvg(const Canvas& canvas) {
-    Save(RequestFor(words["SaveAsSvg"], words["SvgPicture"], "svg"), SvgOf(canvas));
+void SaveAsSvg(const Canvas& canvas, const SvgSize& size) {
+    Save(RequestFor(words["SaveAsSvg"], words["SvgPicture"], "svg"), SvgOf(canvas, size));
 }
 
 void SaveAsPng(const QImage& picture) {

@@ -4,28 +4,28 @@
 #include <QImage>
 #include <QPainter>
 
-#include "desktop/plot_place.h"
+#include "drawing/svg.h"
 
 namespace zolv {
 
 /// Inks around the white ground of a canvas.
 struct CanvasInks {
-    QColor words;  // numbers, units and legend
+    QColor words;  // numbers, titles and legend
     QColor frame;
     double frameWidth = 1;  // in pixels of the layout
 };
 
-/// Paints a drawing with its numbers and legend as it stands in a view.
+/// Paints a drawing with its numbers and names as it stands in a view.
 /// @param font  of the view
 void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QFont& font,
                   const CanvasInks& inks);
 
 /// A drawing as it stands in a view of that size, at twice its resolution, in dark words on white with a margin
 /// around.
-[[nodiscard]] QImage PictureOf(const Canvas& canvas, CanvasShape shape, const QSize& size, const QFont& font);
+[[nodiscard]] QImage PictureOf(const Canvas& canvas, const SvgSize& size, const QFont& font);
 
 /// Ask for a file and write a drawing into it; say so where that fails.
-void SaveAsSvg(const Canvas& canvas);
+void SaveAsSvg(const Canvas& canvas, const SvgSize& size);
 void SaveAsPng(const QImage& picture);
 
 }  // namespace zolv

@@ -8,20 +8,17 @@
 
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
+#include "drawing/palette.h"
 
 namespace zolv {
 namespace {
 
 using Kind = DrawingOperation::Kind;
 
-// The grid is drawn in black like the curves; it steps back behind them here.
-constexpr QColor kGridInk{224, 227, 231};
-constexpr QColor kZeroInk{150, 156, 164};  // the line of the value zero
-
 /// The lines of one pen that wait to be painted, as polylines.
 struct Strand {
-    Rgb colour;
-    std::uint16_t width = 0;
+    Meaning meaning;
+    StrokeStyle style;
     std::vector<QPointF> points;
     std::vector<std::size_t> starts;  // of each polyline, in `points`
 
@@ -68,16 +65,12 @@ public:
           canvas_(canvas),
           ground_(ground),
           scale_(scale),
-          whole_(place.part),
           cut_(place.part),
+          grid_(canvas, place),
           map_(MapOnto(place.part, ground.x(), ground.y(), ground.width(), ground.height())) {
         const double reserveX = place.part.Width() * 0.05;  // keeps the ends of cut lines out of sight
         const double reserveY = place.part.Height() * 0.05;
         cut_ = {cut_.left - reserveX, cut_.top - reserveY, cut_.right + reserveX, cut_.bottom + reserveY};
-        const Canvas::Axes& axes = canvas.PresentAxes();
-        if (!place.hasAxes) return;
-        gridStepX_ = PaintedGridStep(axes.x, place.xNumbers, place.Mapping().scaleX);
-        gridStepY_ = PaintedGridStep(axes.y, place.yNumbers, place.Mapping().scaleY);
     }
 
     void Paint() {
@@ -93,45 +86,23 @@ public:
     }
 
 private:
-    double PenWidth(int width) const { return std::max(1.0, width * scale_); }
-
-    bool HasAxes() const { return canvas_.PresentAxes().present; }
-
-    /// A thin line along an axis, or any that runs all across, is a rule.
-    bool IsRule(const DrawingOperation& line) const {
-        constexpr double kAcross = 0.9;
-        if (line.y1 == line.y2) return line.width <= 1 || std::fabs(line.x2 - line.x1) > whole_.Width() * kAcross;
-        if (line.x1 == line.x2) return line.width <= 1 || std::fabs(line.y2 - line.y1) > whole_.Height() * kAcross;
-        return false;
-    }
+    double PenWidth(double width) const { return std::max(1.0, width * scale_); }
 
     void PaintLine(DrawingOperation line) {
-        const bool onGrid = HasAxes() && IsGridLine(line);
-        if ((onGrid && IsLeftOut(line)) || !CutLine(line, cut_)) return;
-        if (onGrid) {
-            PaintRule(line, IsZeroInside(line) ? kZeroInk : kGridInk);
-        } else if (IsRule(line)) {
-            PaintRule(line, InkColour(line.colour));
+        const bool onGrid = line.meaning.role == Role::Grid;
+        if ((onGrid && !grid_.Shows(line)) || !CutLine(line, cut_)) return;
+        if (onGrid) return PaintRule(line, ToQt(grid_.ColourOf(line)), 1);
+        const StrokeStyle style = StyleOf(line);
+        const bool isStraight = line.x1 == line.x2 || line.y1 == line.y2;
+        if (isStraight && !style.dashed && !IsCurve(line.meaning.role)) {
+            PaintRule(line, ToQt(style.colour), style.width);
         } else {
-            StrandOf(line).Add({map_.X(line.x1), map_.Y(line.y1)}, {map_.X(line.x2), map_.Y(line.y2)});
+            StrandOf(line.meaning, style).Add({map_.X(line.x1), map_.Y(line.y1)}, {map_.X(line.x2), map_.Y(line.y2)});
         }
     }
 
-    bool IsLeftOut(const DrawingOperation& gridLine) const {
-        const Canvas::Axes& axes = canvas_.PresentAxes();
-        return gridLine.x1 == gridLine.x2 ? !IsPaintedGridLine(axes.x, gridLine.x1, gridStepX_)
-                                          : !IsPaintedGridLine(axes.y, gridLine.y1, gridStepY_);
-    }
-
-    /// Whether a grid line is that of the value zero and not on the frame, which would double it.
-    bool IsZeroInside(const DrawingOperation& gridLine) const {
-        const Canvas::Axes& axes = canvas_.PresentAxes();
-        if (gridLine.x1 == gridLine.x2) return gridLine.x1 == axes.x.origin && gridLine.x1 > whole_.left;
-        return gridLine.y1 == axes.y.origin && gridLine.y1 < whole_.bottom;
-    }
-
-    void PaintRule(const DrawingOperation& line, const QColor& ink) {
-        const int width = qRound(PenWidth(line.width));
+    void PaintRule(const DrawingOperation& line, const QColor& ink, double layoutWidth) {
+        const int width = qRound(PenWidth(layoutWidth));
         const double x1 = map_.X(std::min(line.x1, line.x2));
         const double x2 = map_.X(std::max(line.x1, line.x2));
         const double y1 = map_.Y(std::min(line.y1, line.y2));
@@ -168,8 +139,7 @@ private:
         const double bottom = std::clamp(std::max(rectangle.y1, rectangle.y2), cut_.top, cut_.bottom);
         const QPoint corner(qRound(map_.X(left)), qRound(map_.Y(top)));
         const QPoint end(qRound(map_.X(right)), qRound(map_.Y(bottom)));
-        painter_.fillRect(QRect(corner, QSize(end.x() - corner.x(), end.y() - corner.y())),
-                          InkColour(rectangle.colour));
+        painter_.fillRect(QRect(corner, QSize(end.x() - corner.x(), end.y() - corner.y())), ToQt(FillOf(rectangle)));
     }
 
     void PaintCircle(const DrawingOperation& circle) {
@@ -179,15 +149,15 @@ private:
         if (!(radius > 0) || std::fabs(circle.x1) > kLargest || std::fabs(circle.y1) > kLargest) return;
         painter_.setRenderHint(QPainter::Antialiasing);
         painter_.setPen(Qt::NoPen);
-        painter_.setBrush(InkColour(circle.colour));
+        painter_.setBrush(ToQt(FillOf(circle)));
         painter_.drawEllipse(QPointF(map_.X(circle.x1), map_.Y(circle.y1)), radius * map_.scaleX, radius * map_.scaleY);
     }
 
-    Strand& StrandOf(const DrawingOperation& line) {
+    Strand& StrandOf(Meaning meaning, const StrokeStyle& style) {
         for (Strand& strand : strands_) {
-            if (strand.colour == line.colour && strand.width == line.width) return strand;
+            if (strand.meaning == meaning && strand.style == style) return strand;
         }
-        return strands_.emplace_back(Strand{line.colour, line.width, {}, {}});
+        return strands_.emplace_back(Strand{meaning, style, {}, {}});
     }
 
     /// The painter's time for one stroke grows with the square of its length along a row of pixels.
@@ -206,12 +176,16 @@ private:
         painter_.setRenderHint(QPainter::Antialiasing);
         painter_.setBrush(Qt::NoBrush);
         for (const Strand& strand : strands_) {
-            painter_.setPen(
-                QPen(InkColour(strand.colour), PenWidth(strand.width), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            painter_.setPen(PenOf(strand.style, scale_));
             for (std::size_t i = 0; i < strand.starts.size(); ++i) {
                 const std::size_t start = strand.starts[i];
                 const std::size_t end = i + 1 < strand.starts.size() ? strand.starts[i + 1] : strand.points.size();
-                PaintPolyline(Straightened(std::span(strand.points).subspan(start, end - start)));
+                const std::vector<QPointF> points = Straightened(std::span(strand.points).subspan(start, end - start));
+                if (strand.style.dashed) {
+                    painter_.drawPolyline(points.data(), static_cast<int>(points.size()));  // dashes run on
+                } else {
+                    PaintPolyline(points);
+                }
             }
         }
         strands_.clear();
@@ -221,9 +195,9 @@ private:
     const Canvas& canvas_;
     QRect ground_;
     double scale_;
-    CanvasPart whole_, cut_;
+    CanvasPart cut_;
+    ShownGrid grid_;
     CanvasMapping map_;
-    double gridStepX_ = 1, gridStepY_ = 1;
     std::vector<Strand> strands_;
     QRect lastRule_;
     QColor lastRuleInk_;
@@ -256,7 +230,7 @@ double LayPrints(QPainter& painter, const std::vector<PrintedText>& prints, QRec
     const double gap = painter.fontMetrics().height() * 0.4;
     room.setHeight(kEndless);
     for (const PrintedText& print : prints) {
-        painter.setPen(InkColour(print.colour));
+        painter.setPen(ToQt(Softened(print.colour)));
         QRectF taken = painter.boundingRect(room, kWrapped, print.text);
         if (painted) painter.drawText(room, kWrapped, print.text);
         room.setTop(taken.bottom() + gap);
@@ -277,9 +251,17 @@ QRect DevicePixels::Snapped(const QRectF& rectangle) const {
     return {corner, QSize(qRound(device.right()) - corner.x(), qRound(device.bottom()) - corner.y())};
 }
 
-void PaintGround(QPainter& painter, const QRectF& ground, const QColor& frame, double frameWidth) {
+QPen PenOf(const StrokeStyle& style, double scale) {
+    QPen pen(ToQt(style.colour), std::max(1.0, style.width * scale), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (!style.dashed) return pen;
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setDashPattern({kDash, kDashGap});
+    return pen;
+}
+
+void PaintGround(QPainter& painter, const Box& ground, const QColor& frame, double frameWidth) {
     const DevicePixels pixels(painter);
-    const QRect inner = pixels.Snapped(ground);
+    const QRect inner = pixels.Snapped(ToQt(ground));
     const int width = std::max(1, static_cast<int>(std::floor(frameWidth * pixels.Scale())));
     painter.fillRect(inner.adjusted(-width, -width, width, width), frame);
     painter.fillRect(inner, Qt::white);
@@ -287,15 +269,16 @@ void PaintGround(QPainter& painter, const QRectF& ground, const QColor& frame, d
 
 void PaintStrokes(QPainter& painter, const Canvas& canvas, const PlotPlace& place) {
     const DevicePixels pixels(painter);
-    const QRect ground = pixels.Snapped(place.ground);
+    const QRect ground = pixels.Snapped(ToQt(place.ground));
     painter.setClipRect(ground, Qt::IntersectClip);
     StrokePainter(painter, canvas, place, ground, pixels.Scale()).Paint();
 }
 
-void PaintPrints(QPainter& painter, const Canvas& canvas, const QRectF& ground) {
+void PaintPrints(QPainter& painter, const Canvas& canvas, const Box& box) {
     constexpr double kSmallest = 6.5;  // points
     const std::vector<PrintedText> prints = PrintsOf(canvas);
     if (prints.empty()) return;
+    const QRectF ground = ToQt(box);
     painter.save();
     painter.setClipRect(ground, Qt::IntersectClip);
     const QRectF room = ground.adjusted(kMargin, kMargin, -kMargin, -kMargin);

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QColor>
 #include <QPainter>
+#include <QPen>
+#include <QRectF>
 
-#include "desktop/plot_place.h"
+#include "drawing/stroke_style.h"
 
 namespace zolv {
 
@@ -28,13 +31,21 @@ private:
 
 /// Paints the white ground of a drawing and a frame around it, in `frame`.
 /// @param frameWidth  in pixels of the layout, one device pixel at least
-void PaintGround(QPainter& painter, const QRectF& ground, const QColor& frame, double frameWidth);
+void PaintGround(QPainter& painter, const Box& ground, const QColor& frame, double frameWidth);
 
-/// Paints what is drawn on a canvas, except for prints: lines at least one device pixel wide, those of the grid and
-/// other straight rules on whole device pixels, curves smooth. Nothing leaves the ground.
+/// A box of a view as Qt takes it.
+[[nodiscard]] inline QRectF ToQt(const Box& box) { return {box.left, box.top, box.width, box.height}; }
+
+[[nodiscard]] inline QColor ToQt(Rgb colour) { return {colour.red, colour.green, colour.blue}; }
+
+/// Paints what is drawn on a canvas, except for prints: lines at least one device pixel wide, those of the grid, marks
+/// and other straight rules on whole device pixels, curves smooth. Nothing leaves the ground.
 void PaintStrokes(QPainter& painter, const Canvas& canvas, const PlotPlace& place);
 
 /// Paints the prints on a canvas, wrapped, one below the other, in a font that is made smaller until they fit.
-void PaintPrints(QPainter& painter, const Canvas& canvas, const QRectF& ground);
+void PaintPrints(QPainter& painter, const Canvas& canvas, const Box& ground);
+
+/// The pen of a stroke, for a painter with `scale` units for one pixel of the layout.
+[[nodiscard]] QPen PenOf(const StrokeStyle& style, double scale);
 
 }  // namespace zolv

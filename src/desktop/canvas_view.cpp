@@ -7,10 +7,13 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "desktop/canvas_export.h"
+#include "desktop/canvas_painting.h"
 #include "desktop/plot_marks.h"
 #include "desktop/texts_of_qt.h"
+#include "drawing/curve_reading.h"
 #include "text/words.h"
 
 namespace zolv {
@@ -35,8 +38,8 @@ CanvasInks InksOf(const QWidget& view) {
 
 }  // namespace
 
-CanvasView::CanvasView(const CanvasField& field, Shape shape, QWidget* parent)
-    : QWidget(parent), field_(field), shape_(shape) {
+CanvasView::CanvasView(const Canvas& canvas, Shape shape, QWidget* parent)
+    : QWidget(parent), canvas_(canvas), shape_(shape) {
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     // A click leaves the caret in the box where the user is typing.
@@ -45,35 +48,74 @@ CanvasView::CanvasView(const CanvasField& field, Shape shape, QWidget* parent)
 
 QSize CanvasView::sizeHint() const {
     constexpr int kHeight = 300;
-    const Canvas& canvas = field_.Drawing();
-    return {qRound(kHeight * canvas.Width() / canvas.Height()), kHeight};
+    return {qRound(kHeight * canvas_.Width() / canvas_.Height()), kHeight};
 }
 
 PlotPlace CanvasView::Place() const {
-    return PlaceOf(field_.Drawing(), shape_, size(), QFontMetricsF(NumberFont(font())));
+    return PlaceOf(canvas_, shape_, {double(width()), double(height())}, MeasureOf(NumberFont(font())));
 }
 
 void CanvasView::CopyPicture() const {
-    QGuiApplication::clipboard()->setImage(PictureOf(field_.Drawing(), shape_, size(), font()));
+    QGuiApplication::clipboard()->setImage(PictureOf(canvas_, PictureSize(), font()));
 }
 
 void CanvasView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const PlotPlace place = Place();
-    PaintPicture(painter, field_.Drawing(), place, font(), InksOf(*this));
-    if (!place.hasAxes || !pointer_ || !place.ground.contains(*pointer_)) return;
+    PaintPicture(painter, canvas_, place, font(), InksOf(*this));
+    if (!place.hasAxes) return;
     painter.setFont(font());
-    PaintCrosshair(painter, field_.Drawing(), place, *pointer_, rect());
+    const Box& ground = place.ground;
+    if (pointer_ && ToQt(ground).contains(*pointer_)) {
+        PaintCrosshair(painter, canvas_, place, {.x = pointer_->x(), .y = pointer_->y()}, rect());
+    } else if (sharedX_) {
+        const PlotAxis& axis = canvas_.PresentAxes().x;
+        const double x = place.Mapping().X(axis.origin + axis.scale * *sharedX_);
+        if (x < ground.left || x > ground.Right()) return;
+        PaintCrosshair(painter, canvas_, place, {.x = x, .y = ground.CentreY(), .shared = true}, rect());
+    }
+}
+
+/// Tells the views beside this one the value of x under the mouse, or that there is none.
+void CanvasView::ShareCrosshair() {
+    if (parentWidget() == nullptr) return;
+    std::optional<double> value;
+    const PlotPlace place = Place();
+    if (pointer_ && place.hasAxes && ToQt(place.ground).contains(*pointer_)) {
+        const PlotAxis& axis = canvas_.PresentAxes().x;
+        value = (place.Mapping().CanvasX(pointer_->x()) - axis.origin) / axis.scale;
+    }
+    for (CanvasView* view : parentWidget()->findChildren<CanvasView*>(Qt::FindDirectChildrenOnly)) {
+        if (view == this || (value && !ShareX(canvas_, view->canvas_)) || value == view->sharedX_) continue;
+        view->sharedX_ = value;
+        view->update();
+    }
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
     pointer_ = event->position();
+    ShareCrosshair();
     update();
 }
 
 void CanvasView::leaveEvent(QEvent*) {
     pointer_.reset();
+    ShareCrosshair();
     update();
+}
+
+/// Where the crosshair reads the curves no tip covers them; beside the plot one stands below it.
+void CanvasView::ShowToolTip() {
+    const PlotPlace place = Place();
+    const bool onPlot = place.hasAxes && pointer_ && ToQt(place.ground).contains(*pointer_);
+    if (onPlot || toolTip().isEmpty()) return QToolTip::hideText();
+    QToolTip::showText(mapToGlobal(QPoint(qRound(place.ground.left), qRound(place.ground.Bottom()))), toolTip(), this);
+}
+
+bool CanvasView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    ShowToolTip();
+    return true;
 }
 
 void CanvasView::keyPressEvent(QKeyEvent* event) {
@@ -87,13 +129,13 @@ void CanvasView::keyPressEvent(QKeyEvent* event) {
 void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto add = [&](const QString& name, const QString& text, auto work) {
-        menu->addAction(text, this, work)->setObjectName(name);
+    const auto add = [&](const QString& name, std::string_view text, auto work) {
+        menu->addAction(ToQt(text), this, work)->setObjectName(name);
     };
-    add(QStringLiteral("CopyPicture"), ToQt(words["CopyPicture"]), [this] { CopyPicture(); });
-    add(QStringLiteral("SaveAsSvg"), ToQt(words["SaveAsSvgEntry"]), [this] { SaveAsSvg(field_.Drawing()); });
-    add(QStringLiteral("SaveAsPng"), ToQt(words["SaveAsPngEntry"]),
-        [this] { SaveAsPng(PictureOf(field_.Drawing(), shape_, size(), font())); });
+    add(QStringLiteral("CopyPicture"), words["CopyPicture"], [this] { CopyPicture(); });
+    add(QStringLiteral("SaveAsSvg"), words["SaveAsSvgEntry"], [this] { SaveAsSvg(canvas_, PictureSize()); });
+    add(QStringLiteral("SaveAsPng"), words["SaveAsPngEntry"],
+        [this] { SaveAsPng(PictureOf(canvas_, PictureSize(), font())); });
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     menu->popup(byKey ? mapToGlobal(rect().center()) : event->globalPos());
 }

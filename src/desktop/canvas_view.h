@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <optional>
 
-#include "desktop/plot_place.h"
+#include "drawing/svg.h"
 #include "fields/kinds.h"
 
 namespace zolv {
@@ -11,12 +11,16 @@ namespace zolv {
 /// Paints the drawing of a canvas: white in every theme, lines smooth and at least one device pixel wide at any display
 /// scale. A plot is stretched to the room there is and has numbers along its axes, outside the canvas; a drawing
 /// without axes, or with one scale in both directions, keeps its proportions. Under the mouse a crosshair reads the
-/// values. The context menu, by the mouse or a key, copies or saves the picture.
+/// values of the axes and of each curve; it stands in those views of the same parent, too, that have the same x. The
+/// context menu, by the mouse or a key, copies or saves the picture.
 class CanvasView : public QWidget {
 public:
     using Shape = CanvasShape;
 
-    CanvasView(const CanvasField& field, Shape shape, QWidget* parent = nullptr);
+    /// @param canvas  lives longer than the view; who draws on it calls update()
+    CanvasView(const Canvas& canvas, Shape shape, QWidget* parent = nullptr);
+    CanvasView(const CanvasField& field, Shape shape, QWidget* parent = nullptr)
+        : CanvasView(field.Drawing(), shape, parent) {}
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {150, 100}; }
@@ -25,6 +29,7 @@ public:
     void CopyPicture() const;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -33,10 +38,14 @@ protected:
 
 private:
     PlotPlace Place() const;
+    SvgSize PictureSize() const { return {double(width()), double(height()), shape_}; }
+    void ShareCrosshair();
+    void ShowToolTip();
 
-    const CanvasField& field_;
+    const Canvas& canvas_;
     Shape shape_;
     std::optional<QPointF> pointer_;  // the mouse, in widget coordinates
+    std::optional<double> sharedX_;   // value of x under the mouse in another view
 };
 
 }  // namespace zolv

@@ -1,37 +1,24 @@
 #include "desktop/plot_marks.h"
 
+#include <QFontMetricsF>
 #include <algorithm>
 #include <vector>
 
 #include "desktop/canvas_painting.h"
 #include "desktop/texts_of_qt.h"
-#include "desktop/theme.h"
+#include "drawing/curve_reading.h"
 
 namespace zolv {
 namespace {
 
-constexpr double kGapBetween = 14;  // of legend entries
-constexpr double kStroke = 16;      // length of a legend's stroke
-constexpr double kPadding = 5;      // inside a box
-constexpr double kFrame = 1;
-
-constexpr QColor kWordsOnWhite{40, 45, 52};
+constexpr double kPadding = 5;  // inside a box
 constexpr QColor kVeil{255, 255, 255, 215};
 
-/// Where the unit of y stands: above its numbers, and above the plot where it is longer than they.
-QRectF UnitOfYBox(const PlotPlace& place, const QString& unit, const QFontMetricsF& metrics) {
-    const double width = metrics.horizontalAdvance(unit);
-    const double right = place.ground.left() - kFrame - kTick - kNumberGap;
-    return {std::max(1.0, right - width), place.ground.top() - kFrame - kNumberGap - metrics.height(), width,
-            metrics.height()};
-}
-
 /// Marks at the numbers, in line with the grid.
-void PaintTicks(QPainter& painter, const PlotPlace& place) {
+void PaintTicks(QPainter& painter, const PlotPlace& place, const QColor& ink) {
     const DevicePixels pixels(painter);
-    const QRect ground = pixels.Snapped(place.ground);
+    const QRect ground = pixels.Snapped(ToQt(place.ground));
     const CanvasMapping mapping = MapOnto(place.part, ground.x(), ground.y(), ground.width(), ground.height());
-    const QColor ink = painter.pen().color();
     const int length = qRound(kTick * pixels.Scale());
     const int width = std::max(1, qRound(pixels.Scale()));
     for (const AxisNumber& number : place.xNumbers.numbers) {
@@ -44,162 +31,29 @@ void PaintTicks(QPainter& painter, const PlotPlace& place) {
     }
 }
 
-void PaintNumbersOfX(QPainter& painter, const PlotPlace& place, const QString& unit) {
-    const QFontMetricsF metrics(painter.font());
-    const CanvasMapping mapping = place.Mapping();
-    const double top = place.ground.bottom() + kFrame + kTick + kNumberGap;
-    const double unitWidth = metrics.horizontalAdvance(unit);
-    const QRectF unitBox(place.ground.right() - unitWidth, top, unitWidth, metrics.height());
-    painter.drawText(unitBox, Qt::AlignRight | Qt::TextDontClip, unit);
-    const double end = unit.isEmpty() ? place.ground.right() + metrics.height() : unitBox.left() - metrics.height() / 2;
-    for (const AxisNumber& number : place.xNumbers.numbers) {
-        const double x = mapping.X(number.coordinate);
-        const QString text = ToQt(number.text);
-        const double half = metrics.horizontalAdvance(text) / 2;
-        if (x + half > end) continue;
-        painter.drawText(QRectF(x - half, top, 2 * half, metrics.height()), Qt::AlignCenter | Qt::TextDontClip, text);
+Qt::Alignment AlignmentOf(PlacedWords::Anchor anchor) {
+    switch (anchor) {
+        case PlacedWords::Anchor::Left: return Qt::AlignLeft;
+        case PlacedWords::Anchor::Right: return Qt::AlignRight;
+        default: return Qt::AlignHCenter;
     }
 }
 
-void PaintNumbersOfY(QPainter& painter, const PlotPlace& place, const QString& unit) {
-    const QFontMetricsF metrics(painter.font());
-    const CanvasMapping mapping = place.Mapping();
-    const QRectF unitBox = UnitOfYBox(place, unit, metrics);
-    painter.drawText(unitBox, Qt::AlignRight | Qt::TextDontClip, unit);
-    const double right = place.ground.left() - kFrame - kTick - kNumberGap;
-    for (const AxisNumber& number : place.yNumbers.numbers) {
-        const double y = mapping.Y(number.coordinate);
-        const QRectF box(0, y - metrics.height() / 2, right, metrics.height());
-        if (!unit.isEmpty() && box.top() < unitBox.bottom() - metrics.descent()) continue;
-        painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, ToQt(number.text));
-    }
+void PaintStroke(QPainter& painter, const QRectF& box, Meaning meaning) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(box.adjusted(-1, box.height() / 2 - 4, 1, 4 - box.height() / 2), Qt::white);
+    QPen pen = PenOf(StyleOf(meaning), 1);
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.drawLine(QPointF(box.left(), box.center().y()), QPointF(box.right(), box.center().y()));
 }
 
-struct LegendLine {
-    QString name;
-    Rgb colour;
-};
-
-bool IsColourShared(const Canvas& canvas, Rgb colour) {
-    return std::count_if(canvas.Legend().begin(), canvas.Legend().end(),
-                         [&](const LegendEntry& entry) { return entry.colour == colour; }) > 1;
-}
-
-/// The legend with the curves of one colour in one entry, without those that have their names at the curve.
-std::vector<LegendLine> LegendLines(const Canvas& canvas, bool namedAtCurves) {
-    std::vector<LegendLine> lines;
-    for (const LegendEntry& entry : canvas.Legend()) {
-        if (namedAtCurves && IsColourShared(canvas, entry.colour)) continue;
-        const auto same = std::find_if(lines.begin(), lines.end(),
-                                       [&](const LegendLine& line) { return line.colour == entry.colour; });
-        if (same == lines.end()) {
-            lines.push_back({ToQt(entry.name), entry.colour});
-        } else {
-            same->name += QLatin1String(", ") + ToQt(entry.name);
-        }
-    }
-    return lines;
-}
-
-double WidthOf(const LegendLine& line, const QFontMetricsF& metrics) {
-    return kStroke + kPadding + metrics.horizontalAdvance(line.name);
-}
-
-/// The stroke lies on white, as on the ground, so that its colour reads in every theme.
-void PaintLegendLine(QPainter& painter, const LegendLine& line, const QPointF& corner, const QColor& words) {
-    const QFontMetricsF metrics(painter.font());
-    const double middle = corner.y() + metrics.height() / 2;
-    painter.fillRect(QRectF(corner.x(), middle - 4, kStroke, 8), Qt::white);
-    painter.fillRect(QRectF(corner.x() + 1, middle - 1, kStroke - 2, 2), InkColour(line.colour));
-    painter.setPen(words);
-    const QRectF box(corner.x() + kStroke + kPadding, corner.y(), metrics.horizontalAdvance(line.name),
-                     metrics.height());
-    painter.drawText(box, Qt::AlignLeft | Qt::TextDontClip, line.name);
-}
-
-void PaintLegendAbove(QPainter& painter, const std::vector<LegendLine>& lines, QPointF corner, const QColor& ink) {
-    const QFontMetricsF metrics(painter.font());
-    for (const LegendLine& line : lines) {
-        PaintLegendLine(painter, line, corner, ink);
-        corner.rx() += WidthOf(line, metrics) + kGapBetween;
-    }
-}
-
-/// Leaves the curves more room than it takes, or stays away.
-void PaintLegendInside(QPainter& painter, const std::vector<LegendLine>& lines, const QRectF& ground) {
-    constexpr double kLargestShare = 0.6;  // of each side
-    const QFontMetricsF metrics(painter.font());
-    double widest = 0;
-    for (const LegendLine& line : lines) widest = std::max(widest, WidthOf(line, metrics));
-    QRectF box(0, 0, widest + 2 * kPadding, static_cast<double>(lines.size()) * metrics.height() + 2 * kPadding);
-    if (box.width() > ground.width() * kLargestShare || box.height() > ground.height() * kLargestShare) return;
-    box.moveTopRight(ground.topRight() + QPointF(-kPadding, kPadding));
-    painter.fillRect(box, kVeil);
-    QPointF corner = box.topLeft() + QPointF(kPadding, kPadding);
-    for (const LegendLine& line : lines) {
-        PaintLegendLine(painter, line, corner, kWordsOnWhite);
-        corner.ry() += metrics.height();
-    }
-}
-
-struct CurveName {
-    QString text;
-    QRectF box;
-    Rgb colour;
-};
-
-/// Whether the curves of a drawing are those of its legend, one for one.
-bool IsLegendOf(const std::vector<LegendEntry>& legend, const std::vector<Curve>& curves) {
-    return std::equal(legend.begin(), legend.end(), curves.begin(), curves.end(),
-                      [](const LegendEntry& entry, const Curve& curve) { return entry.colour == curve.colour; });
-}
-
-/// A place for a name of that size at its curve, over its top or behind its end, that is free of the names before it;
-/// empty where there is none.
-QRectF PlaceAtCurve(const Curve& curve, const QSizeF& size, const PlotPlace& place,
-                    const std::vector<CurveName>& names) {
-    constexpr double kAside = 3;
-    const CanvasMapping mapping = place.Mapping();
-    const QPointF top(mapping.X(curve.topX) - size.width() / 2, mapping.Y(curve.topY) - size.height() - kAside);
-    const QPointF end(mapping.X(curve.endX) + kAside, mapping.Y(curve.endY) - size.height() / 2);
-    for (const QPointF& corner : {top, end}) {
-        QRectF box(corner, size);
-        box.moveLeft(std::clamp(box.left(), place.ground.left(), place.ground.right() - size.width()));
-        box.moveTop(std::clamp(box.top(), place.ground.top(), place.ground.bottom() - size.height()));
-        const bool covers =
-            std::any_of(names.begin(), names.end(), [&](const CurveName& other) { return other.box.intersects(box); });
-        if (!covers) return box;
-    }
-    return {};
-}
-
-/// Names for the curves whose colours others share; none at all where one of them would lie on another, or where it is
-/// not certain which curve is whose.
-std::vector<CurveName> NamesAtCurves(const Canvas& canvas, const PlotPlace& place, const QFontMetricsF& metrics) {
-    const std::vector<LegendEntry>& legend = canvas.Legend();
-    const auto isShared = [&](const LegendEntry& entry) { return IsColourShared(canvas, entry.colour); };
-    if (std::none_of(legend.begin(), legend.end(), isShared)) return {};
-    const std::vector<Curve> curves = CurvesOf(canvas);
-    if (!IsLegendOf(legend, curves)) return {};
-    std::vector<CurveName> names;
-    for (std::size_t i = 0; i < legend.size(); ++i) {
-        if (!isShared(legend[i])) continue;
-        const QString text = ToQt(legend[i].name);
-        const QSizeF size(metrics.horizontalAdvance(text) + 2, metrics.height());
-        if (size.width() > place.ground.width() || size.height() > place.ground.height()) return {};
-        const QRectF box = PlaceAtCurve(curves[i], size, place, names);
-        if (box.isEmpty()) return {};
-        names.push_back({text, box, legend[i].colour});
-    }
-    return names;
-}
-
-void PaintNamesAtCurves(QPainter& painter, const std::vector<CurveName>& names) {
-    for (const CurveName& name : names) {
-        painter.fillRect(name.box, kVeil);
-        painter.setPen(InkColour(name.colour));
-        painter.drawText(name.box, Qt::AlignCenter | Qt::TextDontClip, name.text);
-    }
+void PaintWords(QPainter& painter, const PlacedWords& words, const QColor& ink) {
+    const QRectF box = ToQt(words.box);
+    if (words.onPlot && words.anchor == PlacedWords::Anchor::Centre) painter.fillRect(box, kVeil);
+    painter.setPen(words.onPlot ? ToQt(words.colour) : ink);
+    painter.drawText(box, static_cast<int>(AlignmentOf(words.anchor) | Qt::AlignVCenter) | Qt::TextDontClip,
+                     ToQt(words.text));
 }
 
 /// Up and right of the pointer, on another side where there is no room.
@@ -213,63 +67,92 @@ QRectF ReadingBox(const QPointF& pointer, const QSizeF& size, const QRectF& boun
     return box;
 }
 
-void PaintCross(QPainter& painter, const QRectF& ground, const QPointF& pointer) {
+void PaintCross(QPainter& painter, const QRectF& ground, const Crosshair& crosshair) {
     constexpr QColor kCross{70, 78, 88, 150};
     const DevicePixels pixels(painter);
     const QRect inner = pixels.Snapped(ground);
-    const QPoint at = pixels.Snapped({pointer, QSizeF()}).topLeft();
+    const QPoint at = pixels.Snapped({QPointF(crosshair.x, crosshair.y), QSizeF()}).topLeft();
     const int width = std::max(1, qRound(pixels.Scale()));
-    painter.fillRect(QRect(inner.left(), at.y(), inner.width(), width), kCross);
+    if (!crosshair.shared) painter.fillRect(QRect(inner.left(), at.y(), inner.width(), width), kCross);
     painter.fillRect(QRect(at.x(), inner.top(), width, inner.height()), kCross);
+}
+
+/// What the box of a crosshair says, line by line.
+struct BoxLine {
+    QString name, value;
+    Meaning meaning;
+};
+
+std::vector<BoxLine> LinesAt(const Canvas& canvas, const PlotPlace& place, const Crosshair& crosshair) {
+    const Canvas::Axes& axes = canvas.PresentAxes();
+    const CanvasMapping mapping = place.Mapping();
+    const double canvasX = mapping.CanvasX(crosshair.x);
+    std::vector<BoxLine> lines{{ToQt(axes.x.title), ToQt(ReadingAt(axes.x, canvasX, mapping.scaleX)), Role::Words}};
+    if (!crosshair.shared) {
+        const double canvasY = mapping.CanvasY(crosshair.y);
+        lines.push_back({ToQt(axes.y.title), ToQt(ReadingAt(axes.y, canvasY, mapping.scaleY)), Role::Words});
+    }
+    for (const CurveReading& reading : ReadingsAt(canvas, canvasX, mapping.scaleY)) {
+        lines.push_back({ToQt(reading.name), ToQt(reading.value), reading.meaning});
+    }
+    return lines;
 }
 
 }  // namespace
 
-void PaintNumbers(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QColor& ink) {
-    if (!place.hasAxes) return;
-    painter.setPen(ink);
-    PaintTicks(painter, place);
-    PaintNumbersOfX(painter, place, ToQt(canvas.PresentAxes().x.unit));
-    PaintNumbersOfY(painter, place, ToQt(canvas.PresentAxes().y.unit));
-}
-
-void PaintLegend(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QColor& ink) {
-    if (canvas.Legend().size() < 2) return;
-    const QFontMetricsF metrics(painter.font());
-    const std::vector<CurveName> names = NamesAtCurves(canvas, place, metrics);
-    PaintNamesAtCurves(painter, names);
-    const std::vector<LegendLine> lines = LegendLines(canvas, !names.empty());
-    if (lines.empty()) return;
-    double width = -kGapBetween;
-    for (const LegendLine& line : lines) width += WidthOf(line, metrics) + kGapBetween;
-    const QRectF unit = UnitOfYBox(place, ToQt(canvas.PresentAxes().y.unit), metrics);
-    const QPointF corner(place.ground.right() - width, unit.top());
-    if (corner.x() > std::max(unit.right(), place.ground.left()) + kGapBetween) {
-        PaintLegendAbove(painter, lines, corner, ink);
+QFont NumberFont(QFont font) {
+    constexpr double kSmaller = 0.9;
+    if (font.pixelSize() > 0) {
+        font.setPixelSize(std::max(1, qRound(font.pixelSize() * kSmaller)));
     } else {
-        PaintLegendInside(painter, lines, place.ground);
+        font.setPointSizeF(font.pointSizeF() * kSmaller);
     }
+    return font;
 }
 
-void PaintCrosshair(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QPointF& pointer,
+TextMeasure MeasureOf(const QFont& numberFont) {
+    const QFontMetricsF metrics(numberFont);
+    return {.height = metrics.height(),
+            .width = [metrics](std::string_view text) { return metrics.horizontalAdvance(ToQt(text)); }};
+}
+
+void PaintLabels(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QColor& ink) {
+    if (!place.hasAxes) return;
+    PaintTicks(painter, place, ink);
+    const PlotLabels labels = LabelsOf(canvas, place, MeasureOf(painter.font()));
+    if (labels.veil.width > 0) painter.fillRect(ToQt(labels.veil), kVeil);
+    for (const LegendStroke& stroke : labels.strokes) PaintStroke(painter, ToQt(stroke.box), stroke.meaning);
+    for (const PlacedWords& words : labels.words) PaintWords(painter, words, ink);
+}
+
+void PaintCrosshair(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const Crosshair& crosshair,
                     const QRectF& bounds) {
-    const Canvas::Axes& axes = canvas.PresentAxes();
-    const CanvasMapping mapping = place.Mapping();
-    PaintCross(painter, place.ground, pointer);
-    const QString x = ToQt(ReadingAt(axes.x, mapping.CanvasX(pointer.x()), mapping.scaleX));
-    const QString y = ToQt(ReadingAt(axes.y, mapping.CanvasY(pointer.y()), mapping.scaleY));
+    constexpr double kBetween = 12;
+    PaintCross(painter, ToQt(place.ground), crosshair);
+    const std::vector<BoxLine> lines = LinesAt(canvas, place, crosshair);
     const QFontMetricsF metrics(painter.font());
-    const double width = std::max(metrics.horizontalAdvance(x), metrics.horizontalAdvance(y));
-    const QSizeF size(width + 4 * kPadding, 2 * metrics.height() + 2 * kPadding);
-    const QRectF box = ReadingBox(pointer, size, bounds);
+    double names = 0;
+    double values = 0;
+    for (const BoxLine& line : lines) {
+        names = std::max(names, metrics.horizontalAdvance(line.name));
+        values = std::max(values, metrics.horizontalAdvance(line.value));
+    }
+    const double height = metrics.height();
+    const QSizeF size(names + kBetween + values + 4 * kPadding,
+                      static_cast<double>(lines.size()) * height + 2 * kPadding);
+    const QRectF box = ReadingBox({crosshair.x, crosshair.y}, size, bounds);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(140, 147, 156), 1));
     painter.setBrush(QColor(255, 255, 255, 240));
     painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    painter.setPen(kWordsOnWhite);
-    const QRectF words = box.adjusted(2 * kPadding, kPadding, -2 * kPadding, -kPadding);
-    painter.drawText(words, Qt::AlignRight | Qt::AlignTop | Qt::TextDontClip, x);
-    painter.drawText(words, Qt::AlignRight | Qt::AlignBottom | Qt::TextDontClip, y);
+    QRectF words = box.adjusted(2 * kPadding, kPadding, -2 * kPadding, 0);
+    words.setHeight(height);
+    for (const BoxLine& line : lines) {
+        painter.setPen(ToQt(ColourOf(line.meaning)));
+        painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, line.name);
+        painter.drawText(words, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, line.value);
+        words.translate(0, height);
+    }
 }
 
 }  // namespace zolv

@@ -9,25 +9,30 @@ std::string AxisUnit(std::string_view suffix) {
     return std::string(suffix);
 }
 
+std::string TitleWithUnit(const PlotAxis& axis) {
+    if (axis.title.empty() || axis.unit.empty()) return axis.title + axis.unit;
+    return axis.title + " [" + axis.unit + ']';
+}
+
 void Canvas::Clear() {
     operations_.clear();
     texts_.clear();
     axes_.present = false;
-    legend_.clear();
+    names_.clear();
 }
 
-void Canvas::FillRectangle(double x1, double y1, double x2, double y2, Rgb colour) {
-    Record({DrawingOperation::Kind::Rectangle, colour, 0, 0, x1, y1, x2, y2});
+void Canvas::FillRectangle(Meaning meaning, double x1, double y1, double x2, double y2, Rgb colour) {
+    Record({DrawingOperation::Kind::Rectangle, colour, 0, meaning, 0, x1, y1, x2, y2});
 }
 
-void Canvas::FillCircle(double x, double y, double radius, Rgb colour) {
-    Record({DrawingOperation::Kind::Circle, colour, 0, 0, x, y, radius, 0});
+void Canvas::FillCircle(Meaning meaning, double x, double y, double radius, Rgb colour) {
+    Record({DrawingOperation::Kind::Circle, colour, 0, meaning, 0, x, y, radius, 0});
 }
 
 void Canvas::Print(std::string_view text) {
     const auto index = static_cast<std::uint32_t>(texts_.size());
     texts_.emplace_back(text);
-    Record({DrawingOperation::Kind::Text, ink_, 0, index, 0, 0, 0, 0});
+    Record({DrawingOperation::Kind::Text, ink_, 0, Role::Words, index, 0, 0, 0, 0});
 }
 
 void Canvas::SetAxes(PlotAxis x, PlotAxis y) {
@@ -35,6 +40,8 @@ void Canvas::SetAxes(PlotAxis x, PlotAxis y) {
     if (readable(x) && readable(y)) axes_ = {std::move(x), std::move(y), true};
 }
 
-void Canvas::AddLegend(std::string name, Rgb colour) { legend_.push_back({std::move(name), colour}); }
+void Canvas::AddName(Meaning meaning, std::string name, std::string unit) {
+    names_.push_back({std::move(name), meaning, std::move(unit)});
+}
 
 }  // namespace zolv

@@ -8,30 +8,38 @@
 #include <vector>
 
 #include "drawing/colour.h"
+#include "drawing/role.h"
 
 namespace zolv {
 
-/// One stroke of a drawing, in canvas units: origin at the top left, y growing downward.
+/// One operation of a drawing, in canvas units: origin at the top left, y growing downward. Colour and width are what
+/// is recorded and printed; windows and pictures paint by what it means.
 struct DrawingOperation {
     enum class Kind : std::uint8_t { Line, Rectangle, Circle, Text };
 
     Kind kind = Kind::Line;
     Rgb colour;
     std::uint16_t width = 1;  // of a line, in pixels
-    std::uint32_t text = 0;   // of a Text: which of Canvas::Texts
-    double x1 = 0, y1 = 0;    // a line's start, a rectangle's first corner, a circle's centre
-    double x2 = 0, y2 = 0;    // a line's end, a rectangle's other corner; x2 is a circle's radius
+    Meaning meaning;
+    std::uint32_t text = 0;  // of a Text: which of Canvas::Texts
+    double x1 = 0, y1 = 0;   // a line's start, a rectangle's first corner, a circle's centre
+    double x2 = 0, y2 = 0;   // a line's end, a rectangle's other corner; x2 is a circle's radius
 };
 
 /// One axis of a plot, so that a window can put numbers on it and read values under the mouse:
 /// canvas coordinate = origin + scale * value, with the value in the unit that the user reads.
 struct PlotAxis {
-    double origin = 0;      // canvas coordinate of the value zero
-    double scale = 0;       // canvas units for one unit of the value; negative on a y axis, which grows downward
-    double step = 0;        // from grid line to grid line, in the unit; 0 where there is no grid
-    double end = 0;         // canvas coordinate of the axis's far end
-    std::string unit = {};  // "m/s"; empty where the values have none
+    double origin = 0;       // canvas coordinate of the value zero
+    double scale = 0;        // canvas units for one unit of the value; negative on a y axis, which grows downward
+    double step = 0;         // from grid line to grid line, in the unit; 0 where there is no grid
+    double start = 0;        // canvas coordinate of the axis's near end
+    double end = 0;          // and of its far end
+    std::string title = {};  // "Engine speed"; empty where the unit says enough
+    std::string unit = {};   // "m/s"; empty where the values have none
 };
+
+/// "Engine speed [rpm]", as it stands at an axis.
+[[nodiscard]] std::string TitleWithUnit(const PlotAxis& axis);
 
 /// The unit of an axis, from the suffix that stands behind numbers: without its leading blank.
 [[nodiscard]] std::string AxisUnit(std::string_view suffix);
@@ -50,12 +58,13 @@ void WalkGrid(double step, double scale, double end, int limit, DrawLine draw) {
     }
 }
 
-/// What a curve of a plot is, for a reader.
-struct LegendEntry {
+/// What a curve or a mark of a drawing is called.
+struct PartName {
     std::string name;
-    Rgb colour;
+    Meaning meaning;
+    std::string unit = {};  // of its values, where it is not the y axis's
 
-    bool operator==(const LegendEntry&) const = default;
+    bool operator==(const PartName&) const = default;
 };
 
 /// A drawing: a white surface and the operations drawn on it since it was last cleared. It is painted, exported and
@@ -68,18 +77,18 @@ public:
     double Width() const { return width_; }
     double Height() const { return height_; }
 
-    /// Empties the canvas; axes and legend go with the drawing. The ink and the line width stay as they are.
+    /// Empties the canvas; axes and names go with the drawing. The ink and the line width stay as they are.
     void Clear();
 
     void SetInk(Rgb ink) { ink_ = ink; }
     void SetLineWidth(int pixels) { lineWidth_ = static_cast<std::uint16_t>(pixels); }
 
-    void Line(double x1, double y1, double x2, double y2) { Line(x1, y1, x2, y2, ink_); }
-    void Line(double x1, double y1, double x2, double y2, Rgb colour) {
-        Record({DrawingOperation::Kind::Line, colour, lineWidth_, 0, x1, y1, x2, y2});
+    void Line(Meaning meaning, double x1, double y1, double x2, double y2) { Line(meaning, x1, y1, x2, y2, ink_); }
+    void Line(Meaning meaning, double x1, double y1, double x2, double y2, Rgb colour) {
+        Record({DrawingOperation::Kind::Line, colour, lineWidth_, meaning, 0, x1, y1, x2, y2});
     }
-    void FillRectangle(double x1, double y1, double x2, double y2, Rgb colour);
-    void FillCircle(double x, double y, double radius, Rgb colour);
+    void FillRectangle(Meaning meaning, double x1, double y1, double x2, double y2, Rgb colour);
+    void FillCircle(Meaning meaning, double x, double y, double radius, Rgb colour);
 
     /// Prints a text in the present ink below what has been printed before. It may hold line breaks (CR LF), and ends
     /// its own line as well.
@@ -96,9 +105,9 @@ public:
     const Axes& PresentAxes() const { return axes_; }
     void SetAxes(PlotAxis x, PlotAxis y);  // axes with a scale of zero or none are not kept
 
-    /// The curves of the present drawing, in drawing order; cleared with it. A drawing of one curve needs none.
-    const std::vector<LegendEntry>& Legend() const { return legend_; }
-    void AddLegend(std::string name, Rgb colour);
+    /// The names of the curves and marks of the present drawing, in drawing order; cleared with it.
+    const std::vector<PartName>& Names() const { return names_; }
+    void AddName(Meaning meaning, std::string name, std::string unit = {});
 
 private:
     void Record(const DrawingOperation& operation) {
@@ -114,7 +123,7 @@ private:
     std::vector<DrawingOperation> operations_;
     std::vector<std::string> texts_;
     Axes axes_;
-    std::vector<LegendEntry> legend_;
+    std::vector<PartName> names_;
 };
 
 }  // namespace zolv

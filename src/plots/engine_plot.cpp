@@ -6,6 +6,7 @@
 #include "model/engine_curve.h"
 #include "plots/plot_frame.h"
 #include "text/texts.h"
+#include "text/words.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
 
@@ -53,18 +54,22 @@ PlotFrame PresentFrame(const Engine& engine) {
 
 void DrawEngineGrid(Canvas& plot, const PlotFrame& frame) {
     WalkInside(kRevsStep, frame.sx, kGridRight,
-               [&](double x) { plot.Line(kLeftMargin + x, kBaseLine, kLeftMargin + x, 0); });
+               [&](double x) { plot.Line(Role::Grid, kLeftMargin + x, kBaseLine, kLeftMargin + x, 0); });
     WalkInside(kValueStep, frame.sy, kGridTop,
-               [&](double y) { plot.Line(kLeftMargin, kBaseLine - y, kGridRight, kBaseLine - y); });
+               [&](double y) { plot.Line(Role::Grid, kLeftMargin, kBaseLine - y, kGridRight, kBaseLine - y); });
     plot.SetAxes({.origin = kLeftMargin,
                   .scale = frame.sx,
                   .step = kRevsStep,
+                  .start = kLeftMargin,
                   .end = kGridRight,
+                  .title = words["EngineSpeed"],
                   .unit = AxisUnit(texts.RpmSuffix)},
                  {.origin = kBaseLine,
                   .scale = -frame.sy,
                   .step = kValueStep,
+                  .start = kBaseLine,
                   .end = kBaseLine - kGridTop,
+                  .title = CurveName(Zolv.InfoLabel[kInfoTorque]) + " / " + CurveName(Zolv.InfoLabel[kInfoPower]),
                   .unit = AxisUnit(units.Torque.Suffix) + " / " + AxisUnit(units.Power.Suffix)});
 }
 
@@ -106,9 +111,10 @@ void StoreCubic(const Engine& engine, const PlotFrame& frame) {
 }
 
 template <std::size_t Points>
-void DrawCurve(Canvas& plot, const std::array<float, Points>& x, const std::array<float, Points>& y, Rgb colour) {
+void DrawCurve(Canvas& plot, Meaning meaning, const std::array<float, Points>& x, const std::array<float, Points>& y,
+               Rgb colour) {
     for (std::size_t i = 0; i + 1 < Points; ++i) {
-        plot.Line(kLeftMargin + x[i], kBaseLine - y[i], kLeftMargin + x[i + 1], kBaseLine - y[i + 1], colour);
+        plot.Line(meaning, kLeftMargin + x[i], kBaseLine - y[i], kLeftMargin + x[i + 1], kBaseLine - y[i + 1], colour);
     }
 }
 
@@ -117,11 +123,14 @@ void DrawCurves(Canvas& plot) {
     const Rgb torqueColour = failed ? kRed : kBlue;
     const Rgb powerColour = failed ? kRed : kGreen;
     plot.SetLineWidth(2);
-    DrawCurve(plot, plots.TorquePlotX, plots.TorquePlotY, torqueColour);
-    DrawCurve(plot, plots.PowerPlotX, plots.PowerPlotY, powerColour);
+    const Standing standing = failed ? Standing::Doubtful : Standing::Present;
+    const Meaning torque{Role::Torque, standing};
+    const Meaning power{Role::Power, standing};
+    DrawCurve(plot, torque, plots.TorquePlotX, plots.TorquePlotY, torqueColour);
+    DrawCurve(plot, power, plots.PowerPlotX, plots.PowerPlotY, powerColour);
     plot.SetLineWidth(1);
-    plot.AddLegend(CurveName(Zolv.InfoLabel[kInfoTorque]), torqueColour);
-    plot.AddLegend(CurveName(Zolv.InfoLabel[kInfoPower]), powerColour);
+    plot.AddName(torque, CurveName(Zolv.InfoLabel[kInfoTorque]), AxisUnit(units.Torque.Suffix));
+    plot.AddName(power, CurveName(Zolv.InfoLabel[kInfoPower]), AxisUnit(units.Power.Suffix));
 }
 
 }  // namespace

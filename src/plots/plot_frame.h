@@ -28,6 +28,7 @@ struct PlotFrame {
 
 /// How the user reads one axis.
 struct AxisReading {
+    std::string_view title;
     int step = 0;             // from grid line to grid line, in the unit shown
     double factor = 1;        // shown value = data * factor
     std::string_view suffix;  // of the unit shown

@@ -7,6 +7,7 @@
 #include "gearing/gearing_state.h"
 #include "plots/plot_frame.h"
 #include "text/texts.h"
+#include "text/words.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
@@ -22,9 +23,9 @@ double TimeScale() { return (kPlotWidth - kCurveReserve) / (gearing.AccelLastRow
 const AccelRow& RowAt(int row) { return gearing.AccelRows[static_cast<std::size_t>(row)]; }
 
 /// Draws `column` from one row to another.
-void DrawSegment(Canvas& plot, const PlotFrame& frame, int from, int to, AccelColumn column, Rgb colour) {
+void DrawSegment(Canvas& plot, const PlotFrame& frame, int from, int to, AccelColumn column, Role role, Rgb colour) {
     const auto x = [&](int row) { return (row * frame.sx * kTimeStep) + kLeftMargin; };
-    plot.Line(x(from), frame.Y(RowAt(from)[column]), x(to), frame.Y(RowAt(to)[column]), colour);
+    plot.Line(role, x(from), frame.Y(RowAt(from)[column]), x(to), frame.Y(RowAt(to)[column]), colour);
 }
 
 /// The largest force to be expected [N]: first gear's at peak torque, as far as the tyres can take it, or the load of
@@ -45,16 +46,20 @@ double LargestForce() {
 
 struct ForceCurve {
     AccelColumn column;
+    Role role;
     Rgb colour;
-    std::string Texts::*name;
+    const std::string& (*name)();
     bool isLoad;
 };
 constexpr ForceCurve kForceCurves[] = {
-    {AccelColumn::DrivingForce, kGreen, &Texts::TextColDrivingForce, false},
-    {AccelColumn::Resistance, kRed, &Texts::TextColResistance, false},
-    {AccelColumn::NetForce, kBlue, &Texts::TextColNetForce, false},
-    {AccelColumn::FrontLoad, kMagenta, &Texts::TextFront, true},
-    {AccelColumn::RearLoad, kCyan, &Texts::TextRear, true},
+    {AccelColumn::DrivingForce, Role::DrivingForce, kGreen,
+     []() -> const std::string& { return texts.TextColDrivingForce; }, false},
+    {AccelColumn::Resistance, Role::Resistance, kRed, []() -> const std::string& { return texts.TextColResistance; },
+     false},
+    {AccelColumn::NetForce, Role::NetForce, kBlue, []() -> const std::string& { return texts.TextColNetForce; }, false},
+    {AccelColumn::FrontLoad, Role::FrontLoad, kMagenta, []() -> const std::string& { return words["FrontLoad"]; },
+     true},
+    {AccelColumn::RearLoad, Role::RearLoad, kCyan, []() -> const std::string& { return words["RearLoad"]; }, true},
 };
 
 }  // namespace
@@ -64,18 +69,18 @@ void DrawTractiveEffortPlot() {
     if (gearing.AccelLastRow <= 0) return;
     const PlotFrame frame{.sx = TimeScale(), .sy = kPlotHeight / LargestForce()};
     Canvas& plot = Zolv.TractiveEffortPlot.Draw();
-    DrawGrid(plot, frame, {.step = options.TractivePlotXScale, .suffix = kSeconds},
-             {options.TractivePlotYScale, units.Force.Factor, units.Force.Suffix});
+    DrawGrid(plot, frame, {.title = texts.TextColTime, .step = options.TractivePlotXScale, .suffix = kSeconds},
+             {words["Force"], options.TractivePlotYScale, units.Force.Factor, units.Force.Suffix});
 
     plot.SetLineWidth(2);
     const auto isDrawn = [](const ForceCurve& curve) { return !curve.isLoad || options.VLoadsOn; };
     for (int row = 0; row < gearing.AccelLastRow - kStride; row += kStride) {
         for (const ForceCurve& curve : kForceCurves) {
-            if (isDrawn(curve)) DrawSegment(plot, frame, row, row + kStride, curve.column, curve.colour);
+            if (isDrawn(curve)) DrawSegment(plot, frame, row, row + kStride, curve.column, curve.role, curve.colour);
         }
     }
     for (const ForceCurve& curve : kForceCurves) {
-        if (isDrawn(curve)) plot.AddLegend(texts.*curve.name, curve.colour);
+        if (isDrawn(curve)) plot.AddName(curve.role, curve.name());
     }
 }
 
@@ -85,13 +90,14 @@ void DrawSpeedTimeGraph() {
     if (last <= 0) return;
     const PlotFrame frame{.sx = TimeScale(), .sy = kPlotHeight / (RowAt(last)[AccelColumn::Speed] * 1.1)};
     Canvas& plot = Zolv.SpeedTimeGraph.Draw();
-    DrawGrid(plot, frame, {.step = options.SpeedGraphXScale, .suffix = kSeconds},
-             {options.SpeedGraphYScale, units.Speed.Factor, units.Speed.Suffix});
+    DrawGrid(plot, frame, {.title = texts.TextColTime, .step = options.SpeedGraphXScale, .suffix = kSeconds},
+             {texts.TextColSpeed, options.SpeedGraphYScale, units.Speed.Factor, units.Speed.Suffix});
 
     plot.SetLineWidth(2);
     for (int row = 0; row < last - kStride; row += kStride) {
-        DrawSegment(plot, frame, row, row + kStride, AccelColumn::Speed, kBlack);
+        DrawSegment(plot, frame, row, row + kStride, AccelColumn::Speed, Role::Speed, kBlack);
     }
+    plot.AddName(Role::Speed, texts.TextColSpeed);
 }
 
 }  // namespace zolv

@@ -8,6 +8,7 @@
 #include "model/engine_curve.h"
 #include "plots/plot_frame.h"
 #include "text/texts.h"
+#include "text/words.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
@@ -66,9 +67,9 @@ Curves SampleCurves(const PlotFrame& frame, const Gearbox& box) {
     return curves;
 }
 
-void DrawCurve(Canvas& plot, const Curve& curve, Rgb colour) {
+void DrawCurve(Canvas& plot, Meaning meaning, const Curve& curve, Rgb colour) {
     for (std::size_t k = 0; k + 1 < kSamples; ++k) {
-        plot.Line(curve.x[k] + kLeftMargin, kPlotHeight - curve.y[k], curve.x[k + 1] + kLeftMargin,
+        plot.Line(meaning, curve.x[k] + kLeftMargin, kPlotHeight - curve.y[k], curve.x[k + 1] + kLeftMargin,
                   kPlotHeight - curve.y[k + 1], colour);
     }
 }
@@ -79,9 +80,13 @@ void DrawTorquePlot() {
     const Gearbox& box = gearing.Present();
     const PlotFrame frame = PresentFrame(box);
     Canvas& plot = Zolv.TorquePlot.Draw();
+    const std::string torqueName = CurveName(Zolv.InfoLabel[6]);
     // The scale holds the factor of the unit already, so that the data of this plot are in the unit shown.
-    DrawGrid(plot, frame, {.step = options.TorquePlotXScale, .suffix = texts.RpmSuffix},
-             {.step = options.TorquePlotYScale, .suffix = units.Torque.Suffix});
+    DrawGrid(plot, frame,
+             {.title = options.EngineTorqueOn ? words["WheelOrEngineSpeed"] : words["WheelSpeed"],
+              .step = options.TorquePlotXScale,
+              .suffix = texts.RpmSuffix},
+             {.title = torqueName, .step = options.TorquePlotYScale, .suffix = units.Torque.Suffix});
 
     const Curves curves = SampleCurves(frame, box);
     const bool failed = gearing.Curve.CurveFitFailed;
@@ -89,8 +94,10 @@ void DrawTorquePlot() {
         const bool isEngine = i == 0;
         const Rgb colour = failed ? kRed : isEngine ? kBlue : kBlack;
         plot.SetLineWidth(isEngine ? 3 : 2);
-        DrawCurve(plot, curves[i], colour);
-        plot.AddLegend(isEngine ? CurveName(Zolv.InfoLabel[kInfoTorque]) : texts.GearNames[i], colour);
+        const Meaning meaning{isEngine ? Role::Engine : GearRole(static_cast<int>(i)),
+                              failed ? Standing::Doubtful : Standing::Present};
+        DrawCurve(plot, meaning, curves[i], colour);
+        plot.AddName(meaning, isEngine ? words["EngineCurve"] : texts.GearNames[i]);
     }
 }
 

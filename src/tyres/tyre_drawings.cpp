@@ -4,6 +4,7 @@
 
 #include "fields/windows.h"
 #include "model/tyre_geometry.h"
+#include "text/words.h"
 #include "tyres/tyre_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
@@ -49,12 +50,12 @@ void DrawFootprintGrid(Canvas& plot, double scale) {
     plot.SetLineWidth(1);
     WalkGrid(kGridStep, scale * 2, kFootprintWidth, kGridLines, [&](double v) {
         for (const double x : {(kFootprintWidth + v) / 2, (kFootprintWidth - v) / 2}) {
-            plot.Line(x, kFootprintHeight, x, 0);
+            plot.Line(Role::Grid, x, kFootprintHeight, x, 0);
         }
     });
     WalkGrid(kGridStep, scale * 2, kFootprintHeight, kGridLines, [&](double v) {
         for (const double y : {(kFootprintHeight + v) / 2, (kFootprintHeight - v) / 2}) {
-            plot.Line(0, y, kFootprintWidth, y);
+            plot.Line(Role::Grid, 0, y, kFootprintWidth, y);
         }
     });
 }
@@ -65,12 +66,16 @@ void PublishFootprintAxes(Canvas& plot, double scale) {
     PlotAxis x{.origin = kFootprintWidth / 2,
                .scale = scale * 2 / factor,
                .step = kGridStep / 2 * factor,
+               .start = 0,
                .end = kFootprintWidth,
+               .title = words["PatchWidth"],
                .unit = AxisUnit(units.Distance.Suffix)};
     PlotAxis y = x;
     y.origin = kFootprintHeight / 2;
     y.scale = -x.scale;
+    y.start = kFootprintHeight;
     y.end = 0;
+    y.title = words["PatchLength"];
     plot.SetAxes(std::move(x), std::move(y));
 }
 
@@ -85,8 +90,8 @@ void DrawFootprint(const DrawnTyre& tyre) {
     plot.Clear();
     DrawFootprintGrid(plot, scale);
     PublishFootprintAxes(plot, scale);
-    plot.FillRectangle(kCentreX - halfWidth, kCentreY - halfLength, kCentreX + halfWidth, kCentreY + halfLength,
-                       kBlack);
+    plot.FillRectangle(Role::Area, kCentreX - halfWidth, kCentreY - halfLength, kCentreX + halfWidth,
+                       kCentreY + halfLength, kBlack);
 }
 
 /// The wheel stands lower by the deformation, drawn to the tyre's scale in whole units, and everything below the road
@@ -96,11 +101,11 @@ void DrawSideView(const DrawnTyre& tyre) {
     const double centre = kRoadY + (std::floor(tyre.deformation * (radius / tyre.unloadedRadius)) - radius);
     Canvas& plot = Zolv.SV.Draw();
     plot.Clear();
-    plot.FillCircle(kWheelX, centre, radius, kBlack);
-    plot.FillCircle(kWheelX, centre, radius * tyre.rimRatio, kWhite);
-    plot.FillRectangle(0, kRoadY, kSideViewEdge, kSideViewEdge, kWhite);
+    plot.FillCircle(Role::Shape, kWheelX, centre, radius, kBlack);
+    plot.FillCircle(Role::Shape, kWheelX, centre, radius * tyre.rimRatio, kWhite);
+    plot.FillRectangle(Role::Shape, 0, kRoadY, kSideViewEdge, kSideViewEdge, kWhite);
     plot.SetLineWidth(3);
-    plot.Line(0, kRoadY, kSideViewEdge, kRoadY, kRed);
+    plot.Line(Role::Shape, 0, kRoadY, kSideViewEdge, kRoadY, kRed);
     plot.SetLineWidth(1);
 }
 

@@ -14,15 +14,15 @@ constexpr double kInf = std::numeric_limits<double>::infinity();
 TEST(CanvasRecord, LeavesOutWhatHasNoPlace) {
     Canvas canvas(100, 100);
     for (const double none : {kNan, kInf, -kInf}) {
-        canvas.Line(none, 1, 2, 3);
-        canvas.Line(0, none, 2, 3);
-        canvas.Line(0, 1, none, 3, kRed);
-        canvas.Line(0, 1, 2, none, kRed);
-        canvas.FillRectangle(0, none, 2, 3, kRed);
-        canvas.FillCircle(0, 1, none, kRed);
+        canvas.Line(Role::Shape, none, 1, 2, 3);
+        canvas.Line(Role::Shape, 0, none, 2, 3);
+        canvas.Line(Role::Shape, 0, 1, none, 3, kRed);
+        canvas.Line(Role::Shape, 0, 1, 2, none, kRed);
+        canvas.FillRectangle(Role::Shape, 0, none, 2, 3, kRed);
+        canvas.FillCircle(Role::Shape, 0, 1, none, kRed);
     }
     EXPECT_TRUE(canvas.Operations().empty());
-    canvas.Line(-1e300, 0, 1e300, 0);
+    canvas.Line(Role::Shape, -1e300, 0, 1e300, 0);
     EXPECT_EQ(canvas.Operations().size(), 1U);
 }
 
@@ -34,12 +34,12 @@ TEST(CanvasRecord, KeepsOnlyAxesThatCanBeReadAndOnlyUntilCleared) {
         EXPECT_FALSE(canvas.PresentAxes().present) << scale;
     }
     canvas.SetAxes({.scale = 1, .unit = AxisUnit(" ft lbf/s")}, {.scale = -1});
-    canvas.AddLegend("Torque", kBlue);
+    canvas.AddName(Role::Torque, "Torque");
     ASSERT_TRUE(canvas.PresentAxes().present);
     EXPECT_EQ(canvas.PresentAxes().x.unit, "ft lbf/s");
     canvas.Clear();
     EXPECT_FALSE(canvas.PresentAxes().present);
-    EXPECT_TRUE(canvas.Legend().empty());
+    EXPECT_TRUE(canvas.Names().empty());
 }
 
 TEST(CanvasGrid, EndsBehindTheFrameOrAfterSoManyLines) {

@@ -7,43 +7,72 @@
 namespace zolv {
 namespace {
 
-// Written by hand after the W3C recommendation SVG 1.1 (non-scaling-stroke: SVG Tiny 1.2).
+// Written by hand after the W3C recommendation SVG 1.1. The frame takes a pixel on each side, so that the canvas's
+// units are pixels.
 TEST(Svg, OfAHandMadeCanvas) {
     Canvas canvas(300, 200.5);
-    canvas.Line(0, 0, 10, 5);
-    canvas.Line(10, 5, 20, 2.25);  // goes on from there
-    canvas.Line(20, 50, 30, 50);   // does not
+    canvas.Line(Role::Shape, 0, 0, 10, 5);
+    canvas.Line(Role::Shape, 10, 5, 20, 2.25);  // goes on from there
+    canvas.Line(Role::Gear1, 20, 2.25, 30, 50);
+    canvas.Line(Role::Shape, 20, 50, 30, 50);  // does not
     canvas.SetLineWidth(3);
-    canvas.Line(30, 50, 40, 60, kRed);
-    canvas.FillRectangle(100, 80, 50, 20, kWhite);  // from its lower right corner
-    canvas.FillCircle(150, -1e-7, 25, {1, 171, 255});
-    EXPECT_EQ(SvgOf(canvas),
-              R"(<?xml version="1.0" encoding="UTF-8"?>
-<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 300 200.5">
-<rect width="300" height="200.5" fill="#ffffff"/>
-<path d="M0 0L10 5L20 2.25M20 50L30 50" fill="none" stroke="#000000" stroke-width="1" vector-effect="non-scaling-stroke"/>
-<path d="M30 50L40 60" fill="none" stroke="#ff0000" stroke-width="3" vector-effect="non-scaling-stroke"/>
+    canvas.Line(Role::Shape, 30, 50, 40, 60, {1, 171, 255});
+    canvas.FillRectangle(Role::Shape, 100, 80, 50, 20, kWhite);  // from its lower right corner
+    canvas.FillCircle(Role::Shape, 150, -1e-7, 25, {1, 171, 255});
+    canvas.AddName({Role::Gear1, Standing::Held}, "none of this drawing");
+    EXPECT_EQ(SvgOf(canvas, {302, 202.5, CanvasShape::Proportional}), R"svg(<?xml version="1.0" encoding="UTF-8"?>
+<svg xmlns="http://www.w3.org/2000/svg" width="326" height="226.5" viewBox="0 0 326 226.5" font-family="sans-serif">
+<rect width="326" height="226.5" fill="#ffffff"/>
+<g transform="translate(12 12)">
+<rect x="0" y="0" width="302" height="202.5" fill="#969ca4"/>
+<rect x="1" y="1" width="300" height="200.5" fill="#ffffff"/>
+<svg x="1" y="1" width="300" height="200.5">
+<path d="M0 0L10 5L20 2.25M20 50L30 50" fill="none" stroke="#000000" stroke-width="1"/>
+<path d="M20 2.25L30 50" fill="none" stroke="#1111bb" stroke-width="2"/>
+<path d="M30 50L40 60" fill="none" stroke="#01abff" stroke-width="3"/>
 <rect x="50" y="20" width="50" height="60" fill="#ffffff"/>
-<circle cx="150" cy="-1e-07" r="25" fill="#01abff"/>
+<circle cx="150" cy="0" r="25" fill="#01abff"/>
 </svg>
-)");
+</g>
+</svg>
+)svg");
 }
 
 TEST(Svg, TextStandsLineBelowLineWithWhatXmlCanHold) {
     Canvas canvas(4635, 3015);
-    canvas.SetInk(kRed);
+    canvas.SetInk({1, 2, 3});
     canvas.Print("<1st> & \"2nd\"\x01\r\nf\xC3\xBCr\r\n");  // leaves a blank line
     canvas.Print("fourth");
+    canvas.Print("a long line " + std::string(120, 'm') + " and its end");  // wider than the picture
     const std::string svg = SvgOf(canvas);
     const auto heightOf = [&](const std::string& text) {
-        const std::size_t end = svg.find(" fill=\"#ff0000\">" + text + "</text>\n");
+        const std::size_t end = svg.find(" fill=\"#010203\">" + text + "</text>\n");
         EXPECT_NE(end, std::string::npos) << text;
         return Val(svg.substr(svg.rfind(" y=\"", end) + 4));
     };
     const double first = heightOf("&lt;1st&gt; &amp; &quot;2nd&quot;");
     const double lineHeight = heightOf("f\xC3\xBCr") - first;
     EXPECT_GT(lineHeight, 0);
-    EXPECT_DOUBLE_EQ(heightOf("fourth") - first, 3 * lineHeight);
+    EXPECT_NEAR(heightOf("fourth") - first, 3 * lineHeight, 0.02);
+    EXPECT_NEAR(heightOf("and its end") - heightOf("a long line"), 2 * lineHeight, 0.02);
+}
+
+TEST(Svg, ShowsWhatAWindowShows) {
+    Canvas canvas(600, 400);
+    canvas.SetAxes({.scale = 6, .step = 20, .start = 0, .end = 600, .title = "Time", .unit = "s"},
+                   {.origin = 400, .scale = -4, .step = 50, .start = 400, .end = 0, .title = "Force", .unit = "<N>"});
+    for (const Standing standing : {Standing::Present, Standing::Held}) {
+        canvas.Line({Role::DrivingForce, standing}, 60, 300, 500, 100, kGreen);
+        canvas.AddName({Role::DrivingForce, standing}, standing == Standing::Held ? "before" : "now");
+    }
+    const std::string svg = SvgOf(canvas, {600, 400});
+    for (const char* shown :
+         {">Time [s]</text>", ">Force [&lt;N&gt;]</text>", ">80</text>", ">50</text>", ">now</text>", ">before</text>",
+          "stroke=\"#008234\" stroke-width=\"2\"><title>now</title>",
+          "stroke-dasharray=\"6.25 5\"><title>before</title>", "stroke-dasharray=\"6.25 5\"/>"}) {
+        EXPECT_NE(svg.find(shown), std::string::npos) << shown << '\n' << svg;
+    }
+    EXPECT_EQ(svg.find("#00ff00"), std::string::npos);
 }
 
 }  // namespace

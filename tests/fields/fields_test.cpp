@@ -148,7 +148,7 @@ TEST_F(Fields, AWindowKnowsWhatChangedEachOnce) {
     form.Bar.SetValue(11);
     form.Right.Choose();
     form.Sheet[1].BringToFront();
-    form.Plot.Draw().Line(0, 0, 1, 1);
+    form.Plot.Draw().Line(Role::Shape, 0, 0, 1, 1);
     form.SetTitle("Another");
     EXPECT_THAT(form.TakeChanged(), UnorderedElementsAre(&form.Text, &form.Bar, &form.Left, &form.Right, &form.Sheet[0],
                                                          &form.Sheet[1], &form.Plot, &form));
@@ -193,7 +193,7 @@ TEST_F(Fields, ResetIsSilentAndComplete) {
     form.Tabs.Pick(1);
     form.Tabs.SetToolTipOf(1, "tip");
     form.Photo.SetPath("a.jpg");
-    form.Plot.Draw().Line(0, 0, 1, 1);
+    form.Plot.Draw().Line(Role::Shape, 0, 0, 1, 1);
     form.SetTitle("Another");
     form.Show();
     form.TakeEvents();

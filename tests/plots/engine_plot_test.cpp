@@ -74,12 +74,14 @@ TEST_F(EnginePlot, TorqueIsBlueAndPowerGreenUnlessTheFitFailed) {
     EXPECT_TRUE(curves[16].ends_with(" blue 2")) << curves[16];
     EXPECT_TRUE(curves[17].starts_with("line 777.333,2261.943 ")) << curves[17];
     EXPECT_TRUE(curves[49].ends_with(" green 2")) << curves[49];
-    EXPECT_THAT(plot.Legend(), ElementsAre(LegendEntry{"Torque", kBlue}, LegendEntry{"Power", kGreen}));
+    EXPECT_THAT(plot.Names(),
+                ElementsAre(PartName{"Torque", Role::Torque, "Nm"}, PartName{"Power", Role::Power, "kW"}));
 
     Engine(400, 7000, 550, 5000);  // no curve fits it
     DrawEnginePlot();
     ASSERT_EQ(DrawnBesideGrid(plot).size(), 50U);
     for (const std::string& line : DrawnBesideGrid(plot)) EXPECT_TRUE(line.ends_with(" red 2")) << line;
+    EXPECT_EQ(plot.Names()[0].meaning.standing, Standing::Doubtful);
 }
 
 // By hand: lines at 0 to 7000 rpm, the next stands at 4618.7 and beyond 4375; and at 0 to 160 Nm, the next at 2623.6

@@ -45,9 +45,10 @@ TEST_F(RunPlots, LoadsComeLastWithTheirNames) {
                 ElementsAre("line 200,2715 3440,2197.857 green 2", "line 200,2715 3440,2663.286 red 2",
                             "line 200,2715 3440,2249.571 blue 2", "line 200,991.19 3440,991.19 magenta 2",
                             "line 200,129.286 3440,129.286 cyan 2"));
-    EXPECT_THAT(plot.Legend(), ElementsAre(LegendEntry{"Driving Force", kGreen}, LegendEntry{"Resistance", kRed},
-                                           LegendEntry{"Net Force", kBlue}, LegendEntry{"Front", kMagenta},
-                                           LegendEntry{"Rear", kCyan}));
+    EXPECT_THAT(plot.Names(),
+                ElementsAre(PartName{"Driving Force", Role::DrivingForce}, PartName{"Resistance", Role::Resistance},
+                            PartName{"Net Force", Role::NetForce}, PartName{"Front load", Role::FrontLoad},
+                            PartName{"Rear load", Role::RearLoad}));
 }
 
 // By hand: row 24 is 1.2 s, so 3600 units for 1 s; its 48 m/s stand at 2715 / 1.1 of the height, 51.420455 units for

@@ -93,8 +93,8 @@ TEST_F(TorquePlot, EngineStandsInFrontInBlueAndWiderUnlessItsFitFailed) {
     EXPECT_TRUE(drawn[0].starts_with("line 898.462,2310.982 ")) << drawn[0];   // 1000 rpm, 62.5 Nm
     EXPECT_TRUE(drawn[31].ends_with(" 4390.769,2262.5 blue 3")) << drawn[31];  // 6000 rpm, 70 Nm
     EXPECT_TRUE(drawn[95].ends_with(" 1247.692,1810 black 2")) << drawn[95];   // top gear, 4 times slower
-    EXPECT_THAT(plot.Legend(), ElementsAre(LegendEntry{"Torque", kBlue}, LegendEntry{"1st", kBlack},  //
-                                           LegendEntry{"2nd", kBlack}));
+    EXPECT_THAT(plot.Names(), ElementsAre(PartName{"Engine", Role::Engine}, PartName{"1st", Role::Gear1},  //
+                                          PartName{"2nd", Role::Gear2}));
 
     gearing.Curve.CurveFitFailed = true;
     DrawGearingPlots();

@@ -41,18 +41,15 @@ inline std::vector<std::string> Drawn(const std::vector<DrawingOperation>& opera
 
 inline std::vector<std::string> Drawn(const Canvas& canvas) { return Drawn(canvas.Operations()); }
 
-/// The drawing without its grid, the black lines of width 1.
+/// The drawing without its grid.
 inline std::vector<std::string> DrawnBesideGrid(const Canvas& canvas) {
     std::vector<DrawingOperation> operations = canvas.Operations();
-    std::erase_if(operations, [](const DrawingOperation& operation) {
-        return operation.kind == DrawingOperation::Kind::Line && operation.colour == kBlack && operation.width == 1;
-    });
+    std::erase_if(operations, [](const DrawingOperation& operation) { return operation.meaning.role == Role::Grid; });
     return Drawn(operations);
 }
 
-inline void PrintTo(const LegendEntry& entry, std::ostream* out) {
-    *out << entry.name << " in " << int{entry.colour.red} << ' ' << int{entry.colour.green} << ' '
-         << int{entry.colour.blue};
+inline void PrintTo(const PartName& part, std::ostream* out) {
+    *out << part.name << " of role " << static_cast<int>(part.meaning.role) << ' ' << part.unit;
 }
 
 }  // namespace zolv

@@ -1,4 +1,4 @@
-#include "desktop/plot_axes.h"
+#include "drawing/plot_axes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,8 +7,6 @@
 
 namespace zolv {
 namespace {
-
-using Kind = DrawingOperation::Kind;
 
 constexpr double kClosestNumbers = 8;  // view units; nearer than that no number is readable
 constexpr double kDensestGrid = 5;     // view units
@@ -19,13 +17,9 @@ struct Span {
     double from = 0, to = 0;
 };
 
-/// An origin well inside the canvas has values on both sides.
 Span SpanOf(const PlotAxis& axis, double canvasSize) {
-    constexpr double kWellInside = 0.25;
-    const double near = std::min(axis.origin, canvasSize - axis.origin);
-    const double other = near > canvasSize * kWellInside ? 2 * axis.origin - axis.end : axis.origin;
-    const Span span{std::clamp(std::min(other, axis.end), 0.0, canvasSize),
-                    std::clamp(std::max(other, axis.end), 0.0, canvasSize)};
+    const Span span{std::clamp(std::min(axis.start, axis.end), 0.0, canvasSize),
+                    std::clamp(std::max(axis.start, axis.end), 0.0, canvasSize)};
     return span.to - span.from < 1 ? Span{0, canvasSize} : span;
 }
 
@@ -81,11 +75,6 @@ double NextMultiple(double base, double every) {
 
 }  // namespace
 
-bool IsGridLine(const DrawingOperation& operation) {
-    return operation.kind == Kind::Line && operation.width <= 1 && operation.colour == kBlack &&
-           (operation.x1 == operation.x2 || operation.y1 == operation.y2);
-}
-
 CanvasPart UsedPart(const Canvas& canvas) {
     const Canvas::Axes& axes = canvas.PresentAxes();
     if (!axes.present) return {0, 0, canvas.Width(), canvas.Height()};
@@ -93,7 +82,7 @@ CanvasPart UsedPart(const Canvas& canvas) {
     const Span y = SpanOf(axes.y, canvas.Height());
     CanvasPart part{x.from, y.from, x.to, y.to};
     for (const DrawingOperation& operation : canvas.Operations()) {
-        if (operation.kind == Kind::Line && operation.width > 1) ExtendFor(part, operation, canvas);
+        if (IsCurve(operation.meaning.role)) ExtendFor(part, operation, canvas);
     }
     return part;
 }
@@ -171,35 +160,6 @@ std::string ReadingAt(const PlotAxis& axis, double coordinate, double viewScale)
     const int decimals = finest > 0 ? static_cast<int>(std::clamp(std::ceil(-std::log10(finest)), 0.0, 9.0)) : 9;
     const std::string unit = axis.unit.empty() ? std::string() : ' ' + axis.unit;
     return WithUnit((coordinate - axis.origin) / axis.scale, decimals, unit);
-}
-
-std::vector<Curve> CurvesOf(const Canvas& canvas) {
-    struct Pen {
-        std::uint16_t width = 0;
-        std::size_t curve = 0;  // that it drew last
-    };
-    std::vector<Pen> pens;  // curves may be drawn in turns
-    std::vector<Curve> curves;
-    for (const DrawingOperation& line : canvas.Operations()) {
-        if (line.kind != Kind::Line || line.width <= 1) continue;
-        auto pen = std::find_if(pens.begin(), pens.end(), [&](const Pen& candidate) {
-            return curves[candidate.curve].colour == line.colour && candidate.width == line.width;
-        });
-        const bool isNew = pen == pens.end();
-        if (isNew) pen = pens.insert(pen, {line.width, curves.size()});
-        if (isNew || curves[pen->curve].endX != line.x1 || curves[pen->curve].endY != line.y1) {
-            pen->curve = curves.size();
-            curves.push_back({line.colour, line.x1, line.y1, line.x1, line.y1});
-        }
-        Curve& curve = curves[pen->curve];
-        if (line.y2 < curve.topY) {
-            curve.topX = line.x2;
-            curve.topY = line.y2;
-        }
-        curve.endX = line.x2;
-        curve.endY = line.y2;
-    }
-    return curves;
 }
 
 }  // namespace zolv

@@ -20,8 +20,8 @@ struct CanvasPart {
     bool operator==(const CanvasPart&) const = default;
 };
 
-/// The part of the canvas that is worth showing. With axes it is the room between them, on both sides of an origin in
-/// the middle; where a curve leaves that room, it goes to the edge of the canvas on that side. Without axes it is all.
+/// The part of the canvas that is worth showing. With axes it is the room between their ends; where a curve leaves that
+/// room, it goes to the edge of the canvas on that side. Without axes it is all.
 [[nodiscard]] CanvasPart UsedPart(const Canvas& canvas);
 
 /// From the canvas to the view: view coordinate = offset + scale * canvas coordinate, each direction for itself.
@@ -74,18 +74,5 @@ struct AxisNumbers {
 
 /// What an axis reads at a canvas coordinate, with its unit, as exactly as one view unit tells: "123.4 km/h".
 [[nodiscard]] std::string ReadingAt(const PlotAxis& axis, double coordinate, double viewScale);
-
-/// One curve of a drawing: lines wider than the grid's, each starting where the last one of its colour ended.
-struct Curve {
-    Rgb colour;
-    double topX = 0, topY = 0;  // its highest point, in canvas units
-    double endX = 0, endY = 0;
-};
-
-/// The curves of a drawing, in drawing order.
-[[nodiscard]] std::vector<Curve> CurvesOf(const Canvas& canvas);
-
-/// Whether a line is one of the grid: thin, black and along an axis.
-[[nodiscard]] bool IsGridLine(const DrawingOperation& operation);
 
 }  // namespace zolv

@@ -1,0 +1,269 @@
+#include "drawing/curve_names.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "drawing/palette.h"
+#include "text/number_text.h"
+
+namespace zolv {
+namespace {
+
+constexpr double kAside = 3;    // from a line to its name
+constexpr double kPadding = 1;  // beside the words
+
+struct ViewPoint {
+    double x = 0, y = 0;
+};
+
+/// Where lines and names lie on the ground, in cells of a few pixels.
+class Occupancy {
+public:
+    explicit Occupancy(const Box& ground)
+        : ground_(ground),
+          columns_(std::max(1, static_cast<int>(std::min(ground.width / kCell, kMostCells)) + 1)),
+          rows_(std::max(1, static_cast<int>(std::min(ground.height / kCell, kMostCells)) + 1)),
+          cells_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_), 0) {}
+
+    void TakeLine(ViewPoint from, ViewPoint to) {
+        const double length = std::max(std::fabs(to.x - from.x), std::fabs(to.y - from.y));
+        const int steps = static_cast<int>(length / kCell) + 1;
+        for (int i = 0; i <= steps; ++i) {
+            const double share = static_cast<double>(i) / steps;
+            Cell(Column(from.x + (to.x - from.x) * share), Row(from.y + (to.y - from.y) * share)) = 1;
+        }
+    }
+
+    /// The share of a box that lines cross, 0 to 1.
+    [[nodiscard]] double ShareTaken(const Box& box) const {
+        const int left = Column(box.left);
+        const int right = Column(box.Right());
+        const int top = Row(box.top);
+        const int bottom = Row(box.Bottom());
+        int taken = 0;
+        for (int row = top; row <= bottom; ++row) {
+            for (int column = left; column <= right; ++column) taken += Cell(column, row);
+        }
+        return static_cast<double>(taken) / ((right - left + 1) * (bottom - top + 1));
+    }
+
+private:
+    static constexpr double kCell = 3;
+    static constexpr double kMostCells = 2000;
+
+    [[nodiscard]] int Column(double x) const {
+        return std::clamp(static_cast<int>((x - ground_.left) / kCell), 0, columns_ - 1);
+    }
+    [[nodiscard]] int Row(double y) const {
+        return std::clamp(static_cast<int>((y - ground_.top) / kCell), 0, rows_ - 1);
+    }
+    [[nodiscard]] std::uint8_t& Cell(int column, int row) {
+        return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+                      static_cast<std::size_t>(column)];
+    }
+    [[nodiscard]] std::uint8_t Cell(int column, int row) const {
+        return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+                      static_cast<std::size_t>(column)];
+    }
+
+    Box ground_;
+    int columns_, rows_;
+    std::vector<std::uint8_t> cells_;
+};
+
+/// What is seen of a named mark or curve: its points in the view, in the order drawn.
+struct SeenPart {
+    const PartName* name = nullptr;
+    std::vector<ViewPoint> points;
+};
+
+Box Inside(Box box, const Box& ground) {
+    box.left = std::clamp(box.left, ground.left, std::max(ground.left, ground.Right() - box.width));
+    box.top = std::clamp(box.top, ground.top, std::max(ground.top, ground.Bottom() - box.height));
+    return box;
+}
+
+class NamePlacer {
+public:
+    NamePlacer(const Canvas& canvas, const PlotPlace& place, const TextMeasure& measure)
+        : canvas_(canvas), ground_(place.ground), measure_(measure), occupancy_(place.ground) {
+        for (const PartName& name : canvas.Names()) parts_.push_back({&name, {}});
+        const CanvasMapping mapping = place.Mapping();
+        for (DrawingOperation line : canvas.Operations()) {
+            const Role role = line.meaning.role;
+            if (line.kind != DrawingOperation::Kind::Line || !(IsCurve(role) || IsMark(role))) continue;
+            if (!CutLine(line, place.part)) continue;
+            Take(line.meaning, {mapping.X(line.x1), mapping.Y(line.y1)}, {mapping.X(line.x2), mapping.Y(line.y2)});
+        }
+    }
+
+    NamesOnPlot Place() {
+        for (const SeenPart& part : parts_) {
+            if (!part.points.empty() && IsMark(part.name->meaning.role)) PlaceMark(part);
+        }
+        const NamesOnPlot marks = found_;
+        if (!PlaceCurves(false)) {
+            found_ = marks;
+            PlaceCurves(true);
+        }
+        return std::move(found_);
+    }
+
+private:
+    /// A box that a name may have, and what speaks against it.
+    struct Choice {
+        Box box;
+        double cost = 0;
+    };
+
+    void Take(Meaning meaning, ViewPoint from, ViewPoint to) {
+        occupancy_.TakeLine(from, to);
+        if (last_ >= parts_.size() || parts_[last_].name->meaning != meaning) {
+            const auto part = std::ranges::find_if(
+                parts_, [&](const SeenPart& candidate) { return candidate.name->meaning == meaning; });
+            if (part == parts_.end()) return;
+            last_ = static_cast<std::size_t>(part - parts_.begin());
+        }
+        std::vector<ViewPoint>& points = parts_[last_].points;
+        if (points.empty() || points.back().x != from.x || points.back().y != from.y) points.push_back(from);
+        points.push_back(to);
+    }
+
+    /// Takes a box into the choice if it is free of other names and better than what stands there.
+    void Weigh(std::optional<Choice>& best, Box box, double reluctance) const {
+        const Box inside = Inside(box, ground_);
+        reluctance += (std::fabs(inside.left - box.left) + std::fabs(inside.top - box.top)) / 20;
+        if (best && reluctance >= best->cost) return;
+        const bool covers =
+            std::ranges::any_of(found_.words, [&](const PlacedWords& other) { return other.box.Meets(inside); });
+        if (covers || inside.width > ground_.width || inside.height > ground_.height) return;
+        const double cost = reluctance + kCoverCost * occupancy_.ShareTaken(inside);
+        if (!best || cost < best->cost) best = Choice{inside, cost};
+    }
+
+    void Add(const std::string& text, const Choice& choice, Meaning meaning) {
+        found_.words.push_back({text, choice.box, PlacedWords::Anchor::Centre, true, ColourOf(meaning)});
+    }
+
+    Box BoxOf(const std::string& text) const { return {0, 0, measure_.width(text) + 2 * kPadding, measure_.height}; }
+
+    void PlaceMark(const SeenPart& part) {
+        constexpr int kShifts = 6;
+        const ViewPoint from = part.points.front();
+        const ViewPoint to = part.points.back();
+        const bool lies = std::fabs(to.x - from.x) >= std::fabs(to.y - from.y);
+        Box box = BoxOf(part.name->name);
+        std::optional<Choice> best;
+        for (int shift = 0; shift < kShifts; ++shift) {
+            for (const bool second : {false, true}) {
+                if (lies) {
+                    box.left = std::max(from.x, to.x) - kAside - box.width * (1 + shift);
+                    box.top = second ? from.y + kPadding : from.y - kPadding - box.height;
+                } else {
+                    box.left = second ? from.x - kAside - box.width : from.x + kAside;
+                    box.top = std::min(from.y, to.y) + kAside + box.height * shift;
+                }
+                Weigh(best, box, shift * 0.5 + (second ? 0.1 : 0));
+            }
+        }
+        if (best) Add(part.name->name, *best, part.name->meaning);
+    }
+
+    /// Points along a curve at which its name may stand: the best first, its end, its top, and some in between.
+    std::vector<ViewPoint> AnchorsOf(const std::vector<ViewPoint>& points) const {
+        constexpr int kBetween = 16;
+        std::vector<ViewPoint> anchors{*std::ranges::min_element(points, {}, &ViewPoint::y), points.back()};
+        double length = 0;
+        for (std::size_t i = 1; i < points.size(); ++i) length += LengthOf(points[i - 1], points[i]);
+        double way = 0;
+        double next = length;
+        int count = 0;
+        for (std::size_t i = points.size() - 1; i > 0 && count < kBetween; --i) {
+            const double piece = LengthOf(points[i - 1], points[i]);
+            for (; count < kBetween && length - way - piece <= next - length / kBetween; ++count) {
+                next -= length / kBetween;
+                const double share = piece > 0 ? (length - way - next) / piece : 0;
+                anchors.push_back({points[i].x + (points[i - 1].x - points[i].x) * share,
+                                   points[i].y + (points[i - 1].y - points[i].y) * share});
+            }
+            way += piece;
+        }
+        return anchors;
+    }
+
+    static double LengthOf(ViewPoint from, ViewPoint to) { return std::hypot(to.x - from.x, to.y - from.y); }
+
+    std::optional<Choice> BestAtCurve(const std::vector<ViewPoint>& anchors, Box box) const {
+        std::optional<Choice> best;
+        double reluctance = 0;
+        for (const ViewPoint& anchor : anchors) {
+            const double middleX = anchor.x - box.width / 2;
+            const double middleY = anchor.y - box.height / 2;
+            const double left = anchor.x - kAside - box.width;
+            const double right = anchor.x + kAside;
+            const double above = anchor.y - kAside - box.height;
+            const double below = anchor.y + kAside;
+            const ViewPoint corners[] = {{middleX, above}, {right, middleY}, {left, above}, {right, below},
+                                         {right, above},   {left, middleY},  {left, below}, {middleX, below}};
+            for (const ViewPoint& corner : corners) {
+                Weigh(best, {corner.x, corner.y, box.width, box.height}, reluctance);
+                reluctance += 0.005;
+            }
+        }
+        return best;
+    }
+
+    /// @param shortened  gears are named by their numbers
+    /// @return whether it could not be better with shorter names
+    bool PlaceCurves(bool shortened) {
+        bool good = true;
+        for (const SeenPart& part : parts_) {
+            const PartName& name = *part.name;
+            if (part.points.empty() || !IsCurve(name.meaning.role)) continue;
+            if (name.name == canvas_.PresentAxes().y.title) continue;
+            if (name.meaning.standing == Standing::Held) {
+                found_.left.push_back(name);
+            } else if (!PlaceCurve(part, shortened)) {
+                good = false;
+            }
+        }
+        return good;
+    }
+
+    bool PlaceCurve(const SeenPart& part, bool shortened) {
+        const PartName& name = *part.name;
+        const int gear = GearOf(name.meaning.role);
+        const std::string text = gear > 0 && shortened ? NumberText(std::int32_t{gear}) : name.name;
+        const std::optional<Choice> best = BestAtCurve(AnchorsOf(part.points), BoxOf(text));
+        const bool bearable = best && best->cost <= kBearable;
+        if (bearable || (best && gear > 0)) {
+            Add(text, *best, name.meaning);
+        } else {
+            found_.left.push_back(name);
+        }
+        return bearable || gear == 0;
+    }
+
+    static constexpr double kCoverCost = 10;  // of a name that lies on lines all over
+    static constexpr double kBearable = 3;
+
+    const Canvas& canvas_;
+    Box ground_;
+    const TextMeasure& measure_;
+    Occupancy occupancy_;
+    std::vector<SeenPart> parts_;
+    std::size_t last_ = 0;  // the part that the last line was of
+    NamesOnPlot found_;
+};
+
+}  // namespace
+
+NamesOnPlot PlaceNames(const Canvas& canvas, const PlotPlace& place, const TextMeasure& measure) {
+    if (!place.hasAxes || canvas.Names().empty()) return {};
+    return NamePlacer(canvas, place, measure).Place();
+}
+
+}  // namespace zolv

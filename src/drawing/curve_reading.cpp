@@ -1,0 +1,45 @@
+#include "drawing/curve_reading.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace zolv {
+namespace {
+
+/// The canvas height of a line at an x that it passes. A line straight up is the drop from one piece to the next, and
+/// has none.
+std::optional<double> HeightAt(const DrawingOperation& line, double x) {
+    if (line.x1 == line.x2 || x < std::min(line.x1, line.x2) || x > std::max(line.x1, line.x2)) return {};
+    return line.y1 + (line.y2 - line.y1) * ((x - line.x1) / (line.x2 - line.x1));
+}
+
+}  // namespace
+
+std::vector<CurveReading> ReadingsAt(const Canvas& canvas, double canvasX, double viewScaleY) {
+    const std::vector<PartName>& names = canvas.Names();
+    std::vector<std::optional<double>> heights(names.size());
+    for (const DrawingOperation& line : canvas.Operations()) {
+        if (line.kind != DrawingOperation::Kind::Line || !IsCurve(line.meaning.role)) continue;
+        const std::optional<double> height = HeightAt(line, canvasX);
+        if (!height) continue;
+        const auto name = std::ranges::find(names, line.meaning, &PartName::meaning);
+        if (name != names.end()) heights[static_cast<std::size_t>(name - names.begin())] = height;
+    }
+    std::vector<CurveReading> readings;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (!heights[i]) continue;
+        PlotAxis axis = canvas.PresentAxes().y;
+        if (!names[i].unit.empty()) axis.unit = names[i].unit;
+        readings.push_back({names[i].name, ReadingAt(axis, *heights[i], viewScaleY), names[i].meaning});
+    }
+    return readings;
+}
+
+bool ShareX(const Canvas& one, const Canvas& other) {
+    const Canvas::Axes& a = one.PresentAxes();
+    const Canvas::Axes& b = other.PresentAxes();
+    return a.present && b.present && a.x.title == b.x.title && a.x.unit == b.x.unit;
+}
+
+}  // namespace zolv

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "drawing/plot_axes.h"
+
+namespace zolv {
+
+/// What one curve says at an x.
+struct CurveReading {
+    std::string name;   // "3rd"
+    std::string value;  // "6181 rpm", as exactly as one view unit tells
+    Meaning meaning;
+
+    bool operator==(const CurveReading&) const = default;
+};
+
+/// The values of the named curves that pass an x, in the order of their names.
+/// @param viewScaleY  view units for one canvas unit
+[[nodiscard]] std::vector<CurveReading> ReadingsAt(const Canvas& canvas, double canvasX, double viewScaleY);
+
+/// Whether two drawings can share a crosshair: they have the same quantity in the same unit along x.
+[[nodiscard]] bool ShareX(const Canvas& one, const Canvas& other);
+
+}  // namespace zolv

@@ -1,0 +1,147 @@
+#include "drawing/plot_labels.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "drawing/curve_reading.h"
+
+namespace zolv {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+/// Words in a font whose letters are 7 wide and 13 high.
+TextMeasure Typewriter() {
+    return {.height = 13, .width = [](std::string_view text) { return 7.0 * static_cast<double>(text.size()); }};
+}
+
+/// A plot of 0 to 100 s and 0 to 10 N with a unit of 6 and 40.
+class PlotOfTime : public testing::Test {
+protected:
+    PlotOfTime() {
+        canvas.SetAxes({.scale = 6, .step = 10, .start = 0, .end = 600, .title = "Time", .unit = "s"},
+                       {.origin = 400, .scale = -40, .step = 1, .start = 400, .end = 0, .title = "Force", .unit = "N"});
+    }
+
+    void Curve(Meaning meaning, const std::string& name, double x1, double y1, double x2, double y2) {
+        canvas.Line(meaning, x1 * 6, 400 - y1 * 40, x2 * 6, 400 - y2 * 40);
+        canvas.AddName(meaning, name);
+    }
+
+    PlotPlace Place(ViewSize size) const { return PlaceOf(canvas, CanvasShape::Stretched, size, Typewriter()); }
+
+    std::vector<PlacedWords> Words(ViewSize size = {600, 400}) const {
+        return LabelsOf(canvas, Place(size), Typewriter()).words;
+    }
+
+    static const PlacedWords* Find(const std::vector<PlacedWords>& words, const std::string& text) {
+        const auto found = std::ranges::find(words, text, &PlacedWords::text);
+        return found == words.end() ? nullptr : &*found;
+    }
+
+    Canvas canvas{600, 400};
+};
+
+TEST_F(PlotOfTime, EveryNumberStandsWithoutTouchingAnother) {
+    for (const ViewSize size : {ViewSize{600, 400}, ViewSize{300, 150}, ViewSize{1500, 900}, ViewSize{150, 100}}) {
+        const std::vector<PlacedWords> words = Words(size);
+        const PlotPlace place = Place(size);
+        // Numbers, each of which has its tick, and two titles
+        EXPECT_EQ(words.size(), place.xNumbers.numbers.size() + place.yNumbers.numbers.size() + 2);
+        EXPECT_GE(place.xNumbers.numbers.size(), 2U);
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            EXPECT_GE(words[i].box.left, 0) << words[i].text;
+            EXPECT_LE(words[i].box.Right(), size.width) << words[i].text;
+            for (std::size_t k = i + 1; k < words.size(); ++k) {
+                EXPECT_FALSE(words[i].box.Meets(words[k].box)) << words[i].text << " on " << words[k].text;
+            }
+        }
+        EXPECT_NE(Find(words, "Force [N]"), nullptr);
+        EXPECT_NE(Find(words, "Time [s]"), nullptr);
+    }
+}
+
+TEST_F(PlotOfTime, ANameStandsWhereItsCurveIsSeen) {
+    Curve(Role::Gear1, "1st", 0, 0, 40, 40);      // leaves the plot at 10 s and 10 N
+    Curve(Role::Gear2, "2nd", 0, 0, 100, 9);      // all inside
+    Curve(Role::Gear3, "3rd", 200, 12, 300, 15);  // all outside
+    const PlotPlace place = Place({600, 400});
+    const CanvasMapping mapping = place.Mapping();
+    const std::vector<PlacedWords> words = Words();
+    const PlacedWords* const first = Find(words, "1st");
+    ASSERT_NE(first, nullptr);
+    // Its own width and a little from the steep line, inside.
+    EXPECT_LT(std::abs(first->box.CentreX() - mapping.X(30)), 60);
+    EXPECT_GE(first->box.top, place.ground.top);
+    EXPECT_EQ(first->colour, GearColour(1));
+    EXPECT_NE(Find(words, "2nd"), nullptr);
+    EXPECT_EQ(Find(words, "3rd"), nullptr);
+}
+
+TEST_F(PlotOfTime, NoNameDropsTheOthersAndNoneLiesOnAnother) {
+    for (int gear = 1; gear <= 6; ++gear) {  // a bundle that ends in one corner
+        Curve(GearRole(gear), "gear " + std::to_string(gear), 90, 9, 99, 9 + gear * 0.1);
+    }
+    for (const ViewSize size : {ViewSize{600, 400}, ViewSize{180, 120}}) {
+        const std::vector<PlacedWords> words = Words(size);
+        for (int gear = 1; gear <= 6; ++gear) {
+            const std::string number = std::to_string(gear);
+            const auto name = std::ranges::find_if(words, [&](const PlacedWords& candidate) {
+                return candidate.onPlot && (candidate.text == number || candidate.text == "gear " + number);
+            });
+            ASSERT_NE(name, words.end()) << gear;
+            for (const PlacedWords& other : words) {
+                EXPECT_TRUE(&other == &*name || !other.box.Meets(name->box)) << name->text << " on " << other.text;
+            }
+        }
+    }
+}
+
+TEST_F(PlotOfTime, MarksAreNamedAtTheRightOrAtTheTop) {
+    Curve(Role::Limiter, "Limiter", 0, 5, 100, 5);
+    Curve(Role::PresentValue, "now", 30, 0, 30, 10);
+    const PlotPlace place = Place({600, 400});
+    const std::vector<PlacedWords> words = Words();
+    const PlacedWords* const limiter = Find(words, "Limiter");
+    const PlacedWords* const now = Find(words, "now");
+    ASSERT_TRUE(limiter != nullptr && now != nullptr);
+    EXPECT_NEAR(limiter->box.Right(), place.ground.Right(), 5);
+    EXPECT_NEAR(limiter->box.Bottom(), place.Mapping().Y(200), 3);
+    EXPECT_NEAR(now->box.top, place.ground.top, 5);
+    EXPECT_NEAR(now->box.left, place.Mapping().X(180), 5);
+}
+
+TEST_F(PlotOfTime, TheLegendTellsWhatIsHeld) {
+    Curve(Role::NetForce, "now", 0, 2, 100, 8);
+    Curve({Role::NetForce, Standing::Held}, "before", 0, 1, 100, 7);
+    const PlotLabels labels = LabelsOf(canvas, Place({600, 400}), Typewriter());
+    ASSERT_EQ(labels.strokes.size(), 1U);
+    EXPECT_EQ(labels.strokes[0].meaning, (Meaning{Role::NetForce, Standing::Held}));
+    EXPECT_LT(Find(labels.words, "before")->box.Bottom(), Place({600, 400}).ground.top);
+    EXPECT_TRUE(Find(labels.words, "now")->onPlot);
+}
+
+// By hand: at 25 s the first has risen to a quarter of 8 N, the second has 3 N, and the third begins later.
+TEST_F(PlotOfTime, ReadsEachCurveThatPasses) {
+    Curve(Role::Gear1, "1st", 0, 0, 100, 8);
+    Curve(Role::Gear2, "2nd", 25, 9, 25, 3);  // a drop, and on from there
+    canvas.Line(Role::Gear2, 150, 280, 300, 200);
+    Curve(Role::Gear3, "3rd", 26, 1, 100, 1);
+    Curve(Role::Limiter, "Limiter", 0, 5, 100, 5);
+    EXPECT_THAT(ReadingsAt(canvas, 150, 1),
+                ElementsAre(CurveReading{"1st", "2 N", Role::Gear1}, CurveReading{"2nd", "3 N", Role::Gear2}));
+    EXPECT_THAT(ReadingsAt(canvas, 150, 10), Not(IsEmpty()));
+    Canvas other(100, 100);
+    EXPECT_FALSE(ShareX(canvas, other));
+    other.SetAxes({.scale = 1, .title = "Time", .unit = "s"}, {.scale = 1});
+    EXPECT_TRUE(ShareX(canvas, other));
+    other.SetAxes({.scale = 1, .title = "Time", .unit = "min"}, {.scale = 1});
+    EXPECT_FALSE(ShareX(canvas, other));
+}
+
+}  // namespace
+}  // namespace zolv

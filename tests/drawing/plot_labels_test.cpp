@@ -86,18 +86,22 @@ TEST_F(PlotOfTime, NoNameDropsTheOthersAndNoneLiesOnAnother) {
     for (int gear = 1; gear <= 6; ++gear) {  // a bundle that ends in one corner
         Curve(GearRole(gear), "gear " + std::to_string(gear), 90, 9, 99, 9 + gear * 0.1);
     }
-    for (const ViewSize size : {ViewSize{600, 400}, ViewSize{180, 120}}) {
+    // In a small view the last of a bundle may find no room; the others keep theirs.
+    for (const auto& [size, least] : {std::pair(ViewSize{600, 400}, 6), std::pair(ViewSize{180, 120}, 5)}) {
         const std::vector<PlacedWords> words = Words(size);
+        int named = 0;
         for (int gear = 1; gear <= 6; ++gear) {
             const std::string number = std::to_string(gear);
             const auto name = std::ranges::find_if(words, [&](const PlacedWords& candidate) {
                 return candidate.text == "gear " + number || (candidate.onPlot && candidate.text == number);
             });
-            ASSERT_NE(name, words.end()) << gear;
+            if (name == words.end()) continue;
+            ++named;
             for (const PlacedWords& other : words) {
                 EXPECT_TRUE(&other == &*name || !other.box.Meets(name->box)) << name->text << " on " << other.text;
             }
         }
+        EXPECT_GE(named, least);
     }
 }
 

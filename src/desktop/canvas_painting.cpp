@@ -74,6 +74,7 @@ public:
     }
 
     void Paint() {
+        for (const DrawingOperation& line : grid_.RoundLines()) PaintGridLine(line);
         for (const DrawingOperation& operation : canvas_.Operations()) {
             switch (operation.kind) {
                 case Kind::Line: PaintLine(operation); break;
@@ -88,10 +89,16 @@ public:
 private:
     double PenWidth(double width) const { return std::max(1.0, width * scale_); }
 
+    void PaintGridLine(DrawingOperation line) {
+        if (CutLine(line, cut_)) PaintRule(line, ToQt(grid_.ColourOf(line)), 1);
+    }
+
     void PaintLine(DrawingOperation line) {
-        const bool onGrid = line.meaning.role == Role::Grid;
-        if ((onGrid && !grid_.Shows(line)) || !CutLine(line, cut_)) return;
-        if (onGrid) return PaintRule(line, ToQt(grid_.ColourOf(line)), 1);
+        if (line.meaning.role == Role::Grid) {
+            if (grid_.Shows(line)) PaintGridLine(line);
+            return;
+        }
+        if (!CutLine(line, cut_)) return;
         const StrokeStyle style = StyleOf(line);
         const bool isStraight = line.x1 == line.x2 || line.y1 == line.y2;
         if (isStraight && !style.dashed && !IsCurve(line.meaning.role)) {

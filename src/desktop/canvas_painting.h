@@ -38,6 +38,12 @@ void PaintGround(QPainter& painter, const Box& ground, const QColor& frame, doub
 
 [[nodiscard]] inline QColor ToQt(Rgb colour) { return {colour.red, colour.green, colour.blue}; }
 
+[[nodiscard]] inline QColor ToQt(const Fill& fill) {
+    QColor colour = ToQt(fill.colour);
+    colour.setAlphaF(static_cast<float>(fill.opacity));
+    return colour;
+}
+
 /// Paints what is drawn on a canvas, except for prints: lines at least one device pixel wide, those of the grid, marks
 /// and other straight rules on whole device pixels, curves smooth. Nothing leaves the ground.
 void PaintStrokes(QPainter& painter, const Canvas& canvas, const PlotPlace& place);

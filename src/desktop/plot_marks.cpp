@@ -50,7 +50,7 @@ void PaintStroke(QPainter& painter, const QRectF& box, Meaning meaning) {
 
 void PaintWords(QPainter& painter, const PlacedWords& words, const QColor& ink) {
     const QRectF box = ToQt(words.box);
-    if (words.onPlot && words.anchor == PlacedWords::Anchor::Centre) painter.fillRect(box, kVeil);
+    if (words.veiled) painter.fillRect(box, kVeil);
     painter.setPen(words.onPlot ? ToQt(words.colour) : ink);
     painter.drawText(box, static_cast<int>(AlignmentOf(words.anchor) | Qt::AlignVCenter) | Qt::TextDontClip,
                      ToQt(words.text));

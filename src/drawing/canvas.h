@@ -32,6 +32,7 @@ struct PlotAxis {
     double origin = 0;       // canvas coordinate of the value zero
     double scale = 0;        // canvas units for one unit of the value; negative on a y axis, which grows downward
     double step = 0;         // from grid line to grid line, in the unit; 0 where there is no grid
+    bool roundGrid = false;  // shown with a grid of round numbers instead of the one that is recorded
     double start = 0;        // canvas coordinate of the axis's near end
     double end = 0;          // and of its far end
     std::string title = {};  // "Engine speed"; empty where the unit says enough
@@ -58,7 +59,7 @@ void WalkGrid(double step, double scale, double end, int limit, DrawLine draw) {
     }
 }
 
-/// What a curve or a mark of a drawing is called.
+/// What a curve or a mark of a drawing is called, or how much a measure of its area is.
 struct PartName {
     std::string name;
     Meaning meaning;

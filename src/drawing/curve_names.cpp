@@ -145,7 +145,7 @@ private:
     }
 
     void Add(const std::string& text, const Choice& choice, Meaning meaning) {
-        found_.words.push_back({text, choice.box, PlacedWords::Anchor::Centre, true, ColourOf(meaning)});
+        found_.words.push_back({text, choice.box, PlacedWords::Anchor::Centre, true, true, ColourOf(meaning)});
     }
 
     Box BoxOf(const std::string& text) const { return {0, 0, measure_.width(text) + 2 * kPadding, measure_.height}; }

@@ -15,7 +15,8 @@ struct PlacedWords {
     std::string text;
     Box box;  // as wide as the words are measured, and a line high
     Anchor anchor = Anchor::Left;
-    bool onPlot = false;     // on the white ground, with a veil under it; otherwise on what surrounds it
+    bool onPlot = false;     // otherwise on what surrounds the ground
+    bool veiled = false;     // with a veil of white under it, since it may lie on lines
     Rgb colour = kWordsInk;  // on the plot; around it words have the ink of the theme
 };
 

@@ -133,7 +133,7 @@ AxisNumbers NumbersAlong(const PlotAxis& axis, double from, double to, double vi
     if (!std::isfinite(range) || range <= 0 || valueRoom <= 0) return {};
 
     AxisNumbers found;
-    found.onGrid = std::isfinite(axis.step) && axis.step > 0 && axis.step <= range;
+    found.onGrid = !axis.roundGrid && std::isfinite(axis.step) && axis.step > 0 && axis.step <= range;
     const double base = found.onGrid ? axis.step : std::pow(10, std::floor(std::log10(range)) - 2);
     for (;; found.every = NextMultiple(base, found.every)) {
         const double step = base * found.every;

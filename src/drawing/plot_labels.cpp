@@ -51,6 +51,32 @@ public:
         AddAround(ofY, titleOfY_, Anchor::Left);
     }
 
+    /// The measures of an area, inside it along two of its edges, or beside it where it is too small.
+    void Measures(const Canvas& canvas) {
+        const auto area = std::ranges::find(canvas.Operations(), Meaning(Role::Area), &DrawingOperation::meaning);
+        if (area == canvas.Operations().end()) return;
+        const CanvasMapping mapping = place_.Mapping();
+        const double left = std::max(mapping.X(std::min(area->x1, area->x2)), ground_.left);
+        const double right = std::min(mapping.X(std::max(area->x1, area->x2)), ground_.Right());
+        const double top = std::max(mapping.Y(std::min(area->y1, area->y2)), ground_.top);
+        const double bottom = std::min(mapping.Y(std::max(area->y1, area->y2)), ground_.Bottom());
+        for (const PartName& name : canvas.Names()) {
+            const double width = measure_.width(name.name);
+            const bool fits = right - left > 2 * width + 4 * kPadding && bottom - top > 3 * measure_.height;
+            Box box{0, 0, width, measure_.height};
+            if (name.meaning.role == Role::AreaWidth) {
+                box.left = (left + right - width) / 2;
+                box.top = fits ? bottom - measure_.height - kPadding / 2 : bottom + kPadding / 2;
+            } else if (name.meaning.role == Role::AreaLength) {
+                box.left = fits ? right - width - kPadding : right + kPadding;
+                box.top = (top + bottom - measure_.height) / 2;
+            } else {
+                continue;
+            }
+            labels_.words.push_back({name.name, box, Anchor::Centre, true, !fits, fits ? kWhite : kWordsInk});
+        }
+    }
+
     void Names(NamesOnPlot names) {
         Legend(names);
         std::ranges::move(names.words, std::back_inserter(labels_.words));
@@ -128,6 +154,7 @@ PlotLabels LabelsOf(const Canvas& canvas, const PlotPlace& place, const TextMeas
     Labeller labeller(canvas, place, measure);
     labeller.Numbers();
     labeller.Titles();
+    labeller.Measures(canvas);
     labeller.Names(PlaceNames(canvas, place, measure));
     return labeller.Labels();
 }

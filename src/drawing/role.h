@@ -7,8 +7,10 @@ namespace zolv {
 /// What an operation of a drawing is, for whoever paints it, names it or reads values from it. None of them has to tell
 /// a curve from a grid line by colour, width or slope.
 enum class Role : std::uint8_t {
-    Shape,  // a piece of a picture: the tyre, the road under it
-    Area,   // a filled piece of a plot that has a size to be read: a footprint
+    Shape,      // a piece of a picture: the tyre, the road under it
+    Area,       // a filled piece of a plot that has a size to be read: a footprint
+    AreaWidth,  // its measures, which stand on it, for their names alone
+    AreaLength,
     Grid,
     Words,
 

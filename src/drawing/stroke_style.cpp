@@ -16,11 +16,14 @@ StrokeStyle StyleOf(const DrawingOperation& line) {
     return {.colour = Softened(line.colour), .width = static_cast<double>(line.width)};
 }
 
-Rgb FillOf(const DrawingOperation& filled) {
-    return filled.meaning.role == Role::Area ? ColourOf(filled.meaning) : Softened(filled.colour);
+Fill FillOf(const DrawingOperation& filled) {
+    constexpr double kRubberOpacity = 0.85;
+    if (filled.meaning.role == Role::Area) return {ColourOf(filled.meaning), kRubberOpacity};
+    return {Softened(filled.colour)};
 }
 
-ShownGrid::ShownGrid(const Canvas& canvas, const PlotPlace& place) : axes_(canvas.PresentAxes()), part_(place.part) {
+ShownGrid::ShownGrid(const Canvas& canvas, const PlotPlace& place)
+    : axes_(canvas.PresentAxes()), place_(place), part_(place.part) {
     if (!place.hasAxes) return;
     const CanvasMapping mapping = place.Mapping();
     stepX_ = PaintedGridStep(axes_.x, place.xNumbers, mapping.scaleX);
@@ -28,8 +31,23 @@ ShownGrid::ShownGrid(const Canvas& canvas, const PlotPlace& place) : axes_(canva
 }
 
 bool ShownGrid::Shows(const DrawingOperation& gridLine) const {
-    return gridLine.x1 == gridLine.x2 ? IsPaintedGridLine(axes_.x, gridLine.x1, stepX_)
-                                      : IsPaintedGridLine(axes_.y, gridLine.y1, stepY_);
+    const bool stands = gridLine.x1 == gridLine.x2;
+    if ((stands ? axes_.x : axes_.y).roundGrid) return false;
+    return stands ? IsPaintedGridLine(axes_.x, gridLine.x1, stepX_) : IsPaintedGridLine(axes_.y, gridLine.y1, stepY_);
+}
+
+std::vector<DrawingOperation> ShownGrid::RoundLines() const {
+    std::vector<DrawingOperation> lines;
+    const auto add = [&](double x1, double y1, double x2, double y2) {
+        lines.push_back({DrawingOperation::Kind::Line, kGridInk, 1, Role::Grid, 0, x1, y1, x2, y2});
+    };
+    for (const AxisNumber& number : place_.xNumbers.numbers) {
+        if (axes_.x.roundGrid) add(number.coordinate, part_.top, number.coordinate, part_.bottom);
+    }
+    for (const AxisNumber& number : place_.yNumbers.numbers) {
+        if (axes_.y.roundGrid) add(part_.left, number.coordinate, part_.right, number.coordinate);
+    }
+    return lines;
 }
 
 Rgb ShownGrid::ColourOf(const DrawingOperation& gridLine) const {

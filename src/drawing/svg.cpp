@@ -63,14 +63,19 @@ std::string Escaped(std::string_view text) {
     return escaped;
 }
 
-void AddBox(std::string& svg, const Box& box, Rgb fill, std::string_view more = {}) {
+void AddFill(std::string& svg, const Fill& fill) {
+    AddColour(svg, "fill", fill.colour);
+    if (fill.opacity < 1) AddAttribute(svg, "fill-opacity", fill.opacity);
+}
+
+void AddBox(std::string& svg, const Box& box, const Fill& fill) {
     svg += "<rect";
     AddPlace(svg, "x", box.left);
     AddPlace(svg, "y", box.top);
     AddPlace(svg, "width", box.width);
     AddPlace(svg, "height", box.height);
-    AddColour(svg, "fill", fill);
-    svg.append(more).append("/>\n");
+    AddFill(svg, fill);
+    svg += "/>\n";
 }
 
 void AddText(std::string& svg, std::string_view text, double x, double top, double size, Rgb colour,
@@ -86,7 +91,7 @@ void AddText(std::string& svg, std::string_view text, double x, double top, doub
     svg.append(">").append(escaped).append("</text>\n");
 }
 
-void AddStroke(std::string& svg, const StrokeStyle& style) {
+void AddPen(std::string& svg, const StrokeStyle& style) {
     svg += " fill=\"none\"";
     AddColour(svg, "stroke", style.colour);
     AddAttribute(svg, "stroke-width", style.width);
@@ -108,6 +113,7 @@ public:
     }
 
     void Write() {
+        for (const DrawingOperation& line : grid_.RoundLines()) AddStroke(line, {.colour = grid_.ColourOf(line)});
         for (const DrawingOperation& operation : canvas_.Operations()) {
             switch (operation.kind) {
                 case DrawingOperation::Kind::Line: AddLine(operation); break;
@@ -127,10 +133,13 @@ private:
         double endX = 0, endY = 0;
     };
 
-    void AddLine(DrawingOperation line) {
-        const bool onGrid = line.meaning.role == Role::Grid;
-        if ((onGrid && !grid_.Shows(line)) || !CutLine(line, part_)) return;
-        const StrokeStyle style = onGrid ? StrokeStyle{.colour = grid_.ColourOf(line)} : StyleOf(line);
+    void AddLine(const DrawingOperation& line) {
+        if (line.meaning.role != Role::Grid) return AddStroke(line, StyleOf(line));
+        if (grid_.Shows(line)) AddStroke(line, {.colour = grid_.ColourOf(line)});
+    }
+
+    void AddStroke(DrawingOperation line, const StrokeStyle& style) {
+        if (!CutLine(line, part_)) return;
         Path& path = PathOf(line.meaning, style);
         // A line that starts where the last one ended goes on from there.
         if (path.data.empty() || path.endX != line.x1 || path.endY != line.y1) AddPoint(path, 'M', line.x1, line.y1);
@@ -153,7 +162,7 @@ private:
     void WritePaths() {
         for (const Path& path : paths_) {
             svg_.append("<path d=\"").append(path.data).append("\"");
-            AddStroke(svg_, path.style);
+            AddPen(svg_, path.style);
             const auto name = std::ranges::find(canvas_.Names(), path.meaning, &PartName::meaning);
             if (name == canvas_.Names().end()) {
                 svg_ += "/>\n";
@@ -179,7 +188,7 @@ private:
         AddPlace(svg_, "cx", mapping_.X(circle.x1));
         AddPlace(svg_, "cy", mapping_.Y(circle.y1));
         AddPlace(svg_, "r", circle.x2 * mapping_.scaleX);
-        AddColour(svg_, "fill", FillOf(circle));
+        AddFill(svg_, FillOf(circle));
         svg_ += "/>\n";
     }
 
@@ -249,17 +258,17 @@ void AddLegendStroke(std::string& svg, const LegendStroke& stroke) {
     const std::string y = RoundedText(stroke.box.CentreY(), 2);
     svg.append("<path d=\"M").append(RoundedText(stroke.box.left, 2)).append(" ").append(y);
     svg.append("L").append(RoundedText(stroke.box.Right(), 2)).append(" ").append(y).append("\"");
-    AddStroke(svg, StyleOf(stroke.meaning));
+    AddPen(svg, StyleOf(stroke.meaning));
     svg += "/>\n";
 }
 
 void AddLabels(std::string& svg, const PlotLabels& labels) {
-    constexpr std::string_view kVeil = " fill-opacity=\"0.85\"";
-    if (labels.veil.width > 0) AddBox(svg, labels.veil, kWhite, kVeil);
+    constexpr Fill kVeil{kWhite, 0.85};
+    if (labels.veil.width > 0) AddBox(svg, labels.veil, kVeil);
     for (const LegendStroke& stroke : labels.strokes) AddLegendStroke(svg, stroke);
     for (const PlacedWords& words : labels.words) {
         const Box& box = words.box;
-        if (words.onPlot && words.anchor == PlacedWords::Anchor::Centre) AddBox(svg, box, kWhite, kVeil);
+        if (words.veiled) AddBox(svg, box, kVeil);
         const double top = box.top + (box.height - kNumberSize * 1.25) / 2;
         switch (words.anchor) {
             case PlacedWords::Anchor::Left: AddText(svg, words.text, box.left, top, kNumberSize, words.colour); break;
@@ -277,8 +286,8 @@ void AddLabels(std::string& svg, const PlotLabels& labels) {
 void AddGround(std::string& svg, const Canvas& canvas, const PlotPlace& place) {
     const Box& ground = place.ground;
     AddBox(svg, {ground.left - kFrame, ground.top - kFrame, ground.width + 2 * kFrame, ground.height + 2 * kFrame},
-           kFrameInk);
-    AddBox(svg, ground, kWhite);
+           {kFrameInk});
+    AddBox(svg, ground, {kWhite});
     svg += "<svg";
     AddPlace(svg, "x", ground.left);
     AddPlace(svg, "y", ground.top);

@@ -66,6 +66,7 @@ void PublishFootprintAxes(Canvas& plot, double scale) {
     PlotAxis x{.origin = kFootprintWidth / 2,
                .scale = scale * 2 / factor,
                .step = kGridStep / 2 * factor,
+               .roundGrid = true,
                .start = 0,
                .end = kFootprintWidth,
                .title = words["PatchWidth"],
@@ -92,6 +93,8 @@ void DrawFootprint(const DrawnTyre& tyre) {
     PublishFootprintAxes(plot, scale);
     plot.FillRectangle(Role::Area, kCentreX - halfWidth, kCentreY - halfLength, kCentreX + halfWidth,
                        kCentreY + halfLength, kBlack);
+    plot.AddName(Role::AreaWidth, "\u2194 " + units.Distance.Text(tyre.patchWidth));
+    plot.AddName(Role::AreaLength, "\u2195 " + units.Distance.Text(tyre.patchLength));
 }
 
 /// The wheel stands lower by the deformation, drawn to the tyre's scale in whole units, and everything below the road

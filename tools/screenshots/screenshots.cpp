@@ -4,11 +4,13 @@
 // EXAMPLES: the pictures of the manual, of set-ups in the folder EXAMPLES.
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPalette>
 #include <QRegularExpression>
 #include <functional>
 #include <iostream>
 
+#include "desktop/canvas_view.h"
 #include "desktop/desktop.h"
 #include "desktop/main_window.h"
 #include "desktop/texts_of_qt.h"
@@ -29,12 +31,63 @@ struct Shot {
     std::function<void()> before;
 };
 
+QWidget* WidgetOf(const Window& window) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == ToQt(window.Name())) return widget;
+    }
+    return nullptr;
+}
+
+/// Moves the mouse to a place of a plot, in shares of its sides; it leaves all others.
+void PointAt(const char* plot, double across, double down) {
+    QApplication::processEvents();  // a plot that has just come into view has its size
+    for (CanvasView* view : WidgetOf(Zolv)->findChildren<CanvasView*>()) {
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(view, &leave);
+        if (view->objectName() != QLatin1String(plot)) continue;
+        const QPointF at(view->width() * across, view->height() * down);
+        QMouseEvent move(QEvent::MouseMove, at, view->mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(view, &move);
+    }
+}
+
 std::vector<Shot> PageShots() {
     const auto page = [](int number) { return [number] { Zolv.Select_Page.Pick(number); }; };
     return {
         {"info", Zolv, page(0)},
         {"gearing", Zolv, page(1)},
-        {"gearing-wrong-order", Zolv, [] { Zolv.Ratios.Input[2].Enter("4"); }},
+        {"gearing-saw-tooth", Zolv,
+         [] {
+             Zolv.Select_Car.SetText("Series Lo");
+             for (CheckBox* box : {&OptionsPanel.EnableAltGraph, &OptionsPanel.EnablePowerLine,
+                                   &OptionsPanel.EnableTorqueLine, &OptionsPanel.EnableRedline}) {
+                 box->SetChecked(true);
+             }
+             OptionsPanel.EnableEngineTorque.SetChecked(true);
+             PointAt("SpeedPlot", 0.6, 0.5);
+         }},
+        {"gearing-six-gears", Zolv,
+         [] {
+             OptionsPanel.EnableAltGraph.SetChecked(false);
+             OptionsPanel.EnableEngineTorque.SetChecked(false);
+             PointAt("TorquePlot", 0.5, 0.4);
+         }},
+        {"gearing-time-all", Zolv,
+         [] {
+             OptionsPanel.EnableVLoads.SetChecked(true);
+             Zolv.Select_Graphs.Pick(1);
+             PointAt("TractiveEffortPlot", 0.3, 0.4);
+         }},
+        {"gearing-wrong-order", Zolv,
+         [] {
+             for (CheckBox* box :
+                  {&OptionsPanel.EnableTorqueLine, &OptionsPanel.EnableRedline, &OptionsPanel.EnableVLoads}) {
+                 box->SetChecked(false);
+             }
+             Zolv.Select_Graphs.Pick(0);
+             Zolv.Select_Car.SetText("Pell S");
+             Zolv.Ratios.Input[2].Enter("4");
+         }},
         {"gearing-time", Zolv,
          [] {
              Zolv.Ratios.Input[2].Enter("2.4");
@@ -127,13 +180,6 @@ std::vector<Shot> DocumentShots(const std::string& examples) {
              CustomPresets.NewCar.SetText("Ondo T");
          }},
     };
-}
-
-QWidget* WidgetOf(const Window& window) {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->objectName() == ToQt(window.Name())) return widget;
-    }
-    return nullptr;
 }
 
 class Camera {

@@ -14,8 +14,9 @@ namespace zolv {
 /// values of the axes and of each curve; it stands in those views of the same parent, too, that have the same x. The
 /// context menu, by the mouse or a key, copies or saves the picture.
 class CanvasView : public QWidget {
-public:
-    using Shape = CanvasShape;
+    Q_OBJECT  // by which views find each other
+
+        public : using Shape = CanvasShape;
 
     /// @param canvas  lives longer than the view; who draws on it calls update()
     CanvasView(const Canvas& canvas, Shape shape, QWidget* parent = nullptr);

@@ -40,7 +40,6 @@ QWidget* WidgetOf(const Window& window) {
 
 /// Moves the mouse to a place of a plot, in shares of its sides; it leaves all others.
 void PointAt(const char* plot, double across, double down) {
-    QApplication::processEvents();  // a plot that has just come into view has its size
     for (CanvasView* view : WidgetOf(Zolv)->findChildren<CanvasView*>()) {
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(view, &leave);

@@ -25,6 +25,23 @@ AxisNumbers NumbersOfY(const PlotPlace& place, const PlotAxis& axis, const TextM
 
 /// Above stands the title of y, so high that a number at the top of the axis fits below it; below the numbers of x and
 /// their title.
+/// One grid for two axes of one scale: the steps of the one that has the wider ones.
+void UseOneGrid(PlotPlace& place, const Canvas::Axes& axes, const TextMeasure& measure) {
+    const auto stepOf = [](const AxisNumbers& along, const PlotAxis& axis) {
+        const std::vector<AxisNumber>& numbers = along.numbers;
+        if (numbers.size() < 2) return 0.0;
+        return std::fabs((numbers[1].coordinate - numbers[0].coordinate) / axis.scale);
+    };
+    const double step = std::max(stepOf(place.xNumbers, axes.x), stepOf(place.yNumbers, axes.y));
+    const auto inSteps = [&](PlotAxis axis) {
+        axis.roundGrid = false;
+        axis.step = step;
+        return axis;
+    };
+    place.xNumbers = NumbersOfX(place, inSteps(axes.x), measure);
+    place.yNumbers = NumbersOfY(place, inSteps(axes.y), measure);
+}
+
 Margins MarginsFor(const AxisNumbers& yNumbers, const TextMeasure& measure) {
     double widest = measure.width("00000");
     for (const AxisNumber& number : yNumbers.numbers) widest = std::max(widest, measure.width(number.text));
@@ -70,6 +87,7 @@ PlotPlace PlaceOf(const Canvas& canvas, CanvasShape shape, ViewSize size, const 
     if (!axes.present) return place;
     place.xNumbers = NumbersOfX(place, axes.x, measure);
     place.yNumbers = NumbersOfY(place, axes.y, measure);
+    if (axes.x.roundGrid && axes.y.roundGrid) UseOneGrid(place, axes, measure);
     return place;
 }
 

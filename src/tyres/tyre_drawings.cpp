@@ -1,9 +1,12 @@
 #include "tyres/tyre_drawings.h"
 
 #include <cmath>
+#include <string>
+#include <string_view>
 
 #include "fields/windows.h"
 #include "model/tyre_geometry.h"
+#include "text/number_text.h"
 #include "text/words.h"
 #include "tyres/tyre_state.h"
 #include "units/unit_state.h"
@@ -60,17 +63,30 @@ void DrawFootprintGrid(Canvas& plot, double scale) {
     });
 }
 
+/// The unit in which the footprint is read: the user's, but millimetres for metres, of which it has tenths.
+struct ReadLength {
+    double factor = 1;  // shown value = metres * factor
+    std::string_view suffix;
+    int decimals = 0;
+
+    [[nodiscard]] std::string Text(double metres) const { return WithUnit(metres * factor, decimals, suffix); }
+};
+
+ReadLength FootprintUnit() {
+    if (units.Distance.Unit == 0) return {1000, " mm", 0};
+    return {units.Distance.Factor, units.Distance.Suffix, units.Distance.Decimals};
+}
+
 /// @param scale  canvas units for one metre of half the patch: the drawn patch is twice as large as the scale says
-void PublishFootprintAxes(Canvas& plot, double scale) {
-    const double factor = units.Distance.Factor;
+void PublishFootprintAxes(Canvas& plot, double scale, const ReadLength& unit) {
     PlotAxis x{.origin = kFootprintWidth / 2,
-               .scale = scale * 2 / factor,
-               .step = kGridStep / 2 * factor,
+               .scale = scale * 2 / unit.factor,
+               .step = kGridStep / 2 * unit.factor,
                .roundGrid = true,
                .start = 0,
                .end = kFootprintWidth,
                .title = words["PatchWidth"],
-               .unit = AxisUnit(units.Distance.Suffix)};
+               .unit = AxisUnit(unit.suffix)};
     PlotAxis y = x;
     y.origin = kFootprintHeight / 2;
     y.scale = -x.scale;
@@ -90,11 +106,12 @@ void DrawFootprint(const DrawnTyre& tyre) {
     Canvas& plot = Zolv.CPS.Draw();
     plot.Clear();
     DrawFootprintGrid(plot, scale);
-    PublishFootprintAxes(plot, scale);
+    const ReadLength unit = FootprintUnit();
+    PublishFootprintAxes(plot, scale, unit);
     plot.FillRectangle(Role::Area, kCentreX - halfWidth, kCentreY - halfLength, kCentreX + halfWidth,
                        kCentreY + halfLength, kBlack);
-    plot.AddName(Role::AreaWidth, "\u2194 " + units.Distance.Text(tyre.patchWidth));
-    plot.AddName(Role::AreaLength, "\u2195 " + units.Distance.Text(tyre.patchLength));
+    plot.AddName(Role::AreaWidth, "\u2194 " + unit.Text(tyre.patchWidth));
+    plot.AddName(Role::AreaLength, "\u2195 " + unit.Text(tyre.patchLength));
 }
 
 /// The wheel stands lower by the deformation, drawn to the tyre's scale in whole units, and everything below the road

@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "drawing/curve_reading.h"
+#include "drawing/stroke_style.h"
 
 namespace zolv {
 namespace {
@@ -117,6 +119,40 @@ TEST_F(PlotOfTime, MarksAreNamedAtTheRightOrAtTheTop) {
     EXPECT_NEAR(limiter->box.Bottom(), place.Mapping().Y(200), 3);
     EXPECT_NEAR(now->box.top, place.ground.top, 5);
     EXPECT_NEAR(now->box.left, place.Mapping().X(180), 5);
+}
+
+// By hand: 100 units are 3.937 inches, so that lines of one inch, 25.4 units, are drawn in place of those recorded.
+TEST_F(PlotOfTime, AnAreaHasItsMeasuresOnAGridOfRoundNumbers) {
+    canvas = Canvas(600, 400);
+    const PlotAxis x{.origin = 300, .scale = 25.4, .step = 3.937, .roundGrid = true, .start = 0, .end = 600};
+    PlotAxis y = x;
+    y.origin = 200;
+    y.scale = -25.4;
+    y.start = 400;
+    y.end = 0;
+    canvas.SetAxes(x, y);
+    canvas.Line(Role::Grid, 400, 0, 400, 400);
+    canvas.FillRectangle(Role::Area, 100, 100, 500, 300, kBlack);
+    canvas.AddName(Role::AreaWidth, "wide");
+    canvas.AddName(Role::AreaLength, "long");
+    const PlotPlace place = PlaceOf(canvas, CanvasShape::Proportional, {600, 400}, Typewriter());
+    const ShownGrid grid(canvas, place);
+    EXPECT_FALSE(grid.Shows(canvas.Operations()[0]));
+    const std::vector<DrawingOperation> lines = grid.RoundLines();
+    ASSERT_EQ(lines.size(), place.xNumbers.numbers.size() + place.yNumbers.numbers.size());
+    const double step = lines[1].x1 - lines[0].x1;
+    EXPECT_NEAR(std::remainder(step, 25.4), 0, 1e-9);
+    EXPECT_NEAR(lines[place.xNumbers.numbers.size()].y1 - lines[place.xNumbers.numbers.size() + 1].y1, step, 1e-9);
+
+    const CanvasMapping mapping = place.Mapping();
+    const std::vector<PlacedWords> words = LabelsOf(canvas, place, Typewriter()).words;
+    const Box& wide = Find(words, "wide")->box;
+    EXPECT_NEAR(wide.CentreX(), mapping.X(300), 1e-9);
+    EXPECT_LT(wide.Bottom(), mapping.Y(300));
+    EXPECT_GT(wide.top, mapping.Y(250));
+    const Box& tall = Find(words, "long")->box;
+    EXPECT_NEAR(tall.CentreY(), mapping.Y(200), 1e-9);
+    EXPECT_LT(tall.Right(), mapping.X(500));
 }
 
 TEST_F(PlotOfTime, TheLegendTellsWhatIsHeld) {

@@ -39,6 +39,11 @@ TEST_F(TyreDrawings, AxesCountFromTheCentreInTheUnitOfDistance) {
     EXPECT_THAT((std::vector{axes.x.origin, axes.x.scale, axes.x.step, axes.y.origin, axes.y.scale}),
                 ElementsAre(2125, 9.5, 50, 1537.5, -9.5));
     EXPECT_EQ(axes.y.unit, "mm");
+    EXPECT_EQ(Zolv.CPS.Drawing().Names()[0], (PartName{"\u2194 160 mm", Role::AreaWidth}));
+    SelectUnit(units, 1, 0);  // m, of which it would have tenths
+    DrawTyres();
+    EXPECT_EQ(axes.y.unit, "mm");
+    EXPECT_EQ(Zolv.CPS.Drawing().Names()[1], (PartName{"\u2195 100 mm", Role::AreaLength}));
     EXPECT_FALSE(Zolv.SV.Drawing().PresentAxes().present);
 }
 

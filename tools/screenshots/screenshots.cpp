@@ -65,7 +65,7 @@ std::vector<Shot> PageShots() {
              OptionsPanel.EnableEngineTorque.SetChecked(true);
              PointAt("SpeedPlot", 0.6, 0.5);
          }},
-        {"gearing-six-gears", Zolv,
+        {"gearing-crosshair", Zolv,
          [] {
              OptionsPanel.EnableAltGraph.SetChecked(false);
              OptionsPanel.EnableEngineTorque.SetChecked(false);
@@ -75,14 +75,15 @@ std::vector<Shot> PageShots() {
          [] {
              OptionsPanel.EnableVLoads.SetChecked(true);
              Zolv.Select_Graphs.Pick(1);
-             PointAt("TractiveEffortPlot", 0.3, 0.4);
          }},
+        {"gearing-time-crosshair", Zolv, [] { PointAt("TractiveEffortPlot", 0.3, 0.4); }},
         {"gearing-wrong-order", Zolv,
          [] {
              for (CheckBox* box :
                   {&OptionsPanel.EnableTorqueLine, &OptionsPanel.EnableRedline, &OptionsPanel.EnableVLoads}) {
                  box->SetChecked(false);
              }
+             PointAt("", 0, 0);  // at none
              Zolv.Select_Graphs.Pick(0);
              Zolv.Select_Car.SetText("Pell S");
              Zolv.Ratios.Input[2].Enter("4");

@@ -77,7 +77,8 @@ private:
 /// What is seen of a named mark or curve: its points in the view, in the order drawn.
 struct SeenPart {
     const PartName* name = nullptr;
-    std::vector<ViewPoint> points;
+    std::vector<ViewPoint> points;  // the last one is missing while its line goes on
+    ViewPoint end{};
 };
 
 Box Inside(Box box, const Box& ground) {
@@ -90,7 +91,7 @@ class NamePlacer {
 public:
     NamePlacer(const Canvas& canvas, const PlotPlace& place, const TextMeasure& measure)
         : canvas_(canvas), ground_(place.ground), measure_(measure), occupancy_(place.ground) {
-        for (const PartName& name : canvas.Names()) parts_.push_back({&name, {}});
+        for (const PartName& name : canvas.Names()) parts_.push_back({&name, {}, {}});
         const CanvasMapping mapping = place.Mapping();
         for (DrawingOperation line : canvas.Operations()) {
             const Role role = line.meaning.role;
@@ -98,6 +99,7 @@ public:
             if (!CutLine(line, place.part)) continue;
             Take(line.meaning, {mapping.X(line.x1), mapping.Y(line.y1)}, {mapping.X(line.x2), mapping.Y(line.y2)});
         }
+        for (SeenPart& part : parts_) Finish(part);
     }
 
     NamesOnPlot Place() {
@@ -119,17 +121,33 @@ private:
         double cost = 0;
     };
 
+    /// Pieces of a line that are too short to matter are taken together: a run has a point every other pixel.
     void Take(Meaning meaning, ViewPoint from, ViewPoint to) {
-        occupancy_.TakeLine(from, to);
+        constexpr double kShort = 3;
         if (last_ >= parts_.size() || parts_[last_].name->meaning != meaning) {
             const auto part = std::ranges::find_if(
                 parts_, [&](const SeenPart& candidate) { return candidate.name->meaning == meaning; });
-            if (part == parts_.end()) return;
+            if (part == parts_.end()) return occupancy_.TakeLine(from, to);
             last_ = static_cast<std::size_t>(part - parts_.begin());
         }
-        std::vector<ViewPoint>& points = parts_[last_].points;
-        if (points.empty() || points.back().x != from.x || points.back().y != from.y) points.push_back(from);
-        points.push_back(to);
+        SeenPart& part = parts_[last_];
+        const bool goesOn = !part.points.empty() && part.end.x == from.x && part.end.y == from.y;
+        if (!goesOn) {
+            Finish(part);
+            part.points.push_back(from);
+        }
+        part.end = to;
+        const ViewPoint kept = part.points.back();
+        if (std::max(std::fabs(to.x - kept.x), std::fabs(to.y - kept.y)) >= kShort) Finish(part);
+    }
+
+    /// Keeps the end of what has been taken of a part.
+    void Finish(SeenPart& part) {
+        if (part.points.empty()) return;
+        const ViewPoint kept = part.points.back();
+        if (kept.x == part.end.x && kept.y == part.end.y) return;
+        occupancy_.TakeLine(kept, part.end);
+        part.points.push_back(part.end);
     }
 
     /// Takes a box into the choice if it is free of other names and better than what stands there.
@@ -194,7 +212,9 @@ private:
         return anchors;
     }
 
-    static double LengthOf(ViewPoint from, ViewPoint to) { return std::hypot(to.x - from.x, to.y - from.y); }
+    static double LengthOf(ViewPoint from, ViewPoint to) {
+        return std::sqrt((to.x - from.x) * (to.x - from.x) + (to.y - from.y) * (to.y - from.y));
+    }
 
     std::optional<Choice> BestAtCurve(const std::vector<ViewPoint>& anchors, Box box) const {
         std::optional<Choice> best;

@@ -7,9 +7,14 @@
 #include <QVBoxLayout>
 
 #include "desktop/balance_bar.h"
+#include "desktop/canvas_view.h"
 #include "desktop/page_parts.h"
+#include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "fields/windows.h"
+#include "plots/air_plot.h"
+#include "plots/plot_frame.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
@@ -128,8 +133,27 @@ QLayout* MakeColumn(std::initializer_list<QWidget*> groups) {
     return column;
 }
 
-/// Fills the page: the inputs over the first two columns, the third beside them.
-void Fill(Binding& binding, QWidget* page) {
+/// Drag and downforce over the speed. It is drawn anew with whatever it follows from: the speed in force, the wings,
+/// the car, the units and the words.
+QWidget* MakePlot(Binding& binding, Canvas& canvas, QWidget* parent) {
+    constexpr int kLowest = 170;
+    auto* const view = new CanvasView(canvas, CanvasView::Shape::Stretched, parent);
+    view->setObjectName(QStringLiteral("AirPlot"));
+    view->setMinimumHeight(kLowest);
+    const auto draw = [&canvas, view] {
+        DrawAirPlot(canvas);
+        view->setAccessibleName(ToQt(CurveName(Zolv.AeroLabel[3]) + " / " + words["Downforce"]));
+        view->update();
+    };
+    const std::initializer_list<const Field*> follows{&Zolv.AeroSpeed,      &Zolv.WingAngleFront, &Zolv.WingAngleRear,
+                                                      &Zolv.Select_Car,     &Zolv.UseFixedSpeed,  &Zolv.Aero_TopSpeed,
+                                                      &Zolv.Aero_TotalDrag, &Zolv.Aero_BodyCdA,   &Zolv.AeroLabel[3]};
+    for (const Field* field : follows) binding.OnChanged(*field, draw);
+    return view;
+}
+
+/// Fills the page: the inputs over the first two columns, the third beside them, the plot below.
+void Fill(Binding& binding, Canvas& canvas, QWidget* page) {
     auto* const grid = new QGridLayout(page);
     grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     grid->setSpacing(kSection);
@@ -139,7 +163,9 @@ void Fill(Binding& binding, QWidget* page) {
     grid->addLayout(MakeColumn({MakeForces(binding, page), MakeFitting(binding, 6, 29, Zolv.FrontWing, page),
                                 MakeFitting(binding, 7, 34, Zolv.RearWing, page)}),
                     0, 2, 2, 1);
-    grid->setRowStretch(1, 1);
+    grid->addWidget(MakePlot(binding, canvas, page), 2, 0, 1, 3);
+    grid->setRowStretch(1, 1);  // what the third column needs beyond the others stays below them
+    grid->setRowStretch(2, 100);
     for (int column = 0; column < 3; ++column) grid->setColumnStretch(column, 1);
 }
 
@@ -152,7 +178,7 @@ AeroPageView::AeroPageView(Binding& binding, QWidget* parent) : QWidget(parent) 
     page->setMaximumWidth(3 * kWidestColumn + 2 * kSection + 2 * kMargin);
     room->addWidget(page, 1);
     room->addStretch();
-    Fill(binding, page);
+    Fill(binding, plot_, page);
 }
 
 }  // namespace zolv

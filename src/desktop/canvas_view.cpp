@@ -11,6 +11,7 @@
 
 #include "desktop/canvas_export.h"
 #include "desktop/canvas_painting.h"
+#include "desktop/colours.h"
 #include "desktop/plot_marks.h"
 #include "desktop/texts_of_qt.h"
 #include "drawing/curve_reading.h"
@@ -19,12 +20,7 @@
 namespace zolv {
 namespace {
 
-/// Between the words and the ground of a theme: less than a page's own text, so that the curves come first.
-QColor Blend(const QColor& over, const QColor& under, double share) {
-    const auto mix = [share](int a, int b) { return qRound(a * share + b * (1 - share)); };
-    return {mix(over.red(), under.red()), mix(over.green(), under.green()), mix(over.blue(), under.blue())};
-}
-
+/// What stands around a plot is paler than a page's own text, so that the curves come first.
 CanvasInks InksOf(const QWidget& view) {
     const QColor words = view.palette().color(QPalette::WindowText);
     const QColor ground = view.palette().color(QPalette::Window);

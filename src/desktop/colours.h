@@ -20,9 +20,6 @@ QColor TextColour(std::optional<Rgb> colour, const QPalette& palette);
 /// @param gear  1 to 6
 QColor GearTint(int gear, double share, const QPalette& palette);
 
-/// A field's colour on a canvas, which is white in every theme.
-QColor InkColour(Rgb colour);
-
 /// What stands for a fault that the user is to mend: the frame of a box, the ground of a line of words.
 QColor FaultColour(const QPalette& palette);
 

@@ -39,6 +39,7 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"CopyRowEntry", "Copy &row"},
     {"CustomPresets", "Custom Presets"},
     {"Degrees", "degrees"},
+    {"Downforce", "Downforce"},
     {"EngineCurve", "Engine"},
     {"EngineSpeed", "Engine speed"},
     {"ExportRun", "Export…"},

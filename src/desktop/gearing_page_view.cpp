@@ -19,6 +19,7 @@
 #include "desktop/order_fault.h"
 #include "desktop/page_parts.h"
 #include "desktop/run_table.h"
+#include "desktop/spare_room.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
@@ -27,6 +28,7 @@
 #include "gearing/gearing_state.h"
 #include "gearing/mark_reasons.h"
 #include "gearing/run_columns.h"
+#include "plots/run_strip.h"
 #include "text/texts.h"
 #include "text/words.h"
 
@@ -102,13 +104,26 @@ void Fade(QWidget& view, bool faded) {
     view.setGraphicsEffect(effect);
 }
 
-/// An engine speed, with room for five digits and the word for rpm in any language.
+/// An engine speed, with room for five digits. Its unit, which is long in some languages, stands in the column's title.
 ValueLabel* MakeRevs(Binding& binding, Label& field, QWidget* parent) {
-    ValueLabel* const revs = MakeFigure(binding, field, parent);
-    binding.OnChanged(OptionsPanel.SpeedPlotY.Units, [revs] {  // the same line of a language
-        revs->ReserveFor({QStringLiteral("24226") + ToQt(texts.RpmSuffix)});
+    ValueLabel* const revs = MakeFigure(binding, field, parent, {QStringLiteral("24226")});
+    binding.OnChanged(field, [revs] {
+        const QString suffix = ToQt(texts.RpmSuffix);
+        if (revs->text().endsWith(suffix)) revs->setText(revs->text().chopped(suffix.size()));
     });
     return revs;
+}
+
+/// "Engine Speed..." as the title of columns whose figures have no unit: "Engine Speed [rpm]".
+void AddUnitOfRevs(Binding& binding, const Label& field, QLabel& title) {
+    const auto add = [&field, &title] {
+        QString caption = PlainCaption(field.Caption());
+        while (caption.endsWith(u'.') || caption.endsWith(u'\u2026')) caption.chop(1);
+        title.setText(caption + QStringLiteral(" [") + ToQt(texts.RpmSuffix).trimmed() + u']');
+        title.setAccessibleName(title.text());
+    };
+    binding.OnChanged(field, add);
+    binding.OnChanged(OptionsPanel.SpeedPlotY.Units, add);  // the same line of a language
 }
 
 }  // namespace
@@ -123,8 +138,7 @@ GearingPageView::GearingPageView(Binding& binding, QWidget* parent) : QWidget(pa
     columns->addLayout(left, 2);
     left->addWidget(MakeDirections());
     left->addWidget(MakePanels());
-    left->addWidget(MakeAcceleration());
-    left->addStretch(1);
+    left->addWidget(MakeAcceleration(), 1);
 
     auto* const right = new QVBoxLayout;
     right->setSpacing(kGap);
@@ -138,7 +152,7 @@ QWidget* GearingPageView::MakeDirections() {
     auto* const directions = new QWidget(this);
     auto* const row = new QHBoxLayout(directions);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(kSection);
+    row->setSpacing(kMargin);
     binding_.Bind(Zolv.GearingDirection, *directions);
     for (OptionButton* field : {&Zolv.Direction1, &Zolv.Direction2}) {
         auto* const button = new QRadioButton(directions);
@@ -163,7 +177,7 @@ QWidget* GearingPageView::MakePanel(int mode) {
     auto* const grid = new QGridLayout(panel);
     SetGroupMargins(*grid);
     grid->setHorizontalSpacing(kGap);
-    grid->setVerticalSpacing(kGap);
+    grid->setVerticalSpacing(kGap / 2);
     grid->setColumnStretch(kSlider, 1);
     AddTitles(*grid, mode);
     for (int gear = 1; gear <= 6; ++gear) AddGear(*grid, mode, gear);
@@ -175,20 +189,22 @@ QWidget* GearingPageView::MakePanel(int mode) {
 
 void GearingPageView::AddTitles(QGridLayout& grid, int mode) {
     QWidget* const parent = grid.parentWidget();
-    const auto add = [&](int number, int row, int column, int columns, Qt::Alignment alignment) {
+    const auto add = [&](int number, int row, int column, int columns, Qt::Alignment alignment) -> QLabel& {
         Label& caption = PanelLabel(mode, number);
         QLabel* const title =
             columns == 1 ? MakeColumnTitle(binding_, caption, parent) : MakeTitle(binding_, caption, parent);
         title->setAlignment(alignment);
         grid.addWidget(title, row, column, 1, columns);
+        return *title;
     };
     const Qt::Alignment right = Qt::AlignRight | Qt::AlignBottom;
     const int input = mode == 0 ? 2 : 3;  // "Ratio" and "Speed" change places
     const int result = mode == 0 ? 3 : 2;
-    add(4, 0, kBefore, 2, Qt::AlignHCenter | Qt::AlignBottom);
+    AddUnitOfRevs(binding_, PanelLabel(mode, 4), add(4, 0, kResult, 3, right));
     add(1, 1, kName, 1, Qt::AlignLeft | Qt::AlignBottom);
-    add(input, 1, kInput, 1, Qt::AlignLeft | Qt::AlignBottom);
-    add(result, 1, kResult, 1, right);
+    // "Ratio", a long word in some languages, reaches over the sliders.
+    add(input, 1, kInput, mode == 0 ? 3 : 2, Qt::AlignLeft | Qt::AlignBottom);
+    add(result, 1, mode == 0 ? kResult : kSlider, mode == 0 ? 1 : 2, right);
     add(6, 1, kBefore, 1, right);
     add(5, 1, kAfter, 1, right);
     add(7, 1, kTorque, 1, right);
@@ -242,11 +258,12 @@ void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
         ExplainMark(binding_, panel.Result[gear], *result, [gear] { return WhyRatioIsMarked(gear); });
         ExplainMark(binding_, panel.Input[gear], *shown.box, WhyAboveTopSpeed);
     }
-    AddSentence(grid, row, shown);
+    AddSentence(grid, row, name, shown);
 }
 
-/// Where the figures of a gear in the wrong order stand, the sentence that says so. It takes no room of its own.
-void GearingPageView::AddSentence(QGridLayout& grid, int row, GearRow& shown) {
+/// Where the figures of a gear in the wrong order stand, the sentence that says so. The row has room for its two lines
+/// at all times, so that nothing moves when it comes and goes.
+void GearingPageView::AddSentence(QGridLayout& grid, int row, const Label& name, GearRow& shown) {
     auto* const sentence = new QLabel(grid.parentWidget());
     sentence->setObjectName(QStringLiteral("OrderSentence"));
     sentence->setWordWrap(true);
@@ -255,6 +272,9 @@ void GearingPageView::AddSentence(QGridLayout& grid, int row, GearRow& shown) {
     QFont font = sentence->font();
     font.setPointSizeF(font.pointSizeF() * 0.9);
     sentence->setFont(font);
+    binding_.OnChanged(name, [&grid, &name, row, height = 2 * QFontMetrics(font).lineSpacing()] {
+        grid.setRowMinimumHeight(row, name.Visible() ? height : 0);
+    });
     QPalette ink;
     ink.setColor(QPalette::WindowText, FaultColour(palette()));
     sentence->setPalette(ink);
@@ -270,6 +290,7 @@ void GearingPageView::AddReverse(QGridLayout& grid, int mode) {
     // Reverse reads like the gears above it: the ratio under the ratios, the speed under the speeds.
     const int ratio = mode == 0 ? kInput : kResult;
     const int speed = mode == 0 ? kResult : kInput;
+    grid.setRowMinimumHeight(row, fontMetrics().height() + kGap);
     grid.addWidget(MakeWords(binding_, PanelLabel(mode, 14), parent), row, kName);
     ValueLabel* const reverseRatio = MakeFigure(binding_, panel.GearR, parent);
     if (ratio == kInput) reverseRatio->setFixedWidth(BoxWidth(*reverseRatio, mode));
@@ -290,7 +311,9 @@ void GearingPageView::AddFinalDrive(QGridLayout& grid, int mode) {
     GearingPanel& panel = Zolv.GearingOf(mode);
     Label& name = PanelLabel(mode, 0);
     const int row = NextRow(grid);
-    grid.addWidget(MakeWords(binding_, name, parent), row, kName);
+    QLabel* const label = MakeWords(binding_, name, parent);
+    BreakBetweenWords(binding_, name, *label);
+    grid.addWidget(label, row, kName);
     grid.addWidget(MakeBox(binding_, panel.FinalDrive, name, parent, mode), row, kInput);
     grid.addWidget(MakeSlider(binding_, panel.FinalDriveSlider, name, parent, mode), row, kSlider, 1, 3);
 }
@@ -327,7 +350,28 @@ QWidget* GearingPageView::MakeAcceleration() {
     grid->setColumnMinimumWidth(2, kSection);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(3, 1);
+    constexpr int kFigureRows = 5;
+    grid->addWidget(MakeStrip(group), kFigureRows, 0, 1, 6);
+    grid->setRowStretch(kFigureRows, 1);
     return group;
+}
+
+/// The run as a small plot, where the window is high enough.
+QWidget* GearingPageView::MakeStrip(QWidget* parent) {
+    constexpr int kLowest = 110;
+    auto* const view = new CanvasView(strip_, CanvasView::Shape::Stretched);
+    view->setObjectName(QStringLiteral("RunStrip"));
+    const auto draw = [this, view] {
+        DrawRunStrip(strip_);
+        view->setAccessibleName(PlainCaption(Zolv.ShowAcc.Caption()));
+        view->update();
+    };
+    binding_.OnChanged(Zolv.ShowAcc, draw);
+    binding_.OnChanged(Zolv.TorquePlot, draw);  // which is drawn anew with each calculation
+    plots_.push_back(view);
+    auto* const room = new SpareRoom(view, kLowest, parent);
+    room->setContentsMargins(0, kGap, 0, 0);
+    return room;
 }
 
 QWidget* GearingPageView::MakeChoices() {

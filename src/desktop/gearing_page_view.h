@@ -4,13 +4,14 @@
 #include <vector>
 
 #include "desktop/binding.h"
+#include "drawing/canvas.h"
 
 class QGridLayout;
 
 namespace zolv {
 
-/// The gearing page: the rows of the gears in the direction chosen on the left, with the figures of the run below them;
-/// the plots, or the table of the run, on the right.
+/// The gearing page: the rows of the gears in the direction chosen on the left, with the figures and a small plot of
+/// the run below them; the plots, or the table of the run, on the right.
 class GearingPageView : public QWidget {
 public:
     explicit GearingPageView(Binding& binding, QWidget* parent = nullptr);
@@ -25,6 +26,7 @@ private:
     void AddGearName(QGridLayout& grid, int row, Label& name, int gear);
     void AddReverse(QGridLayout& grid, int mode);
     QWidget* MakeAcceleration();
+    QWidget* MakeStrip(QWidget* parent);
     QWidget* MakeChoices();
     QWidget* MakeExport(QWidget* parent);
     QWidget* MakePlots();
@@ -38,9 +40,10 @@ private:
         std::vector<ValueLabel*> figures;
         QLabel* sentence = nullptr;  // in place of the figures while the gear is in the wrong order
     };
-    void AddSentence(QGridLayout& grid, int row, GearRow& shown);
+    void AddSentence(QGridLayout& grid, int row, const Label& name, GearRow& shown);
 
     Binding& binding_;
+    Canvas strip_{4000, 1000};
     GearRow rows_[2][7];               // by direction and gear
     std::vector<ValueLabel*> others_;  // figures that follow from all gears
     std::vector<QWidget*> plots_;

@@ -42,15 +42,28 @@ QString SettingsFileIn(const QMimeData& data) {
     return path.endsWith(QLatin1String(".zolv"), Qt::CaseInsensitive) ? path : QString();
 }
 
+/// Holds a page that has words which wrap. Such a page would scroll as soon as it is not as high as it likes to be;
+/// this lets its plots shrink first.
+class ShrinkingPage : public QWidget {
+public:
+    explicit ShrinkingPage(QWidget* page) {
+        auto* const room = new QVBoxLayout(this);
+        room->setContentsMargins(0, 0, 0, 0);
+        room->addWidget(page);
+    }
+
+    int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
+};
+
 /// A page that scrolls where it has too little room. The window's own ground shows through; a view's would be white.
 QScrollArea* Scrolled(QWidget* page, QWidget* parent) {
     auto* const area = new QScrollArea(parent);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
-    area->setWidget(page);
+    area->setWidget(new ShrinkingPage(page));
     area->viewport()->setAutoFillBackground(false);
-    page->setAutoFillBackground(false);
+    area->widget()->setAutoFillBackground(false);
     return area;
 }
 

@@ -55,20 +55,25 @@ QLabel* MakeWords(Binding& binding, Label& field, QWidget* parent) {
     return label;
 }
 
-QLabel* MakeColumnTitle(Binding& binding, Label& field, QWidget* parent) {
-    QLabel* const title = MakeTitle(binding, field, parent);
-    title->setWordWrap(true);
-    binding.OnChanged(field, [title] {
-        constexpr int kNarrowestColumn = 70;
+void BreakBetweenWords(Binding& binding, const Label& field, QLabel& label) {
+    label.setWordWrap(true);
+    binding.OnChanged(field, [&label] {
+        constexpr int kNarrowest = 70;
         constexpr int kAnyHeight = 1000;
-        const QFontMetrics metrics = title->fontMetrics();
-        int widest = 0;
-        for (const QString& word : title->text().split(QLatin1Char(' '))) {
+        const QFontMetrics metrics = label.fontMetrics();
+        int widest = kNarrowest;
+        for (const QString& word : label.text().split(QLatin1Char(' '))) {
             widest = std::max(widest, metrics.horizontalAdvance(word));
         }
-        const QRect column(0, 0, std::max(widest, kNarrowestColumn), kAnyHeight);
-        title->setMinimumSize(widest + 2, metrics.boundingRect(column, Qt::TextWordWrap, title->text()).height());
+        const int width = std::min(widest, metrics.horizontalAdvance(label.text()));
+        const QRect column(0, 0, width + 1, kAnyHeight);
+        label.setMinimumSize(width + 2, metrics.boundingRect(column, Qt::TextWordWrap, label.text()).height());
     });
+}
+
+QLabel* MakeColumnTitle(Binding& binding, Label& field, QWidget* parent) {
+    QLabel* const title = MakeTitle(binding, field, parent);
+    BreakBetweenWords(binding, field, *title);
     return title;
 }
 

@@ -35,7 +35,10 @@ QLabel* MakeWords(Binding& binding, Label& field, QWidget* parent);
 /// Words in bold, for the title of a column or a drawing.
 QLabel* MakeTitle(Binding& binding, Label& field, QWidget* parent);
 
-/// The title of a narrow column: it breaks between its words.
+/// Lets a label in a narrow column break between its words. @param field  the one that it is bound to
+void BreakBetweenWords(Binding& binding, const Label& field, QLabel& label);
+
+/// The title of a narrow column, in bold.
 QLabel* MakeColumnTitle(Binding& binding, Label& field, QWidget* parent);
 
 /// A figure, right-aligned, with room for `widest`.

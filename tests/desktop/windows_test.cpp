@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
@@ -358,6 +359,46 @@ void FirstRun::ClosingTheLanguagesBringsTheMainWindow() {
 }
 
 const bool firstRunAdded = AddSuite<FirstRun>("FirstRun");
+
+/// The windows in the languages that are shipped.
+class ShippedLanguages : public DesktopTest {
+    Q_OBJECT
+
+    void Prepare() override {
+        const QDir data(QStringLiteral(ZOLV_SOURCE_DIR "/data"));
+        for (const QString& name : data.entryList({QStringLiteral("*.txt"), QStringLiteral("languages.lst")})) {
+            QVERIFY(QFile::copy(data.filePath(name), InFolder(qPrintable(name))));
+        }
+    }
+
+private Q_SLOTS:
+    void PagesHaveRoomForThem();
+};
+
+/// A car with wings has the most rows; its plots get more than half of a window of 1280.
+void ShippedLanguages::PagesHaveRoomForThem() {
+    QWidget& main = WindowNamed("Zolv");
+    for (const std::string& language : LanguageSelection.LanguageList.Rows()) {
+        Windows().TheBinding().Act([&] {
+            LanguageSelection.LanguageList.SetText(language);
+            LanguageSelection.SetVisible(false);
+            Zolv.SetVisible(true);
+            Zolv.Select_Car.SetText("Series Mu");
+        });
+        for (const QSize& size : {QSize(1280, 780), QSize(1024, 600)}) {
+            main.resize(size);
+            for (const int page : {0, 2, 3, 1}) {
+                ClickTab("Select_Page", page);
+                ExpectNone(CutOff(main));
+            }
+            const int plots = Find<QWidget>("SpeedPlot").width();
+            QVERIFY2(size.width() < 1280 || 2 * plots > size.width(), language.c_str());
+            QCOMPARE(Find<QWidget>("RunStrip").isVisible(), size.width() == 1280);
+        }
+    }
+}
+
+const bool shippedLanguagesAdded = AddSuite<ShippedLanguages>("ShippedLanguages");
 
 }  // namespace
 }  // namespace zolv

@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "aero/aero_state.h"
+#include "drawing/curve_reading.h"
 #include "plots/gearing_plots.h"
 #include "plots/hand_made_car.h"
+#include "plots/run_strip.h"
 #include "support/drawn.h"
 #include "text/texts.h"
 #include "units/unit_catalogue.h"
@@ -91,6 +93,28 @@ TEST_F(RunPlots, TheLargestForceFillsTheHeight) {
         DrawGearingPlots();
         EXPECT_NEAR(-2715 / Zolv.TractiveEffortPlot.Drawing().PresentAxes().y.scale, row.newtons, 1e-3);
     }
+}
+
+// Row 4, at 0.2 s and 8 m/s, is the first one in second gear, whose piece begins where that of the first one ends.
+TEST_F(RunPlots, StripShowsEachGearsPieceOfTheRun) {
+    Run(8);
+    for (std::size_t row = 4; row <= 8; ++row) gearing.AccelRows[row].values[3] = 2;
+    Canvas strip(1000, 500);
+    DrawRunStrip(strip);
+    const auto at = [&](double seconds) {
+        const PlotAxis& x = strip.PresentAxes().x;
+        std::vector<std::string> said;
+        for (const CurveReading& curve : ReadingsAt(strip, x.origin + x.scale * seconds, 1)) {
+            said.push_back(curve.name + ' ' + curve.value);
+        }
+        return said;
+    };
+    EXPECT_THAT(at(0.1), ElementsAre("1st 4 m/s"));
+    EXPECT_THAT(at(0.175), ElementsAre("2nd 7 m/s"));
+    EXPECT_THAT(at(0.39), ElementsAre("2nd 15.6 m/s"));
+    Run(-1);
+    DrawRunStrip(strip);
+    EXPECT_TRUE(strip.Operations().empty());
 }
 
 TEST_F(RunPlots, StayBlankWithoutARun) {

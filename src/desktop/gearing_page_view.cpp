@@ -16,6 +16,7 @@
 #include <algorithm>
 
 #include "desktop/canvas_view.h"
+#include "desktop/fault_mark.h"
 #include "desktop/order_fault.h"
 #include "desktop/page_parts.h"
 #include "desktop/run_table.h"
@@ -23,7 +24,6 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
-#include "desktop/zolv_style.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
 #include "gearing/mark_reasons.h"
@@ -264,21 +264,12 @@ void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
 /// Where the figures of a gear in the wrong order stand, the sentence that says so. The row has room for its two lines
 /// at all times, so that nothing moves when it comes and goes.
 void GearingPageView::AddSentence(QGridLayout& grid, int row, const Label& name, GearRow& shown) {
-    auto* const sentence = new QLabel(grid.parentWidget());
+    QLabel* const sentence = MakeFaultSentence(grid.parentWidget());
     sentence->setObjectName(QStringLiteral("OrderSentence"));
-    sentence->setWordWrap(true);
     sentence->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    sentence->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    QFont font = sentence->font();
-    font.setPointSizeF(font.pointSizeF() * 0.9);
-    sentence->setFont(font);
-    binding_.OnChanged(name, [&grid, &name, row, height = 2 * QFontMetrics(font).lineSpacing()] {
+    binding_.OnChanged(name, [&grid, &name, row, height = HeightOfFaultSentence(*sentence)] {
         grid.setRowMinimumHeight(row, name.Visible() ? height : 0);
     });
-    QPalette ink;
-    ink.setColor(QPalette::WindowText, FaultColour(palette()));
-    sentence->setPalette(ink);
-    sentence->hide();
     grid.addWidget(sentence, row, kResult, 1, kTorque - kResult + 1);
     shown.sentence = sentence;
 }
@@ -436,10 +427,7 @@ void GearingPageView::ShowOrderOf(int mode, int gear, bool older) {
     for (ValueLabel* figure : row.figures) figure->SetStanding(standing);
     row.sentence->setVisible(faulty);
     if (faulty) row.sentence->setText(ToQt(OrderSentence(OrderWordsOf(gearing.From()), gear - 1)));
-    if (row.box->property(kFaultyProperty).toBool() == faulty) return;
-    row.box->setProperty(kFaultyProperty, faulty);
-    row.box->setAccessibleDescription(faulty ? row.sentence->text() : QString());
-    row.box->update();
+    MarkFault(*row.box, faulty ? row.sentence->text() : QString());
 }
 
 }  // namespace zolv

@@ -15,11 +15,12 @@
 #include <array>
 #include <cstdint>
 
+#include "desktop/fading_note.h"
 #include "desktop/page_parts.h"
-#include "desktop/saved_note.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
+#include "files/options_file.h"
 #include "text/number_text.h"
 #include "text/words.h"
 #include "units/unit_systems.h"
@@ -94,7 +95,12 @@ OptionsWindow::OptionsWindow(Binding& binding, QWidget* parent) : SecondaryWindo
     binding.BindStack(*stack, pages);
     layout->addWidget(stack, 1);
     AddButtons({&form.OptionsLoad, &form.OptionsSave}, {&form.CloseOptions});
-    AddNote(new SavedNote(*findChild<QPushButton*>(ToQt(form.OptionsSave.Name())), this));
+    auto* const saved = new FadingNote(this);
+    AddNote(saved);
+    // Where they could not be saved, a message has said why.
+    connect(findChild<QPushButton*>(ToQt(form.OptionsSave.Name())), &QPushButton::clicked, saved, [saved] {
+        if (!OptionsChanged()) saved->Say(ToQt(words["OptionsSaved"]));
+    });
     Complete();
 }
 

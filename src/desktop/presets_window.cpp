@@ -7,12 +7,20 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 #include <variant>
 
+#include "desktop/fading_note.h"
+#include "desktop/fault_mark.h"
 #include "desktop/page_parts.h"
+#include "desktop/preset_list.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
+#include "vehicle/custom_presets.h"
+#include "vehicle/preset_state.h"
 
 namespace zolv {
 namespace {
@@ -63,13 +71,47 @@ PresetsWindow::PresetsWindow(Binding& binding, QWidget* parent) : SecondaryWindo
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(kSection);
     grid->addWidget(MakeWords(binding, CustomPresets.CUPLabel[0], Body()), 0, 0, 1, 2);
-    grid->addWidget(MakeAddPanel(), 1, 0);
-    grid->addWidget(MakeEditPanel(), 1, 1);
-    grid->setColumnStretch(0, 1);
+    list_ = new PresetList(binding, Body());
+    grid->addWidget(list_, 1, 0);
+    grid->addWidget(MakeForm(), 1, 1);
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(2, 1);
     AddButtons({&CustomPresets.LoadUnitConv}, {&CustomPresets.CloseCustom});
+    note_ = new FadingNote(this);
+    AddNote(note_);
+    presetFollowUps.Stored = [this](const std::string& sentence) {
+        const Side side = list_->IsOnNewOne() ? kAdd : kEdit;
+        faults_[side].followed = false;
+        ShowFaults(side);
+        note_->Say(ToQt(sentence));
+    };
+    presetFollowUps.Refused = [this](const std::string&) {
+        const Side side = list_->IsOnNewOne() ? kAdd : kEdit;
+        faults_[side].followed = true;
+        ShowFaults(side);
+        ControlOf(*PresetFaults(side == kAdd).front().Where)->setFocus(Qt::OtherFocusReason);
+    };
     Complete();
+}
+
+PresetsWindow::~PresetsWindow() { presetFollowUps = {}; }
+
+/// The panel of the row picked in the list.
+QStackedWidget* PresetsWindow::MakeForm() {
+    auto* const form = new QStackedWidget(Body());
+    for (QGroupBox* panel : {MakeAddPanel(), MakeEditPanel()}) {
+        auto* const page = new QWidget(form);  // a panel shows and hides with its field
+        auto* const room = new QVBoxLayout(page);
+        room->setContentsMargins(0, 0, 0, 0);
+        room->addWidget(panel);
+        form->addWidget(page);
+    }
+    connect(list_, &QListWidget::currentRowChanged, form, [this, form] {
+        form->setCurrentIndex(list_->IsOnNewOne() ? kAdd : kEdit);
+        faults_[kEdit].followed = false;  // of another preset
+        ShowFaults(kEdit);
+    });
+    for (const Side side : {kAdd, kEdit}) FollowFaults(side);
+    return form;
 }
 
 QGroupBox* PresetsWindow::MakeAddPanel() {
@@ -78,8 +120,10 @@ QGroupBox* PresetsWindow::MakeAddPanel() {
     QGridLayout* const grid = MakeRows(group);
     grid->addWidget(MakeWords(Fields(), form.CUPLabel[1], group), kNameRow, 0);
     grid->addWidget(Make<QLineEdit>(form.NewName, group, &form.CUPLabel[1]), kNameRow, 1);
+    AddSentence(*grid, kNameRow, kAdd, {&form.NewName});
     grid->addWidget(MakeWords(Fields(), form.CUPLabel[2], group), kSecondRow, 0);
     grid->addWidget(MakeList(form.NewCar, group, form.CUPLabel[2]), kSecondRow, 1);
+    AddSentence(*grid, kSecondRow, kAdd, {&form.NewCar});
     AddLines(*grid, form.New, kAdd);
     FinishPanel(*grid, form.AddCar, form.CP_Load);
     // These come from the base car or a file and are never shown; they take no place.
@@ -92,14 +136,16 @@ QGroupBox* PresetsWindow::MakeEditPanel() {
     QGroupBox* const group = MakeGroup(Fields(), form.Frame_Edit, Body());
     QGridLayout* const grid = MakeRows(group);
     grid->addWidget(MakeWords(Fields(), form.CUPLabel[19], group), kNameRow, 0);
-    grid->addWidget(MakeList(form.EditName, group, form.CUPLabel[19]), kNameRow, 1);
+    auto* const name = new QLabel(group);
+    name->setTextFormat(Qt::PlainText);
+    grid->addWidget(name, kNameRow, 1);
+    Fields().OnChanged(form.EditName, [name] { name->setText(ToQt(CustomPresets.EditName.Text())); });
     grid->addWidget(MakeWords(Fields(), form.CUPLabel[18], group), kSecondRow, 0);
     grid->addWidget(MakeWords(Fields(), form.PresetsUsed, group), kSecondRow, 1);
     AddLines(*grid, form.Edit, kEdit);
     FinishPanel(*grid, form.EditUpdate, form.CP_Save);
     // Without a preset there is nothing to edit.
     Fields().OnChanged(form.EditName, [group] { group->setEnabled(!CustomPresets.EditName.Rows().empty()); });
-    Fields().OnChanged(form.PresetsUsed, [group] { group->setEnabled(!CustomPresets.EditName.Rows().empty()); });
     return group;
 }
 
@@ -109,9 +155,58 @@ void PresetsWindow::AddLines(QGridLayout& grid, PresetPanel& panel, Side side) {
         const int row = NextRow(grid);
         grid.addWidget(MakeWords(Fields(), CustomPresets.CUPLabel[line.label[side]], group), row, 0);
         grid.addWidget(MakeControl(line, group, panel, side), row, 1);
+        if (const auto* const tyre = std::get_if<Tyre>(&line.control)) {
+            AddSentence(grid, row, side, {&(panel.*tyre->width), &(panel.*tyre->profile), &(panel.*tyre->rim)});
+        } else if (const auto* const list = std::get_if<PickList PresetPanel::*>(&line.control)) {
+            AddSentence(grid, row, side, {&(panel.*(*list))});
+        } else {
+            AddSentence(grid, row, side, {&(panel.*std::get<TextBox PresetPanel::*>(line.control))});
+        }
     }
-    grid.setColumnStretch(1, 1);
+    constexpr int kSentenceWidth = 250;
+    grid.setColumnMinimumWidth(2, kSentenceWidth);
+    grid.setColumnStretch(2, 1);
 }
+
+/// A place behind the controls of a line for the sentence that says what is wrong with one of them.
+void PresetsWindow::AddSentence(QGridLayout& grid, int row, Side side, std::initializer_list<const Field*> fields) {
+    QLabel* const sentence = MakeFaultSentence(grid.parentWidget());
+    sentence->setObjectName(ToQt((*fields.begin())->Name() + "Fault"));
+    sentence->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    grid.addWidget(sentence, row, 2);
+    for (const Field* field : fields) faults_[side].sentences[field] = sentence;
+}
+
+/// A fault goes when it is mended, and one that comes meanwhile is shown as well.
+void PresetsWindow::FollowFaults(Side side) {
+    for (const auto& [field, sentence] : faults_[side].sentences) {
+        Fields().OnChanged(*field, [this, side] {
+            if (faults_[side].followed) ShowFaults(side);
+        });
+    }
+}
+
+/// Marks what is to be mended, each control with the first thing that is wrong with it.
+void PresetsWindow::ShowFaults(Side side) {
+    Faults& shown = faults_[side];
+    std::map<const Field*, QString> said;
+    if (shown.followed) {
+        for (const PresetFault& fault : PresetFaults(side == kAdd)) {
+            if (fault.Where->Visible()) said.try_emplace(fault.Where, ToQt(fault.Sentence));
+        }
+        shown.followed = !said.empty();
+    }
+    for (const auto& [field, sentence] : shown.sentences) sentence->hide();
+    for (const auto& [field, sentence] : shown.sentences) {
+        const auto fault = said.find(field);
+        MarkFault(*ControlOf(*field), fault == said.end() ? QString() : fault->second);
+        if (fault == said.end() || sentence->isVisibleTo(this)) continue;
+        sentence->setText(fault->second);
+        sentence->show();
+    }
+}
+
+QWidget* PresetsWindow::ControlOf(const Field& field) const { return findChild<QWidget*>(ToQt(field.Name())); }
 
 QWidget* PresetsWindow::MakeControl(const Line& line, QWidget* group, PresetPanel& panel, Side side) {
     const Label& caption = CustomPresets.CUPLabel[line.label[side]];
@@ -164,14 +259,17 @@ void PresetsWindow::FinishPanel(QGridLayout& grid, Button& first, Button& second
     QWidget* const group = grid.parentWidget();
     const int lineHeight = QComboBox().sizeHint().height();  // whatever stands in the line, so that the panels align
     const int lines = NextRow(grid);
-    for (int line = 0; line < lines; ++line) grid.setRowMinimumHeight(line, lineHeight);
+    const int height = std::max(lineHeight, HeightOfFaultSentence(*faults_[kAdd].sentences.begin()->second));
+    for (int line = 0; line < lines; ++line) grid.setRowMinimumHeight(line, height);
+    grid.setVerticalSpacing(2);
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(0, kGap, 0, 0);
     row->setSpacing(kGap);
     row->addStretch();
     row->addWidget(MakeButton(first, group));
     row->addWidget(MakeButton(second, group));
-    grid.addLayout(row, lines, 0, 1, 2);
+    grid.addLayout(row, lines, 0, 1, 3);
+    grid.setRowStretch(lines + 1, 1);
 }
 
 }  // namespace zolv

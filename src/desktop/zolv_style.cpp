@@ -18,6 +18,8 @@ constexpr int kCaptionRoom = 6;  // between the caption of a group, its rule, an
 
 bool Is(const QStyleOption& option, QStyle::StateFlag flag) { return option.state.testFlag(flag); }
 
+bool IsFaulty(const QWidget* widget) { return widget != nullptr && widget->property(kFaultyProperty).toBool(); }
+
 /// The thin lines around and between things.
 QColor RuleColour(const QPalette& palette) {
     return Blend(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.16);
@@ -52,7 +54,8 @@ void PaintPanel(QPainter& painter, const QRect& rect, const QColor& ground, cons
     painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), kRound, kRound);
 }
 
-void PaintButton(QPainter& painter, const QStyleOption& option) {
+/// @param faulty  whether what is picked is to be mended
+void PaintButton(QPainter& painter, const QStyleOption& option, bool faulty = false) {
     const QPalette& palette = option.palette;
     const bool enabled = Is(option, QStyle::State_Enabled);
     const QColor accent = palette.color(QPalette::Highlight);
@@ -63,8 +66,10 @@ void PaintButton(QPainter& painter, const QStyleOption& option) {
         ground = Blend(accent, ground, 0.09);
     }
     const bool focus = enabled && Is(option, QStyle::State_HasFocus);
-    const QColor edge = enabled ? EdgeColour(palette) : RuleColour(palette);
-    PaintPanel(painter, option.rect, ground, focus ? accent : edge, focus ? 2 : 1);
+    QColor edge = enabled ? EdgeColour(palette) : RuleColour(palette);
+    if (focus) edge = accent;
+    if (faulty) edge = FaultColour(palette);
+    PaintPanel(painter, option.rect, ground, edge, focus || faulty ? 2 : 1);
 }
 
 /// @param faulty  whether what stands in the box is to be mended
@@ -212,7 +217,7 @@ void ZolvStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             return;
         case PE_PanelLineEdit:
             if (qstyleoption_cast<const QStyleOptionFrame*>(option)->lineWidth > 0) {
-                PaintBox(*painter, *option, widget != nullptr && widget->property(kFaultyProperty).toBool());
+                PaintBox(*painter, *option, IsFaulty(widget));
                 return;
             }
             break;
@@ -237,7 +242,7 @@ void ZolvStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         const QRectF handle = subControlRect(CC_Slider, option, SC_SliderHandle, widget);
         PaintSlider(*painter, slider, {handle.center().x(), QRectF(option->rect).center().y()});
     } else if (control == CC_ComboBox && !qstyleoption_cast<const QStyleOptionComboBox*>(option)->editable) {
-        PaintButton(*painter, *option);
+        PaintButton(*painter, *option, IsFaulty(widget));
         const QRectF arrow = subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
         PaintArrow(*painter, *option, arrow.center());
     } else if (control == CC_GroupBox && widget != nullptr) {

@@ -12,7 +12,8 @@ namespace zolv {
 void FreshStart() {
     std::apply([](auto&... state) { ((state = {}), ...); }, AllState());
     guards = {};
-    shellFollowUps = {};  // no wiring hangs it up anew
+    shellFollowUps = {};  // no wiring hangs these up anew
+    presetFollowUps = {};
     ResetWindows();
     AssignBuiltInCaptions();
     AssignFieldWords();

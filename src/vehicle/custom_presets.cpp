@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "fields/label_names.h"
 #include "fields/windows.h"
@@ -110,8 +112,7 @@ std::int16_t DrivetrainOf(const std::string& text, std::int16_t otherwise) {
     return otherwise;
 }
 
-void ReadAddPanel() {
-    PresetEntry& entry = presets.Entry;
+void ReadAddPanel(PresetEntry& entry) {
     for (const PresetFigure& figure : kPresetFigures) ReadFigure(figure, figure.AddBox(), entry);
     entry.CustomDrivetrain = DrivetrainOf(CustomPresets.New.Drivetrain.Text(), kNoDrivetrain);
     entry.CustomGears = ToInt16(Val(CustomPresets.New.Gears.Text()));
@@ -122,9 +123,8 @@ void ReadAddPanel() {
     }
 }
 
-void ReadEditPanel() {
+void ReadEditPanel(PresetEntry& entry) {
     constexpr std::int16_t kAllWheels = 2;
-    PresetEntry& entry = presets.Entry;
     for (const PresetFigure& figure : kPresetFigures) {
         if (figure.box != nullptr) ReadFigure(figure, CustomPresets.Edit.*figure.box, entry);
     }
@@ -136,56 +136,83 @@ bool IsTaken(const std::string& name) { return vehicle.FindCar(name) >= 0 || veh
 
 enum class Checked : bool { WhenAdding, Always };
 
+/// What is to be mended: a control that both panels have, or one of the add panel alone.
+using Mended = std::variant<TextBox PresetPanel::*, PickList PresetPanel::*, const Field*>;
+
 /// What makes a preset unusable, in the order of the checks.
 struct PresetCheck {
     bool (*fails)(const PresetEntry&);
     std::string Texts::*message;
+    Mended mended;
     Checked checked = Checked::Always;
 };
 
 // The limits of the fractions are singles like the figures: 5% and 95% themselves pass.
 // clang-format off
 constexpr PresetCheck kChecks[] = {
-    {[](const PresetEntry&) { return IsTaken(CustomPresets.NewName.Text()); },      &Texts::TextPresetNameUsed, Checked::WhenAdding},
-    {[](const PresetEntry&) { return vehicle.PresetsUsed >= kMaxPresets; },         &Texts::TextPresetLimit,    Checked::WhenAdding},
-    {[](const PresetEntry&) { return CustomPresets.NewName.Text().empty(); },       &Texts::TextPresetNoName,   Checked::WhenAdding},
-    {[](const PresetEntry&) { return CustomPresets.NewCar.Text().empty(); },        &Texts::TextPresetNoCar,    Checked::WhenAdding},
-    {[](const PresetEntry& p) { return p.CustomPower < 1; },                        &Texts::TextBadPower},
-    {[](const PresetEntry& p) { return p.CustomPowerRPM < 100; },                   &Texts::TextBadPowerRpm},
-    {[](const PresetEntry& p) { return p.CustomTorque < 1; },                       &Texts::TextBadTorque},
-    {[](const PresetEntry& p) { return p.CustomTorqueRPM < 100; },                  &Texts::TextBadTorqueRpm},
-    {[](const PresetEntry& p) { return p.CustomIdleRPM < 100; },                    &Texts::TextBadIdle},
-    {[](const PresetEntry& p) { return p.CustomIdleRPM > p.CustomPowerRPM / 3.0; }, &Texts::TextIdleTooHigh},
-    {[](const PresetEntry& p) { return p.CustomDrivetrain == kNoDrivetrain; },      &Texts::TextNoDrivetrain,   Checked::WhenAdding},
-    {[](const PresetEntry& p) { return p.CustomGears == 0; },                       &Texts::TextNoGears,        Checked::WhenAdding},
-    {[](const PresetEntry& p) { return p.CustomMass < 1; },                         &Texts::TextBadMass},
-    {[](const PresetEntry& p) { return p.CustomUnsprungMass < 1; },                 &Texts::TextBadUnsprungMass},
-    {[](const PresetEntry& p) { return p.CustomDist < 0.05F; },                     &Texts::TextBadWeightDistLow},
-    {[](const PresetEntry& p) { return p.CustomDist > 0.95F; },                     &Texts::TextBadWeightDistHigh},
-    {[](const PresetEntry& p) { return p.CustomCx <= 0; },                          &Texts::TextBadDrag},
-    {[](const PresetEntry& p) { return p.CustomFTyreWidth < 1; },                   &Texts::TextBadFrontTyreWidth},
-    {[](const PresetEntry& p) { return p.CustomFTyreProfile < 0.01F; },             &Texts::TextBadFrontTyreProfile},
-    {[](const PresetEntry& p) { return p.CustomFWheelSize < 1; },                   &Texts::TextBadFrontRim},
-    {[](const PresetEntry& p) { return p.CustomRTyreWidth < 1; },                   &Texts::TextBadRearTyreWidth},
-    {[](const PresetEntry& p) { return p.CustomRTyreProfile < 0.01F; },             &Texts::TextBadRearTyreProfile},
-    {[](const PresetEntry& p) { return p.CustomRWheelSize < 1; },                   &Texts::TextBadRearRim},
-    {[](const PresetEntry& p) { return p.CustomFTrack < 0.5F; },                    &Texts::TextBadFrontTrack},
-    {[](const PresetEntry& p) { return p.CustomRTrack < 0.5F; },                    &Texts::TextBadRearTrack},
-    {[](const PresetEntry& p) { return p.CustomWheelbase < 0.5F; },                 &Texts::TextBadWheelbase},
+    {[](const PresetEntry&) { return IsTaken(CustomPresets.NewName.Text()); },        &Texts::TextPresetNameUsed,       &CustomPresets.NewName, Checked::WhenAdding},
+    {[](const PresetEntry&) { return vehicle.PresetsUsed >= kMaxPresets; },           &Texts::TextPresetLimit,          &CustomPresets.NewName, Checked::WhenAdding},
+    {[](const PresetEntry&) { return CustomPresets.NewName.Text().empty(); },         &Texts::TextPresetNoName,         &CustomPresets.NewName, Checked::WhenAdding},
+    {[](const PresetEntry&) { return CustomPresets.NewCar.Text().empty(); },          &Texts::TextPresetNoCar,          &CustomPresets.NewCar, Checked::WhenAdding},
+    {[](const PresetEntry& p) { return p.CustomPower < 1; },                          &Texts::TextBadPower,             &PresetPanel::Power},
+    {[](const PresetEntry& p) { return p.CustomPowerRPM < 100; },                     &Texts::TextBadPowerRpm,          &PresetPanel::PowerRPM},
+    {[](const PresetEntry& p) { return p.CustomTorque < 1; },                         &Texts::TextBadTorque,            &PresetPanel::Torque},
+    {[](const PresetEntry& p) { return p.CustomTorqueRPM < 100; },                    &Texts::TextBadTorqueRpm,         &PresetPanel::TorqueRPM},
+    {[](const PresetEntry& p) { return p.CustomIdleRPM < 100; },                      &Texts::TextBadIdle,              &PresetPanel::IdleRPM},
+    {[](const PresetEntry& p) { return p.CustomIdleRPM > p.CustomPowerRPM / 3.0; },   &Texts::TextIdleTooHigh,          &PresetPanel::IdleRPM},
+    {[](const PresetEntry& p) { return p.CustomDrivetrain == kNoDrivetrain; },        &Texts::TextNoDrivetrain,         &PresetPanel::Drivetrain, Checked::WhenAdding},
+    {[](const PresetEntry& p) { return p.CustomGears == 0; },                         &Texts::TextNoGears,              &PresetPanel::Gears, Checked::WhenAdding},
+    {[](const PresetEntry& p) { return p.CustomMass < 1; },                           &Texts::TextBadMass,              &PresetPanel::Mass},
+    {[](const PresetEntry& p) { return p.CustomUnsprungMass < 1; },                   &Texts::TextBadUnsprungMass,      &PresetPanel::UnsprungMass},
+    {[](const PresetEntry& p) { return p.CustomDist < 0.05F; },                       &Texts::TextBadWeightDistLow,     &PresetPanel::Dist},
+    {[](const PresetEntry& p) { return p.CustomDist > 0.95F; },                       &Texts::TextBadWeightDistHigh,    &PresetPanel::Dist},
+    {[](const PresetEntry& p) { return p.CustomCx <= 0; },                            &Texts::TextBadDrag,              &PresetPanel::Cx},
+    {[](const PresetEntry& p) { return p.CustomFTyreWidth < 1; },                     &Texts::TextBadFrontTyreWidth,    &PresetPanel::FTyreWidth},
+    {[](const PresetEntry& p) { return p.CustomFTyreProfile < 0.01F; },               &Texts::TextBadFrontTyreProfile,  &PresetPanel::FTyreProfile},
+    {[](const PresetEntry& p) { return p.CustomFWheelSize < 1; },                     &Texts::TextBadFrontRim,          &PresetPanel::FWheelSize},
+    {[](const PresetEntry& p) { return p.CustomRTyreWidth < 1; },                     &Texts::TextBadRearTyreWidth,     &PresetPanel::RTyreWidth},
+    {[](const PresetEntry& p) { return p.CustomRTyreProfile < 0.01F; },               &Texts::TextBadRearTyreProfile,   &PresetPanel::RTyreProfile},
+    {[](const PresetEntry& p) { return p.CustomRWheelSize < 1; },                     &Texts::TextBadRearRim,           &PresetPanel::RWheelSize},
+    {[](const PresetEntry& p) { return p.CustomFTrack < 0.5F; },                      &Texts::TextBadFrontTrack,        &PresetPanel::FTrack},
+    {[](const PresetEntry& p) { return p.CustomRTrack < 0.5F; },                      &Texts::TextBadRearTrack,         &PresetPanel::RTrack},
+    {[](const PresetEntry& p) { return p.CustomWheelbase < 0.5F; },                   &Texts::TextBadWheelbase,         &PresetPanel::Wheelbase},
 };
 // clang-format on
 static_assert(std::size(kChecks) == 26);
 
-/// Whether the entry passes; shows the message of the first check that fails.
-bool PassesChecks(const PresetEntry& entry, bool adding) {
+const Field* FieldOf(const Mended& mended, bool adding) {
+    const PresetPanel& panel = adding ? CustomPresets.New : CustomPresets.Edit;
+    struct {
+        const PresetPanel& panel;
+        const Field* operator()(const Field* field) const { return field; }
+        const Field* operator()(TextBox PresetPanel::*box) const { return &(panel.*box); }
+        const Field* operator()(PickList PresetPanel::*list) const { return &(panel.*list); }
+    } const ofPanel{panel};
+    return std::visit(ofPanel, mended);
+}
+
+std::vector<PresetFault> FaultsOf(const PresetEntry& entry, bool adding) {
+    std::vector<PresetFault> faults;
     for (const PresetCheck& check : kChecks) {
         if (!adding && check.checked == Checked::WhenAdding) continue;
-        if (check.fails(entry)) {
-            ShowMessage(texts.*check.message);
-            return false;
-        }
+        if (check.fails(entry)) faults.push_back({FieldOf(check.mended, adding), texts.*check.message});
     }
-    return true;
+    return faults;
+}
+
+void Tell(const std::function<void(const std::string&)>& window, const std::string& sentence) {
+    if (window) {
+        window(sentence);
+    } else {
+        ShowMessage(sentence);
+    }
+}
+
+/// Whether the entry passes; tells the first check that fails.
+bool PassesChecks(const PresetEntry& entry, bool adding) {
+    const std::vector<PresetFault> faults = FaultsOf(entry, adding);
+    if (!faults.empty()) Tell(presetFollowUps.Refused, faults.front().Sentence);
+    return faults.empty();
 }
 
 void ShowPresetsUsed() {
@@ -228,7 +255,7 @@ void ChooseBaseCar() {
 }
 
 void AddPreset() {
-    ReadAddPanel();
+    ReadAddPanel(presets.Entry);
     if (!PassesChecks(presets.Entry, true)) return;
 
     const std::string name = CustomPresets.NewName.Text();
@@ -238,7 +265,13 @@ void AddPreset() {
     ++vehicle.PresetsUsed;
     ShowPresetsUsed();
     CustomPresets.EditName.Add(name);
-    ShowMessage(texts.TextAddedPreset + " " + name);
+    Tell(presetFollowUps.Stored, texts.TextAddedPreset + " " + name);
+}
+
+std::vector<PresetFault> PresetFaults(bool adding) {
+    PresetEntry entry = presets.Entry;
+    (adding ? ReadAddPanel : ReadEditPanel)(entry);
+    return FaultsOf(entry, adding);
 }
 
 void ShowPresetForEditing() {
@@ -254,7 +287,7 @@ void ShowPresetForEditing() {
 void UpdatePreset() {
     const std::optional<int> preset = ChosenPreset();
     if (!preset) return;
-    ReadEditPanel();
+    ReadEditPanel(presets.Entry);
     if (!PassesChecks(presets.Entry, false)) return;
 
     const std::string& name = CustomPresets.EditName.Text();
@@ -264,7 +297,7 @@ void UpdatePreset() {
     }
     StoreLists(presets.Entry, figures);
     vehicle.StorePreset(*preset, name, figures);
-    ShowMessage(texts.TextUpdatedPreset + " " + name);
+    Tell(presetFollowUps.Stored, texts.TextUpdatedPreset + " " + name);
 }
 
 std::optional<int> ChosenPreset() {

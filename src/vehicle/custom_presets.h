@@ -1,8 +1,12 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace zolv {
+
+class Field;
 
 /// The load of the window: lists the cars that a preset can be based upon, and the presets there are.
 /// Reads:  vehicle
@@ -23,6 +27,17 @@ void ChooseBaseCar();
 /// Reads:  the add panel
 /// Writes: presets.Entry, vehicle.CustomData/CustomName/PresetsUsed, Select_Car, EditName, PresetsUsed
 void AddPreset();
+
+/// What is wrong on a panel, and the field that is to be mended.
+struct PresetFault {
+    const Field* Where = nullptr;
+    std::string Sentence;
+};
+
+/// All that stands against adding the preset on the add panel, or against updating the one on the edit panel, in the
+/// order of the checks; empty where nothing does.
+/// Reads: the panel
+std::vector<PresetFault> PresetFaults(bool adding);
 
 /// Shows the preset picked in EditName on the edit panel.
 /// Reads:  EditName, vehicle.CustomData

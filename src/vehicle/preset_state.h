@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <string>
 
 namespace zolv {
 
@@ -40,5 +42,13 @@ struct PresetState {
     bool LoadingPreset = false;
 };
 extern PresetState presets;
+
+/// Where the window of the presets says what has become of a preset. A front end that shows it in the window hangs both
+/// up; where nothing hangs, it is a message.
+struct PresetFollowUps {
+    std::function<void(const std::string& sentence)> Stored;   // a preset was added or updated
+    std::function<void(const std::string& sentence)> Refused;  // it was not; the sentence is the first of its faults
+};
+inline PresetFollowUps presetFollowUps;
 
 }  // namespace zolv

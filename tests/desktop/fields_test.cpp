@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -44,7 +45,7 @@ bool Suits(FieldKind kind, const QObject* object) {
         case FieldKind::Button: return IsOneOf<QPushButton>(object);
         case FieldKind::TextBox: return IsOneOf<QLineEdit, RunTable>(object);
         case FieldKind::Slider: return IsOneOf<QSlider>(object);
-        case FieldKind::PickList: return IsOneOf<QComboBox>(object);
+        case FieldKind::PickList: return IsOneOf<QComboBox, QListWidget>(object);
         case FieldKind::TabStrip: return IsOneOf<QTabBar>(object);
         case FieldKind::CheckBox: return IsOneOf<QCheckBox>(object);
         case FieldKind::OptionButton: return IsOneOf<QRadioButton>(object);

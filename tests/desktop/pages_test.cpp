@@ -4,7 +4,9 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -32,6 +34,7 @@ private Q_SLOTS:
     void SpeedInForceIsShownWhileItIsTheTopSpeed();
     void BurstTyresHaveNoPressureToSet();
     void UnitSystemIsOneClick();
+    void PresetsAreMendedInTheirForm();
 };
 
 /// Contrast of two colours by their relative luminances, as WCAG 2.1 defines it: 1 to 21.
@@ -197,6 +200,49 @@ void Pages::UnitSystemIsOneClick() {
     Click(Find<QPushButton>("MetricUnits", "OptionsPanel"));
     QVERIFY(TextOf("Aero_TopSpeed").endsWith(QStringLiteral(" km/h")));
     QVERIFY(TextOf("Info_Mass").endsWith(QStringLiteral(" kg")));
+}
+
+/// The sentence beside a box of the presets; empty while there is none.
+QString FaultOf(const char* sentence) {
+    const auto& label = Find<QLabel>(sentence, "CustomPresets");
+    return label.isVisible() ? label.text() : QString();
+}
+
+/// No message comes while a preset is refused, mended, added, and refused again when it is updated.
+void Pages::PresetsAreMendedInTheirForm() {
+    const char* const window = "CustomPresets";
+    Windows().TheBinding().Act([] {
+        CustomPresets.SetVisible(true);
+        CustomPresets.NewCar.SetText("Ondo T");
+        CustomPresets.New.Power.Enter("0");
+    });
+    Settle();
+    QVERIFY(!Find<QGroupBox>("Frame_Edit", window).isEnabled());
+    Click(Find<QPushButton>("AddCar", window));
+    QCOMPARE(FaultOf("NewNameFault"), QStringLiteral("You must enter a name for your preset."));
+    QVERIFY(FaultOf("NewPowerFault").contains(QStringLiteral("at least 1kW")));
+    QCOMPARE(Find<QLineEdit>("NewPower", window).accessibleDescription(), FaultOf("NewPowerFault"));
+    QVERIFY(Find<QLineEdit>("NewName", window).hasFocus());
+
+    Type(Find<QLineEdit>("NewName", window), "Kerb Runner");
+    SelectAllAndType(Find<QLineEdit>("NewPower", window), "120");
+    QCOMPARE(FaultOf("NewNameFault") + FaultOf("NewPowerFault"), QString());
+    Click(Find<QPushButton>("AddCar", window));
+    auto& list = Find<QListWidget>("EditName", window);
+    QCOMPARE(list.count(), 2);
+    QCOMPARE(Find<QComboBox>("Select_Car").findText(QStringLiteral("Kerb Runner")),
+             Find<QComboBox>("Select_Car").count() - 1);
+
+    QTest::keyClick(&list, Qt::Key_Down);
+    Settle();
+    QVERIFY(Find<QGroupBox>("Frame_Edit", window).isEnabled());
+    QCOMPARE(Find<QLineEdit>("EditPower", window).text(), QStringLiteral("120"));
+    SelectAllAndType(Find<QLineEdit>("EditPower", window), "0");
+    Click(Find<QPushButton>("EditUpdate", window));
+    QVERIFY(!FaultOf("EditPowerFault").isEmpty());
+    QTest::keyClick(&list, Qt::Key_Up);
+    QTest::keyClick(&list, Qt::Key_Down);
+    QCOMPARE(FaultOf("EditPowerFault"), QString());
 }
 
 const bool added = AddSuite<Pages>("Pages");

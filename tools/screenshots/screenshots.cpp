@@ -4,6 +4,7 @@
 // EXAMPLES: the pictures of the manual, of set-ups in the folder EXAMPLES.
 
 #include <QApplication>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QPalette>
 #include <QRegularExpression>
@@ -143,6 +144,20 @@ std::vector<Shot> WindowShots() {
              CustomPresets.SetVisible(true);
              CustomPresets.NewCar.SetText("Sable T");
          }},
+        {"presets-faults", CustomPresets,
+         [] {
+             CustomPresets.New.Power.Enter("0");
+             CustomPresets.New.Dist.Enter("98");
+             CustomPresets.AddCar.Click();
+         }},
+        {"presets-added", CustomPresets,
+         [] {
+             CustomPresets.NewCar.SetText("Ondo T");
+             CustomPresets.NewName.Enter("Ondo T Rally");
+             CustomPresets.AddCar.Click();
+         }},
+        {"presets-edit", CustomPresets,
+         [] { WidgetOf(CustomPresets)->findChild<QListWidget*>(QStringLiteral("EditName"))->setCurrentRow(1); }},
         {"converter", UnitConv, [] { UnitConv.SetVisible(true); }},
         {"languages", LanguageSelection, [] { LanguageSelection.SetVisible(true); }},
     };

@@ -29,6 +29,7 @@
 #include "gearing/mark_reasons.h"
 #include "gearing/run_columns.h"
 #include "plots/run_strip.h"
+#include "text/messages.h"
 #include "text/texts.h"
 #include "text/words.h"
 
@@ -332,7 +333,12 @@ QWidget* GearingPageView::MakeAcceleration() {
         addFigure(i, i, 1, 1, {kWidestTime});
     }
     for (int i = 0; i < 2; ++i) {
-        grid->addWidget(MakeWords(binding_, Zolv.GearingLabel[36 + i], group), i, 3);
+        Label& distance = Zolv.GearingLabel[36 + i];  // "Quarter mile ET:"
+        QLabel* const named = MakeWords(binding_, distance, group);
+        const auto show = [&distance, named] { named->setText(ToQt(InWords(distance.Caption()))); };
+        binding_.OnChanged(distance, show);
+        binding_.OnChanged(Zolv.ShowAcc, show);  // whose caption comes with a language
+        grid->addWidget(named, i, 3);
         addFigure(6 + 2 * i, i, 4, 1, {kWidestTime});
         addFigure(7 + 2 * i, i, 5, 1, speedAt);
     }

@@ -12,6 +12,7 @@
 
 #include "desktop/texts_of_qt.h"
 #include "platform/text_files.h"
+#include "text/messages.h"
 #include "text/words.h"
 
 namespace zolv {
@@ -74,11 +75,12 @@ void WindowDialogs::ShowGathered() {
 }
 
 void WindowDialogs::Message(const std::string& text) {
+    const QString said = ToQt(InWords(text));
     if (gathering_) {
-        gathered_ << ToQt(text);
+        gathered_ << said;
         return;
     }
-    QMessageBox box(QMessageBox::Information, QLatin1String(kProgram), ToQt(text), QMessageBox::Ok, Above(parent_));
+    QMessageBox box(QMessageBox::Information, QLatin1String(kProgram), said, QMessageBox::Ok, Above(parent_));
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

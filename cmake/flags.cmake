@@ -31,6 +31,12 @@ if(ZOLV_SANITIZE)
   target_link_options(zolv_flags INTERFACE ${sanitize})
 endif()
 
+# A program for Windows needs nothing beside it.
+if(WIN32)
+  target_compile_definitions(zolv_flags INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX)
+  target_link_options(zolv_flags INTERFACE -static)
+endif()
+
 # The fuzzer learns from what an input reaches. The words that it would learn from comparisons, at twice the time, stand
 # in its dictionaries.
 if(ZOLV_FUZZ)

@@ -9,6 +9,8 @@
 
 #include "batch/script.h"
 #include "batch/script_dialogs.h"
+#include "platform/process.h"
+#include "platform/system_text.h"
 #include "platform/text_files.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
@@ -48,7 +50,7 @@ bool Fail(std::string_view message) {
 }
 
 bool RunFile(zolv::Script& script, const std::string& name) {
-    std::ifstream file(name, std::ios::binary);
+    std::ifstream file(zolv::PathOf(name), std::ios::binary);
     if (!file) return Fail(name + ": cannot be opened");
     // A folder opens, too, and fails only when it is read; an empty script is a script.
     if (file.peek() == std::ifstream::traits_type::eof() && !file.eof()) return Fail(name + ": cannot be read");
@@ -83,9 +85,9 @@ int main(int argc, char** argv) {
     std::cin.tie(
         nullptr);  // which would write the answer to each line by itself; a script tells when one is waited for
     zolv::SurviveSizeLimit();
+    zolv::PassBytesThrough();
     std::vector<std::string> names;
-    for (int i = 1; i < argc; ++i) {
-        const std::string argument = argv[i];
+    for (const std::string& argument : zolv::ArgumentsOf(argc, argv)) {
         if (argument == "--help") {
             std::cout << kUsage;
             return 0;

@@ -9,6 +9,7 @@
 #include "fields/windows.h"
 #include "files/options_file.h"
 #include "files/settings_file.h"
+#include "platform/data_folder.h"
 #include "units/unit_state.h"
 
 namespace zolv {
@@ -36,7 +37,12 @@ LastVisit::LastVisit(const QString& file, Desktop& desktop, WindowDialogs& dialo
     : settings_(file, QSettings::IniFormat), desktop_(desktop), dialogs_(dialogs) {}
 
 QString LastVisit::UsersFile() {
+    // Where there is no folder for this alone, it lies with the options.
+#ifdef Q_OS_WIN
+    return ToQt(FindDataFolders(ThisProgram(), UserFolder()).own) + QStringLiteral("zolv.ini");
+#else
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/zolv/zolv.ini");
+#endif
 }
 
 void LastVisit::BringBack() {

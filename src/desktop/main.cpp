@@ -11,6 +11,7 @@
 #include "desktop/main_window.h"
 #include "desktop/theme.h"
 #include "desktop/window_dialogs.h"
+#include "platform/process.h"
 #include "platform/text_files.h"
 #include "shell/command_line.h"
 #include "shell/fresh_start.h"
@@ -32,7 +33,7 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
 }  // namespace
 
 int main(int argc, char** argv) {
-    const zolv::CommandLine line = zolv::ReadCommandLine({argv + 1, argv + argc});
+    const zolv::CommandLine line = zolv::ReadCommandLine(zolv::ArgumentsOf(argc, argv));
     if (!line.answer.empty() || !line.fault.empty()) return zolv::Answer(line);
     zolv::SurviveSizeLimit();
     const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);

@@ -113,7 +113,7 @@ std::string WindowDialogs::AskForFile(const FileRequest& request) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return request.presetName;
     const QString chosen = dialog.selectedFiles().constFirst();
     folders_[ToQt(request.presetName)] = QFileInfo(chosen).absolutePath();
-    return FromQt(chosen);
+    return FromQt(QDir::toNativeSeparators(chosen));
 }
 
 bool WindowDialogs::ShowManual() {

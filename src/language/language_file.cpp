@@ -74,7 +74,9 @@ void ChangeLanguage() {
         return;
     }
     const FileText file = ReadTextFile(path, kLongestFile);
-    const Parsed<LanguageLines> lines = ParseLanguage(file.text);  // one that cannot be read has no lines either
+    const Parsed<LanguageLines> lines =
+        file.readable ? ParseLanguage(file.text)
+                      : Refusal{std::string(kWrongLineCount).append(" ").append(CannotRead(path, file.reason))};
     if (!lines) {
         ShowMessage(lines.Reason());
         return;

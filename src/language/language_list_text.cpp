@@ -10,17 +10,24 @@ namespace zolv {
 namespace {
 
 constexpr std::string_view kNumberKey = "Language: ";
+constexpr std::string_view kLineFeed = "\n";
+
+/// An editor of today may have left a list whose lines end in a line feed alone, all of them: a name has none in it.
+std::string_view LineEndIn(std::string_view text) {
+    return text.find(kLineEnd) == std::string_view::npos ? kLineFeed : kLineEnd;
+}
 
 }  // namespace
 
 Parsed<LanguageListFile> ParseLanguageList(std::string_view text) {
-    const std::vector<std::string_view> lines = EndedLines(text);
+    const std::string_view lineEnd = LineEndIn(text);
+    const std::vector<std::string_view> lines = EndedLines(text, lineEnd);
     LanguageListFile list;
     if (!lines.empty()) {
         list.Number = ToInt16(Val(LastOf(lines[0], 2)));
         list.Names.assign(lines.begin() + 1, lines.end());
     }
-    list.LastLineEnds = text.ends_with(kLineEnd);
+    list.LastLineEnds = text.ends_with(lineEnd);
     if (list.Number == 0 && list.Names.empty()) {
         return Refusal{"Not a language list, whose lines from the second on name a language each and end in CR LF"};
     }

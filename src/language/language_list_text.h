@@ -19,7 +19,7 @@ struct LanguageListFile {
 };
 
 /// Reads the text of a list: line 0 "Language: " and the number, of which the last two characters count, so that 112 is
-/// 12; then a name a line. Lines end in CR LF, the last may do without.
+/// 12; then a name a line. Lines end in CR LF, or all of them in LF alone; the last may do without.
 /// @param text  without a byte order mark
 /// @return refused where it neither names a language nor stores a choice
 Parsed<LanguageListFile> ParseLanguageList(std::string_view text);

@@ -1,21 +1,34 @@
 #include "language/language_text.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <string>
+#include <vector>
 
 #include "text/lines.h"
 
 namespace zolv {
+namespace {
+
+/// What whoever wrote the file needs to know to mend it.
+std::string Found(std::string_view text, const std::vector<std::string_view>& lines) {
+    const auto lineFeeds = static_cast<std::size_t>(std::ranges::count(text, '\n'));
+    if (lines.size() == 1 && lineFeeds > 0) return "Its lines end in LF alone; they must end in CR LF.";
+    std::string found = "It has " + std::to_string(lines.size()) + " in place of " + std::to_string(kCaptionLines);
+    if (lineFeeds + 1 > lines.size()) found += ", as some end in LF alone and not in CR LF";
+    if (lines.size() > 1 && lines.back().empty()) found += ", the last one empty: behind the last line comes no line end";
+    return found + '.';
+}
+
+}  // namespace
 
 Parsed<LanguageLines> ParseLanguage(std::string_view text) {
-    const Refusal refusal{"Language file does not have the correct number of lines. Loading failed."};
-    LanguageLines lines;
-    for (std::size_t i = 0; i < kCaptionLines; ++i) {
-        const std::size_t end = text.find(kLineEnd);
-        const bool isLast = i + 1 == kCaptionLines;
-        if ((end == std::string_view::npos) != isLast) return refusal;
-        lines[i] = text.substr(0, end);
-        if (!isLast) text.remove_prefix(end + kLineEnd.size());
+    const std::vector<std::string_view> found = SplitLines(text);
+    if (found.size() != kCaptionLines) {
+        return Refusal{std::string(kWrongLineCount).append(" ").append(Found(text, found))};
     }
+    LanguageLines lines;
+    std::ranges::copy(found, lines.begin());
     return lines;
 }
 

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <system_error>
 
+#include "platform/system_text.h"
+
 #ifdef _WIN32
 #include <windows.h>
 #else
@@ -23,7 +25,8 @@ bool HoldsList(const fs::path& folder) {
 
 bool MayWriteIn(const fs::path& folder) {
 #ifdef _WIN32
-    const fs::path probe = folder / "zolv.tmp";
+    // Two programs that start at once must not take each other's file for a lock.
+    const fs::path probe = folder / ("zolv-" + std::to_string(GetCurrentProcessId()) + ".tmp");
     const HANDLE file = CreateFileW(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                     FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     if (file == INVALID_HANDLE_VALUE) return false;
@@ -34,7 +37,7 @@ bool MayWriteIn(const fs::path& folder) {
 #endif
 }
 
-std::string Ended(const fs::path& folder) { return (folder.lexically_normal() / "").string(); }
+std::string Ended(const fs::path& folder) { return TextOf(folder.lexically_normal() / ""); }
 
 std::string InstalledFor(const fs::path& programFolder) {
     for (const char* place : {"../share/zolv", "../data", "."}) {
@@ -46,8 +49,12 @@ std::string InstalledFor(const fs::path& programFolder) {
 
 /// A variable of the environment that names a folder; one that is not absolute counts as none.
 fs::path FolderIn(const char* variable) {
+#ifdef _WIN32
+    const wchar_t* const text = ::_wgetenv(WideOf(variable).c_str());
+#else
     const char* const text = std::getenv(variable);
-    const fs::path folder = text != nullptr ? text : "";
+#endif
+    const fs::path folder = text != nullptr ? fs::path(text) : fs::path();
     return folder.is_absolute() ? folder : fs::path();
 }
 
@@ -98,11 +105,12 @@ fs::path UserFolder() {
 
 std::string PrepareFolder(const DataFolders& folders) {
     std::error_code error;
-    fs::create_directories(folders.own, error);
-    if (!fs::is_directory(folders.own)) return error.message();
+    const fs::path own = PathOf(folders.own);
+    fs::create_directories(own, error);
+    if (!fs::is_directory(own)) return ReasonOf(error);
     std::error_code none;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folders.own, none)) {
-        if (IsOldLink(entry.path(), folders.shared)) fs::remove(entry.path(), none);
+    for (const fs::directory_entry& entry : fs::directory_iterator(own, none)) {
+        if (IsOldLink(entry.path(), PathOf(folders.shared))) fs::remove(entry.path(), none);
     }
     return {};
 }

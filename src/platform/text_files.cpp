@@ -7,10 +7,13 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/system_text.h"
+
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
+#include <windows.h>
 #else
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -27,16 +30,14 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-fs::path PathOf(const std::string& utf8) { return fs::path(reinterpret_cast<const char8_t*>(utf8.c_str())); }
-
-std::string ReasonOf(int error) { return std::generic_category().message(error); }
+std::string ReasonOf(int error) { return zolv::ReasonOf({error, std::generic_category()}); }
 
 /// An open file that closes itself. Every call sets errno like the system call behind it.
 class OpenFile {
 public:
 #ifdef _WIN32
-    static constexpr int kRead = _O_RDONLY | _O_BINARY;
-    static constexpr int kCreate = _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY;
+    static constexpr int kRead = _O_RDONLY | _O_BINARY | _O_NOINHERIT;
+    static constexpr int kCreate = _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT;
     OpenFile(const fs::path& path, int flags) : handle_(::_wopen(path.c_str(), flags, _S_IREAD | _S_IWRITE)) {}
     long Read(char* to, std::size_t size) { return ::_read(handle_, to, static_cast<unsigned>(size)); }
     long Write(const char* from, std::size_t size) { return ::_write(handle_, from, static_cast<unsigned>(size)); }
@@ -79,6 +80,27 @@ int WriteNewFile(const fs::path& path, std::string_view text) {
     return file.Close() ? 0 : errno;
 }
 
+/// Puts the new file into the place of the old one.
+std::error_code Replace(const fs::path& target, const fs::path& by) {
+#ifdef _WIN32
+    // Programs that look for viruses, or words, hold a new file for a moment.
+    constexpr int kTries = 10;
+    constexpr DWORD kPause_ms = 20;
+    DWORD failure = 0;
+    for (int i = 0; i < kTries; ++i) {
+        if (MoveFileExW(by.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return {};
+        failure = GetLastError();
+        if (failure != ERROR_SHARING_VIOLATION && failure != ERROR_ACCESS_DENIED) break;
+        Sleep(kPause_ms);
+    }
+    return {static_cast<int>(failure), std::system_category()};
+#else
+    std::error_code error;
+    fs::rename(by, target, error);
+    return error;
+#endif
+}
+
 /// Makes the renaming itself last. Not every file system can sync a folder; the file's content is safe without it.
 void SyncFolder([[maybe_unused]] const fs::path& folder) {
 #ifndef _WIN32
@@ -106,8 +128,7 @@ void SurviveSizeLimit() {
 
 std::string CurrentDirectory() {
     std::error_code error;
-    const std::u8string folder = fs::current_path(error).u8string();
-    std::string path(folder.begin(), folder.end());
+    std::string path = TextOf(fs::current_path(error));
     if (path.empty()) path = ".";  // a folder that was removed: never the root of the file system in its place
     constexpr char kSeparator = static_cast<char>(fs::path::preferred_separator);
     if (path.back() != kSeparator) path += kSeparator;
@@ -133,7 +154,7 @@ FileText ReadTextFile(const std::string& path, std::size_t limit) {
     std::error_code error;
     const fs::file_status status = fs::status(PathOf(path), error);
     if (!fs::exists(status)) {
-        result.reason = error ? error.message() : ReasonOf(ENOENT);
+        result.reason = error ? ReasonOf(error) : ReasonOf(ENOENT);
         result.missing = status.type() == fs::file_type::not_found;
         return result;
     }
@@ -197,11 +218,9 @@ std::string WriteTextFile(const std::string& path, std::string_view text) {
         return ReasonOf(failure);
     }
     if (fs::exists(old)) fs::permissions(temporary, old.permissions(), error);
-    fs::rename(temporary, target, error);
-    if (error) {
-        std::error_code ignored;
-        fs::remove(temporary, ignored);
-        return error.message();
+    if (const std::error_code failure = Replace(target, temporary); failure) {
+        fs::remove(temporary, error);
+        return ReasonOf(failure);
     }
     SyncFolder(target.has_parent_path() ? target.parent_path() : fs::path("."));
     return {};

@@ -7,6 +7,8 @@
 #include "files/settings_file.h"
 #include "platform/data_folder.h"
 #include "platform/dialogs.h"
+#include "platform/process.h"
+#include "platform/system_text.h"
 #include "platform/text_files.h"
 #include "text/version.h"
 
@@ -29,7 +31,7 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words) {
         if (onlyFiles || !word.starts_with('-')) {
             if (word.empty()) return {.fault = "a FILE without a name; --help tells how it is started"};
             if (!line.file.empty()) return {.fault = "one FILE at a time; " + word + " is a second one"};
-            line.file = std::filesystem::absolute(word).string();
+            line.file = TextOf(std::filesystem::absolute(PathOf(word)));
         } else if (word == "--help") {
             return {.answer = kUsage};
         } else if (word == "--version") {
@@ -45,8 +47,8 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words) {
 
 int Answer(const CommandLine& line) {
     constexpr int kUnusable = 2;
-    if (line.fault.empty()) return std::fputs(line.answer.c_str(), stdout) < 0 ? kUnusable : 0;
-    std::fputs(("zolv: " + line.fault + "\n").c_str(), stderr);
+    if (line.fault.empty()) return Say(stdout, line.answer) ? 0 : kUnusable;
+    Say(stderr, "zolv: " + line.fault + "\n");
     return kUnusable;
 }
 
@@ -55,8 +57,8 @@ void EnterDataFolder() {
     std::string reason = PrepareFolder(folders);
     if (reason.empty()) {
         std::error_code error;
-        std::filesystem::current_path(folders.own, error);
-        if (error) reason = error.message();
+        std::filesystem::current_path(PathOf(folders.own), error);
+        if (error) reason = ReasonOf(error);
     }
     if (!reason.empty()) ShowMessage("The folder " + folders.own + " cannot be used: " + reason);
     platform.SharedPath = folders.shared;

@@ -4,20 +4,20 @@
 
 namespace zolv {
 
-std::vector<std::string_view> SplitLines(std::string_view text) {
+std::vector<std::string_view> SplitLines(std::string_view text, std::string_view lineEnd) {
     constexpr std::size_t kUsual = 40;  // what files of numbers have at most
     std::vector<std::string_view> lines;
     lines.reserve(kUsual);
-    for (auto end = text.find(kLineEnd); end != std::string_view::npos; end = text.find(kLineEnd)) {
+    for (auto end = text.find(lineEnd); end != std::string_view::npos; end = text.find(lineEnd)) {
         lines.push_back(text.substr(0, end));
-        text.remove_prefix(end + kLineEnd.size());
+        text.remove_prefix(end + lineEnd.size());
     }
     lines.push_back(text);
     return lines;
 }
 
-std::vector<std::string_view> EndedLines(std::string_view text) {
-    std::vector<std::string_view> lines = SplitLines(text);
+std::vector<std::string_view> EndedLines(std::string_view text, std::string_view lineEnd) {
+    std::vector<std::string_view> lines = SplitLines(text, lineEnd);
     if (lines.back().empty()) lines.pop_back();
     return lines;
 }

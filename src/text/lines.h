@@ -8,11 +8,12 @@ namespace zolv {
 /// What ends every line of a file that the program writes.
 inline constexpr std::string_view kLineEnd = "\r\n";
 
-/// Splits at CR LF. A text that ends in CR LF has an empty last line; a line feed alone does not end a line.
-std::vector<std::string_view> SplitLines(std::string_view text);
+/// Splits at CR LF. A text that ends in CR LF has an empty last line; a line feed alone does not end a line, unless it
+/// is given as what does.
+std::vector<std::string_view> SplitLines(std::string_view text, std::string_view lineEnd = kLineEnd);
 
-/// The same without the empty line behind a last CR LF: the lines of a file whose every line ends in CR LF.
-std::vector<std::string_view> EndedLines(std::string_view text);
+/// The same without the empty line behind a last line end: the lines of a file whose every line ends.
+std::vector<std::string_view> EndedLines(std::string_view text, std::string_view lineEnd = kLineEnd);
 
 /// What stands in a line from that character on; nothing where the line is shorter.
 std::string_view From(std::string_view line, std::size_t first);

@@ -1,12 +1,25 @@
 #include "batch/batch_run.h"
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdlib>
+#ifndef _WIN32
+#include <sys/wait.h>
+#endif
 
 namespace zolv {
+namespace {
+
+/// Has the system's shell run a command whose words are in quotes; returns its exit status, -1 where it has none.
+int StatusOf(const std::string& command) {
+#ifdef _WIN32
+    return std::system(('"' + command + '"').c_str());  // that shell takes the outermost quotes away
+#else
+    const int result = std::system(command.c_str());
+    return WIFEXITED(result) ? WEXITSTATUS(result) : -1;
+#endif
+}
+
+}  // namespace
 
 std::vector<std::string> LinesOf(const std::string& text) {
     std::vector<std::string> lines;
@@ -29,19 +42,15 @@ std::vector<std::string> BatchRun::Answers() const {
 }
 
 BatchRun RunBatch(std::string_view input, const std::string& arguments) {
-    // Beside the current directory, which belongs to the run. The process is in the name, as tests run side by side.
-    const std::filesystem::path streams =
-        std::filesystem::temp_directory_path() / ("zolv-batch-" + std::to_string(::getpid()));
-    std::filesystem::create_directory(streams);
-    const auto quoted = [&](const char* name) { return " '" + (streams / name).string() + "' "; };
-    WriteContent(streams / "input", input);
+    const std::filesystem::path here = std::filesystem::current_path();  // which belongs to the run
+    const TemporaryFolder streams;
+    std::filesystem::current_path(here);
+    const auto quoted = [&](const char* name) { return " \"" + (streams.Path() / name).string() + "\" "; };
+    WriteContent((streams.Path() / "input").string(), input);
     const std::string command =
-        "'" ZOLV_BATCH "' <" + quoted("input") + '>' + quoted("output") + "2>" + quoted("errors") + arguments;
-    const int result = std::system(command.c_str());
-    BatchRun run{WIFEXITED(result) ? WEXITSTATUS(result) : -1, ContentOf(streams / "output"),
-                 ContentOf(streams / "errors")};
-    std::filesystem::remove_all(streams);
-    return run;
+        "\"" ZOLV_BATCH "\" <" + quoted("input") + '>' + quoted("output") + "2>" + quoted("errors") + arguments;
+    const int status = StatusOf(command);
+    return {status, ContentOf((streams.Path() / "output").string()), ContentOf((streams.Path() / "errors").string())};
 }
 
 }  // namespace zolv

@@ -79,7 +79,12 @@ TEST_P(ExpectedLines, ArePrinted) {
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors, "");
 
-    const std::vector<std::string> printed = LinesOf(run.output);
+    std::vector<std::string> printed = LinesOf(run.output);
+#ifdef _WIN32
+    for (std::string& line : printed) {  // between the folders of a path
+        if (line.find("zolv-test-") != std::string::npos) line = Replaced(line, R"(\\)", "/");
+    }
+#endif
     const std::vector<std::string> expected = LinesOf(ContentOf(path + ".expected"));
     ASSERT_GT(expected.size(), 10U);
     EXPECT_EQ(printed.size(), expected.size());

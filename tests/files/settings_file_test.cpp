@@ -185,12 +185,14 @@ TEST_F(SettingsFile, ThatCannotBeWrittenIsReportedAndNothingIsLost) {
     SaveAs("nowhere/a.zolv");
     ExpectMessage(HasSubstr("Cannot write nowhere/a.zolv"));
     EXPECT_EQ(Zolv.Title() + '|' + files.CurrentFileName, "Tarmaq Zolv (a.zolv)|a.zolv");
+#ifndef _WIN32
     Set("Gear2", "2.2");
     {
         const FullDisk full(100);
         Zolv.FileSave.Click();
     }
     ExpectMessage(HasSubstr("Cannot write a.zolv: File too large"));
+#endif
     EXPECT_EQ(ContentOf("a.zolv"), kStartFile);
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "fields/windows.h"
@@ -146,15 +147,22 @@ TEST_F(LanguageFile, ThatIsNoneIsRefusedAndChangesNothing) {
     WriteContent(PathOf("short"), MadeUp(338));
     WriteContent(PathOf("long"), MadeUp() + "\r\n");
     WriteContent(PathOf("line feeds"), MadeUp(339, "\n"));
+    WriteContent(PathOf("one line feed"), Replaced(MadeUp(), "L7\r\n", "L7\n"));
     WriteContent(PathOf("huge"), MadeUp() + std::string(1 << 20, 'x'));
     for (const char* name : {"missing", "empty", "folder", "a/b"}) {
         Load(name);
         ExpectMessage(kNotFound + PathOf(name));
     }
-    for (const char* name : {"short", "long", "line feeds", "huge"}) {
+    for (const auto& [name, found] :
+         {std::pair("short", "It has 338 in place of 339."),
+          std::pair("long", "It has 340 in place of 339, the last one empty: behind the last line comes no line end."),
+          std::pair("line feeds", "Its lines end in LF alone; they must end in CR LF."),
+          std::pair("one line feed", "It has 338 in place of 339, as some end in LF alone and not in CR LF.")}) {
         Load(name);
-        ExpectMessage(kLineCount);
+        ExpectMessage(std::string(kLineCount) + ' ' + found);
     }
+    Load("huge");
+    ExpectMessage(std::string(kLineCount) + " Cannot read " + PathOf("huge") + ": Longer than 65536 bytes");
     EXPECT_EQ(LanguageSelection.LanguageNow.Caption(), "English");
     EXPECT_EQ(Zolv.Select_Tyres.Rows()[0], "Road Super");
     EXPECT_EQ(texts.TextOptionsMissing, "Error: Options.ini does not exist.");

@@ -94,6 +94,8 @@ TEST_F(LanguageList, ASaveHoldsTheNumberAndAllNames) {
         {"Language: 9\r\na\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj", 9,
          "Language: 10\r\na\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\n"},
         {"Language: 9\r\nA\r\nB", -1, "Language: \r\nA\r\nB\r\n"},
+        {"Language: 1\nA\nB\n", 1, "Language: 2\r\nA\r\nB\r\n"},  // as an editor of another system leaves it
+        {"Language: 1\nA\nB", 1, "Language: 2\r\nA\r\nB\r\n"},
     };
     for (const auto& row : kCases) {
         WriteContent(Path(), row.before);
@@ -129,7 +131,6 @@ TEST_F(LanguageList, ThatIsNoneSaysWhyAndChangesNothing) {
     expectRefusals("");
     for (const auto& [text, reason] :
          {std::pair("Language: 1\r\n" + std::string(65536, 'x'), "Longer than 65536 bytes"),
-          std::pair(std::string("Language: 1\nEnglish\n"), "Not a language list"),
           std::pair(std::string("Language: 0\r\n"), "Not a language list")}) {
         WriteContent(Path(), text);
         expectRefusals(reason);
@@ -139,6 +140,7 @@ TEST_F(LanguageList, ThatIsNoneSaysWhyAndChangesNothing) {
     expectRefusals("");
 }
 
+#ifndef _WIN32  // where a name may be as long as anybody likes
 TEST_F(LanguageList, FailedSaveNamesFileAndReason) {
     WriteContent(Path(), "Language: 1\r\nA\r\nB\r\n");
     LoadLanguageList();
@@ -151,6 +153,7 @@ TEST_F(LanguageList, FailedSaveNamesFileAndReason) {
     platform.AppPath = folder;
     EXPECT_EQ(ContentOf(Path()), "Language: 1\r\nA\r\nB\r\n");
 }
+#endif
 
 }  // namespace
 }  // namespace zolv

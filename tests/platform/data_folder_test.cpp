@@ -29,23 +29,24 @@ TEST_F(DataFolder, IsTheUsersBesideWhatIsInstalled) {
     const fs::path installed = Filled("usr/share/zolv");
     const fs::path user = InFolder("home/zolv");
     const fs::path program = InFolder("usr/bin/zolv");
-    EXPECT_EQ(Find(program, user).own, user.string() + "/");
-    EXPECT_EQ(Find(program, user).shared, installed.string() + "/");
-    EXPECT_EQ(Find(program, {}).own, fs::current_path().string() + "/") << "nobody's home";
+    EXPECT_EQ(Find(program, user).own, Native(user / ""));
+    EXPECT_EQ(Find(program, user).shared, Native(installed / ""));
+    EXPECT_EQ(Find(program, {}).own, Native(fs::current_path() / "")) << "nobody's home";
     EXPECT_EQ(Find(InFolder("elsewhere/bin/zolv"), user).shared, "") << "nothing is installed";
 
     const fs::path built = Filled("build/data");
-    EXPECT_EQ(Find(InFolder("build/bin/zolv"), user).shared, built.string() + "/");
+    EXPECT_EQ(Find(InFolder("build/bin/zolv"), user).shared, Native(built / ""));
 }
 
 TEST_F(DataFolder, IsThatOfAnUnpackedProgramOrTheCurrentOneIfItHoldsTheFiles) {
     const fs::path unpacked = Filled("unpacked");
-    EXPECT_EQ(Find(unpacked / "zolv", InFolder("home")).own, unpacked.string() + "/");
+    EXPECT_EQ(Find(unpacked / "zolv", InFolder("home")).own, Native(unpacked / ""));
     EXPECT_EQ(Find(unpacked / "zolv", InFolder("home")).shared, "");
     const fs::path current = Filled(".");
-    EXPECT_EQ(Find(unpacked / "zolv", InFolder("home")).own, fs::current_path().string() + "/");
+    EXPECT_EQ(Find(unpacked / "zolv", InFolder("home")).own, Native(fs::current_path() / ""));
 }
 
+#ifndef _WIN32
 TEST_F(DataFolder, LosesTheLinksOfAnOlderVersionAndNothingElse) {
     const DataFolders folders{.own = InFolder("home/zolv/"), .shared = Filled("share").string() + "/"};
     EXPECT_EQ(PrepareFolder(folders), "");
@@ -63,7 +64,16 @@ TEST_F(DataFolder, LosesTheLinksOfAnOlderVersionAndNothingElse) {
     WriteContent(InFolder("file"), "x");
     EXPECT_NE(PrepareFolder({.own = InFolder("file/zolv/"), .shared = {}}), "");
 }
+#endif
 
+#ifdef _WIN32
+TEST_F(DataFolder, OfAUserIsWhereTheSystemSays) {
+    _wputenv(L"APPDATA=C:\\ü");
+    EXPECT_EQ(UserFolder(), fs::path(L"C:\\ü\\Zolv"));
+    _wputenv(L"APPDATA=relative");
+    EXPECT_TRUE(UserFolder().empty());
+}
+#else
 TEST_F(DataFolder, OfAUserIsWhereTheSystemSays) {
     const std::string home = InFolder("h");
     setenv("HOME", home.c_str(), 1);
@@ -74,6 +84,7 @@ TEST_F(DataFolder, OfAUserIsWhereTheSystemSays) {
     setenv("XDG_DATA_HOME", "/data", 1);
     EXPECT_EQ(UserFolder(), "/data/zolv");
 }
+#endif
 
 TEST_F(DataFolder, WhatIsMissingThereIsTheInstalledFile) {
     fs::create_directory(InFolder("shared"));

@@ -6,7 +6,9 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 
+#include "platform/system_text.h"
 #include "platform/text_files.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
@@ -97,9 +99,10 @@ std::string RecordingDialogs::AskForFile(const FileRequest& request) {
 }
 
 TemporaryFolder::TemporaryFolder() : before_(std::filesystem::current_path()) {
-    std::string name = (std::filesystem::temp_directory_path() / "zolv-test-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) std::abort();
-    path_ = std::filesystem::canonical(name);
+    std::random_device random;
+    path_ = std::filesystem::canonical(std::filesystem::temp_directory_path()) /
+            ("zolv-test-" + std::to_string(random()) + std::to_string(random()));
+    if (!std::filesystem::create_directory(path_)) std::abort();
     std::filesystem::current_path(path_);
 }
 
@@ -196,13 +199,13 @@ void ExpectOnlyNumbers() {
 }
 
 std::string ContentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     EXPECT_TRUE(file.is_open()) << path;
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void WriteContent(const std::string& path, std::string_view content) {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    std::ofstream file(PathOf(path), std::ios::binary | std::ios::trunc);
     file.write(content.data(), static_cast<std::streamsize>(content.size()));
     EXPECT_TRUE(file.good()) << path;
 }
@@ -214,6 +217,7 @@ std::string Replaced(std::string text, const std::string& what, const std::strin
     return text;
 }
 
+#ifndef _WIN32
 FullDisk::FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
     ::getrlimit(RLIMIT_FSIZE, &before_);
     const rlimit limit{bytes, before_.rlim_max};
@@ -224,5 +228,6 @@ FullDisk::~FullDisk() {
     ::setrlimit(RLIMIT_FSIZE, &before_);
     std::signal(SIGXFSZ, handler_);
 }
+#endif
 
 }  // namespace zolv

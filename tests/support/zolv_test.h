@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#ifndef _WIN32
 #include <sys/resource.h>
+#endif
 
 #include <deque>
 #include <filesystem>
@@ -45,6 +47,9 @@ private:
     std::filesystem::path path_;
 };
 
+/// A path as the system itself writes it, with its own separators.
+inline std::string Native(std::filesystem::path path) { return path.make_preferred().string(); }
+
 /// Each test begins with a fresh start. A message that it did not expect, or an answer that no dialog took, fails it.
 class ZolvTest : public testing::Test {
 protected:
@@ -65,7 +70,7 @@ protected:
     const std::vector<FileRequest>& Requests() const { return dialogs_.requests; }
 
     /// A path in the test's folder.
-    std::string InFolder(const std::string& name) const { return (folder_.Path() / name).string(); }
+    std::string InFolder(const std::string& name) const { return Native(folder_.Path() / name); }
 
 private:
     TemporaryFolder folder_;
@@ -109,6 +114,7 @@ void WriteContent(const std::string& path, std::string_view content);
 /// The text with another in place of each `what`.
 std::string Replaced(std::string text, const std::string& what, const std::string& other);
 
+#ifndef _WIN32
 /// While it lives, no file of this process grows beyond that size, as on a disk that fills up.
 class FullDisk {
 public:
@@ -121,6 +127,7 @@ private:
     void (*handler_)(int);
     rlimit before_{};
 };
+#endif
 
 /// The name of a row of a parametrised table.
 inline constexpr auto kRowName = [](const auto& row) { return std::string(row.param.name); };

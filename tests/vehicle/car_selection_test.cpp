@@ -55,6 +55,7 @@ TEST_F(CarSelection, FindsABuiltInCarBeforeAPresetOfItsName) {
 // A car without a file of its own, an empty one, and names that no file has show the unknown car.
 TEST_F(CarSelection, ThePictureIsTheCarsOwnOrTheUnknownOne) {
     std::filesystem::create_directory("sub");
+    std::filesystem::create_directory("a");
     for (const auto& [car, shown] :
          {std::pair("Tumbler", "Tumbler.jpg"), std::pair("My own car", "My own car.jpg"),
           std::pair("Mote R", "unknown.jpg"), std::pair("sub/car", "unknown.jpg"), std::pair("a\\b", "unknown.jpg")}) {

@@ -175,8 +175,14 @@ std::vector<Shot> DocumentShots(const std::string& examples) {
              unit(0, 1);  // km/h
          }},
         {"gearing", Zolv, [] { Zolv.Select_Page.Pick(1); }},
+        {"run", Zolv,
+         [] {
+             Zolv.Ratios.FinalDrive.Enter("3.5");
+             Zolv.Select_Graphs.Pick(1);
+         }},
         {"tyres", Zolv,
          [=] {
+             OpenSettingsFile(examples + "/sable_t_road.zolv");
              Zolv.Select_Page.Pick(2);
              unit(1, 2);  // mm
              unit(2, 1);  // cm^2

@@ -36,7 +36,7 @@ TEST_F(RunColumns, AreExportedAsCsv) {
 
     Answer(InFolder("missing/run.csv"));
     ExportRun("Export");
-    ExpectMessage(testing::HasSubstr("missing/run.csv"));
+    ExpectMessage(testing::HasSubstr(InFolder("missing/run.csv")));
 }
 
 }  // namespace

@@ -14,11 +14,11 @@ namespace {
 std::string Found(std::string_view text, const std::vector<std::string_view>& lines) {
     const auto lineFeeds = static_cast<std::size_t>(std::ranges::count(text, '\n'));
     if (lines.size() == 1 && lineFeeds > 0) return "Its lines end in LF alone; they must end in CR LF.";
-    std::string found = "It has " + std::to_string(lines.size()) + " in place of " + std::to_string(kCaptionLines);
-    if (lineFeeds + 1 > lines.size()) found += ", as some end in LF alone and not in CR LF";
-    if (lines.size() > 1 && lines.back().empty())
-        found += ", the last one empty: behind the last line comes no line end";
-    return found + '.';
+    const std::string found =
+        "It has " + std::to_string(lines.size()) + " in place of " + std::to_string(kCaptionLines);
+    if (lineFeeds + 1 > lines.size()) return found + ", as some end in LF alone and not in CR LF.";
+    if (lines.size() == 1 || !lines.back().empty()) return found + '.';
+    return found + ", the last one empty: behind the last line stands no line end.";
 }
 
 }  // namespace

@@ -45,7 +45,10 @@ TEST_F(Messages, AreSaidInTheWordsInForce) {
         {ParseOptions("").Reason(), "NotOptions(0|31|)"},
         {outOfRange, "OptionOutOfRange(1|9|0|3|)"},
         {ParseLanguageList("").Reason(), "NotLanguageList()"},
-        {ParseLanguage("").Reason(), "LanguageFileCut()"},
+        {ParseLanguage("").Reason(), "LanguageFileCut(LanguageLinesOther(1|339|)|)"},
+        {ParseLanguage("a\nb").Reason(), "LanguageFileCut(LanguageLinesBare()|)"},
+        {ParseLanguage("a\r\n").Reason(), "LanguageFileCut(LanguageLinesEnded(2|339|)|)"},
+        {ParseLanguage("a\nb\r\nc").Reason(), "LanguageFileCut(LanguageLinesMixed(2|339|)|)"},
         {"Quarter mile ET:", "DistanceQuarter()"},
         {"no sentence of the program", "no sentence of the program"},
     };

@@ -155,7 +155,7 @@ TEST_F(LanguageFile, ThatIsNoneIsRefusedAndChangesNothing) {
     }
     for (const auto& [name, found] :
          {std::pair("short", "It has 338 in place of 339."),
-          std::pair("long", "It has 340 in place of 339, the last one empty: behind the last line comes no line end."),
+          std::pair("long", "It has 340 in place of 339, the last one empty: behind the last line stands no line end."),
           std::pair("line feeds", "Its lines end in LF alone; they must end in CR LF."),
           std::pair("one line feed", "It has 338 in place of 339, as some end in LF alone and not in CR LF.")}) {
         Load(name);

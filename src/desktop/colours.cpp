@@ -22,9 +22,9 @@ QColor Blend(const QColor& over, const QColor& under, double share) {
 }
 
 QColor GearTint(int gear, double share, const QPalette& palette) {
-    const Rgb colour = GearColour(gear, IsDark(palette));
+    const Rgb colour = GearColour(gear);
     QColor tint(colour.red, colour.green, colour.blue);
-    tint.setAlphaF(static_cast<float>(share));
+    tint.setAlphaF(static_cast<float>(IsDark(palette) ? 2 * share : share));
     return tint;
 }
 

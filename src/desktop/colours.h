@@ -16,8 +16,10 @@ bool IsDark(const QPalette& palette);
 /// on a dark ground and dark enough on a light one.
 QColor TextColour(std::optional<Rgb> colour, const QPalette& palette);
 
-/// The colour of a gear as a tint of a ground, 0 for none of it to 1 for all of it.
-/// @param gear  1 to 6
+/// The colour of a gear as a tint of the ground: `share` of it on a light one, more on a dark one, where it is seen
+/// less.
+/// @param gear   1 to 6
+/// @param share  above 0, at most 0.5
 QColor GearTint(int gear, double share, const QPalette& palette);
 
 /// What stands for a fault that the user is to mend: the frame of a box, the ground of a line of words.

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/canvas_painting.h"
 #include "desktop/canvas_view.h"
 #include "desktop/fault_mark.h"
 #include "desktop/order_fault.h"
@@ -24,6 +25,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
+#include "drawing/palette.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
 #include "gearing/mark_reasons.h"
@@ -79,18 +81,24 @@ QSlider* MakeSlider(Binding& binding, Slider& field, const Field& caption, QWidg
     return slider;
 }
 
-/// The colour of a gear, as a small square.
+/// The colour of a gear, as a small square; on a dark ground with a rim as white as the plots.
 class GearChip : public QWidget {
 public:
-    GearChip(int gear, QWidget* parent) : QWidget(parent), gear_(gear) { setFixedSize(10, 10); }
+    GearChip(int gear, QWidget* parent) : QWidget(parent), gear_(gear) { setFixedSize(11, 11); }
 
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(GearTint(gear_, 1, palette()));
-        painter.drawRoundedRect(rect(), 2.5, 2.5);
+        QRectF chip(rect());
+        if (IsDark(palette())) {
+            painter.setBrush(Qt::white);
+            painter.drawRoundedRect(chip, 2.5, 2.5);
+            chip.adjust(1.25, 1.25, -1.25, -1.25);
+        }
+        painter.setBrush(ToQt(GearColour(gear_)));
+        painter.drawRoundedRect(chip, 2, 2);
     }
 
 private:

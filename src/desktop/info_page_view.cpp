@@ -12,12 +12,26 @@
 #include "desktop/canvas_view.h"
 #include "desktop/page_parts.h"
 #include "desktop/picture_view.h"
+#include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
 #include "fields/windows.h"
+#include "text/texts.h"
 
 namespace zolv {
 namespace {
+
+/// "86 kW @ 7033 rpm" with the unit of revs as the plots have it.
+void SayRevs(Binding& binding, const Label& field, const QWidget& box) {
+    auto* const figure = box.findChild<QLabel*>(ToQt(field.Name()));
+    binding.OnChanged(field, [&field, figure] {
+        QString text = ToQt(field.Caption());
+        const QString rpm = QStringLiteral(" rpm");
+        if (text.endsWith(rpm)) text.replace(text.size() - rpm.size(), rpm.size(), ToQt(texts.RpmSuffix));
+        figure->setText(text);
+        figure->setAccessibleName(text);
+    });
+}
 
 /// Figures that are as wide as the car makes them; the commonest units have room without moving the page.
 const WidestOf kPeak{QStringLiteral("888 kW @ 8888 rpm")};
@@ -45,6 +59,7 @@ QWidget* MakeEngine(Binding& binding, QWidget* parent) {
                    {words[7], Zolv.Info_DT},
                    {words[8], Zolv.Info_Gears},
                    {words[9], Zolv.Info_Efficiency}});
+    for (const Label* field : {&Zolv.Info_Power, &Zolv.Info_Torque}) SayRevs(binding, *field, *box);
     return box;
 }
 

@@ -67,7 +67,8 @@ bool OrderFaultLine::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QSize OrderFaultLine::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(text()) + 2 * kMargin, fontMetrics().height() + kGap};
+    constexpr int kRounding = 2;  // without it words are elided that just fit
+    return {fontMetrics().horizontalAdvance(text()) + 2 * kMargin + kRounding, fontMetrics().height() + kGap};
 }
 
 void OrderFaultLine::paintEvent(QPaintEvent*) {

@@ -106,12 +106,14 @@ QLineEdit* SecondaryWindow::MakeNumberBox(TextBox& field, QWidget* owner, const 
 }
 
 void SecondaryWindow::PlaceOnScreen() {
+    // A page that is not in front would only learn how large it is when it comes there, and the window jump.
+    for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
+    for (QLayout* layout : findChildren<QLayout*>()) layout->invalidate();
     if (!place_.isEmpty()) {
         restoreGeometry(place_);
+        resize(size().expandedTo(minimumSizeHint()));  // another language may need more
         return;
     }
-    // A page that has not been shown yet would only now learn how large it is, and the window jump.
-    for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
     const QRect room = screen()->availableGeometry();
     resize(sizeHint().boundedTo(room.size()));
     move(room.center() - rect().center());

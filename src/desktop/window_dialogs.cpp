@@ -53,13 +53,23 @@ QString FileNameOf(QString name) {
     return name.replace(reserved, QStringLiteral("_"));
 }
 
-/// The shipped set-ups stand at the side, among the places of the system.
+/// The shipped set-ups stand at the side, among the places of the system. A dialog brings back the places of the one
+/// before it, examples of another folder among them.
 void OfferExamples(QFileDialog& dialog) {
-    const QString examples = Beside("examples");
+    constexpr const char* kExamples = "examples";
+    constexpr int kPlacesWidth = 130;
+    constexpr QSize kRoomy(780, 480);
+    const QString examples = Beside(kExamples);
     if (!QFileInfo(examples).isDir()) return;
     dialog.setOption(QFileDialog::DontUseNativeDialog);  // which has no place for them
-    dialog.setSidebarUrls(dialog.sidebarUrls() << QUrl::fromLocalFile(Documents())
-                                               << QUrl::fromLocalFile(QFileInfo(examples).absoluteFilePath()));
+    QList<QUrl> places = dialog.sidebarUrls();
+    places.removeIf([](const QUrl& place) { return place.fileName() == QLatin1String(kExamples); });
+    for (const QString& place : {Documents(), QFileInfo(examples).absoluteFilePath()}) {
+        if (!places.contains(QUrl::fromLocalFile(place))) places << QUrl::fromLocalFile(place);
+    }
+    dialog.setSidebarUrls(places);
+    if (auto* const side = dialog.findChild<QWidget*>(QStringLiteral("sidebar"))) side->setMinimumWidth(kPlacesWidth);
+    dialog.resize(dialog.size().expandedTo(kRoomy));
 }
 
 }  // namespace

@@ -7,22 +7,14 @@
 namespace zolv {
 namespace {
 
-using SixColours = std::array<Rgb, 6>;
-
 // Blue, rose, green, lilac, olive, maroon: found by a search for six colours whose smallest difference (CIEDE2000) is
 // as large as can be for normal, protanopic, deuteranopic and tritanopic eyes, within the contrast that words need.
-constexpr SixColours kGearsOnLight{{{0x11, 0x11, 0xbb},
-                                    {0x99, 0x55, 0x77},
-                                    {0x22, 0x66, 0x44},
-                                    {0x66, 0x66, 0xdd},
-                                    {0x66, 0x77, 0x11},
-                                    {0x66, 0x00, 0x00}}};
-constexpr SixColours kGearsOnDark{{{0x99, 0x88, 0xff},
-                                   {0xdd, 0x77, 0xaa},
-                                   {0xaa, 0xee, 0xaa},
-                                   {0xee, 0xbb, 0xff},
-                                   {0x55, 0xbb, 0x00},
-                                   {0xbb, 0x99, 0x88}}};
+constexpr std::array<Rgb, 6> kGears{{{0x11, 0x11, 0xbb},
+                                     {0x99, 0x55, 0x77},
+                                     {0x22, 0x66, 0x44},
+                                     {0x66, 0x66, 0xdd},
+                                     {0x66, 0x77, 0x11},
+                                     {0x66, 0x00, 0x00}}};
 
 constexpr Rgb kSoftRed{200, 30, 30};
 constexpr Rgb kSoftGreen{0, 130, 52};
@@ -61,9 +53,7 @@ Rgb ColourOf(Role role) {
 
 }  // namespace
 
-Rgb GearColour(int gear, bool dark) {
-    return (dark ? kGearsOnDark : kGearsOnLight)[static_cast<std::size_t>(std::clamp(gear, 1, 6) - 1)];
-}
+Rgb GearColour(int gear) { return kGears[static_cast<std::size_t>(std::clamp(gear, 1, 6) - 1)]; }
 
 Rgb ColourOf(Meaning meaning) {
     if (meaning.standing == Standing::Doubtful) return kSoftRed;

@@ -7,12 +7,11 @@
 /// and black for every gear.
 namespace zolv {
 
-/// The colour of a gear wherever it is shown: its curves, its row, its lines of the run's table. The six can be told
-/// apart with any colour blindness, and each has a contrast of 4.5 : 1 at least to its ground, so that it can be the
-/// colour of words.
+/// The colour of a gear wherever it is shown, and in both themes: its curves, its row, its lines of the run's table.
+/// The six can be told apart with any colour blindness, and each has a contrast of 4.5 : 1 at least to white, so that
+/// it can be the colour of words on a canvas.
 /// @param gear  1 to 6; another number is taken for the nearest of them
-/// @param dark  whether it stands on the ground of the dark theme; canvases are white in both
-[[nodiscard]] Rgb GearColour(int gear, bool dark = false);
+[[nodiscard]] Rgb GearColour(int gear);
 
 /// The colour of a mark, a curve or an area on a canvas, which is white in every theme. Contrast as with the gears.
 [[nodiscard]] Rgb ColourOf(Meaning meaning);

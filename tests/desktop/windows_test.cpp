@@ -373,6 +373,7 @@ class ShippedLanguages : public DesktopTest {
 
 private Q_SLOTS:
     void PagesHaveRoomForThem();
+    void OptionsKeepTheirSize();
 };
 
 /// A car with wings has the most rows; its plots get more than half of a window of 1280.
@@ -395,6 +396,26 @@ void ShippedLanguages::PagesHaveRoomForThem() {
             QVERIFY2(size.width() < 1280 || 2 * plots > size.width(), language.c_str());
             QCOMPARE(Find<QWidget>("RunStrip").isVisible(), size.width() == 1280);
         }
+    }
+}
+
+/// Also in the longer words of a language that came while the window was hidden.
+void ShippedLanguages::OptionsKeepTheirSize() {
+    QWidget& options = WindowNamed("OptionsPanel");
+    for (const std::string& language : LanguageSelection.LanguageList.Rows()) {
+        Windows().TheBinding().Act([&] {
+            LanguageSelection.LanguageList.SetText(language);
+            OptionsPanel.Select_Options.Pick(0);
+            OptionsPanel.SetVisible(true);
+        });
+        Settle();
+        const QSize first = options.size();
+        for (const int page : {1, 2, 0}) {
+            ClickTab("Select_Options", page, "OptionsPanel");
+            Settle();
+            QVERIFY2(options.size() == first, language.c_str());
+        }
+        Windows().TheBinding().Act([] { OptionsPanel.SetVisible(false); });
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QRegularExpression>
+#include <QTimer>
 #include <functional>
 #include <iostream>
 
@@ -16,6 +17,7 @@
 #include "desktop/main_window.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
+#include "desktop/window_dialogs.h"
 #include "fields/windows.h"
 #include "files/settings_file.h"
 #include "platform/dialogs.h"
@@ -89,8 +91,10 @@ std::vector<Shot> PageShots() {
              Zolv.Select_Car.SetText("Pell S");
              Zolv.Ratios.Input[2].Enter("4");
          }},
+        {"info-wrong-order", Zolv, page(0)},
         {"gearing-time", Zolv,
-         [] {
+         [=] {
+             Zolv.Select_Page.Pick(1);
              Zolv.Ratios.Input[2].Enter("2.4");
              Zolv.Select_Graphs.Pick(1);
          }},
@@ -207,23 +211,51 @@ class Camera {
 public:
     Camera(Desktop& desktop, QString folder) : desktop_(desktop), folder_(std::move(folder)) {}
 
+    /// Takes the dialog that `work` opens, and closes it.
+    bool TakeDialog(const char* name, const std::function<void()>& work) {
+        constexpr int kOpening_ms = 300;
+        bool taken = false;
+        QTimer::singleShot(kOpening_ms, [&] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            taken = dialog != nullptr && Save(*dialog, QLatin1String(name));
+            if (dialog != nullptr) dialog->close();
+        });
+        work();
+        return taken;
+    }
+
     bool Take(const std::vector<Shot>& shots, const QString& suffix = {}) {
         for (const Shot& shot : shots) {
             desktop_.TheBinding().Act(shot.before);
             QApplication::processEvents();
             QApplication::processEvents();
-            const QString path = folder_ + u'/' + QLatin1String(shot.name) + suffix + QStringLiteral(".png");
-            if (WidgetOf(shot.window)->grab().save(path)) continue;
-            std::cerr << "zolv-screenshots: cannot write " << FromQt(path) << '\n';
-            return false;
+            if (!Save(*WidgetOf(shot.window), QLatin1String(shot.name) + suffix)) return false;
         }
         return true;
     }
 
 private:
+    bool Save(QWidget& widget, const QString& name) {
+        const QString path = folder_ + u'/' + name + QStringLiteral(".png");
+        if (widget.grab().save(path)) return true;
+        std::cerr << "zolv-screenshots: cannot write " << FromQt(path) << '\n';
+        return false;
+    }
+
     Desktop& desktop_;
     QString folder_;
 };
+
+/// What the system's own dialogs and messages look like in the language in force.
+bool TakeDialogs(Camera& camera) {
+    WindowDialogs dialogs;
+    UseDialogs(&dialogs);
+    const bool taken = camera.TakeDialog("dialog-open", [] { Zolv.FileOpen.Click(); }) &&
+                       camera.TakeDialog("dialog-save", [] { Zolv.FileSaveAs.Click(); }) &&
+                       camera.TakeDialog("dialog-message", [] { OpenSettingsFile("languages.lst"); });
+    UseDialogs(nullptr);
+    return taken;
+}
 
 /// The argument that is a size, as 1024x600; none is an empty one.
 QSize SizeAmong(const QStringList& arguments) {
@@ -254,7 +286,7 @@ int TakeAll(const QStringList& arguments) {
         desktop.Main().resize(size);
         return camera.Take(PageShots()) ? 0 : 1;
     }
-    if (!camera.Take(PageShots()) || !camera.Take(WindowShots())) return 1;
+    if (!camera.Take(PageShots()) || !camera.Take(WindowShots()) || !TakeDialogs(camera)) return 1;
 
     desktop.TheBinding().Act([] { Zolv.Select_Car.SetText("Pell S"); });
     desktop.Main().resize(1, 1);  // as small as it gets

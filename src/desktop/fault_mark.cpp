@@ -23,7 +23,10 @@ QLabel* MakeFaultSentence(QWidget* parent) {
     return sentence;
 }
 
-int HeightOfFaultSentence(const QLabel& sentence) { return 2 * sentence.fontMetrics().lineSpacing(); }
+int HeightOfFaultSentence(const QLabel& sentence, const QString& sample) {
+    constexpr QRect kAnyRoom(0, 0, 10000, 1000);
+    return sentence.fontMetrics().boundingRect(kAnyRoom, Qt::AlignLeft, sample + u'\n' + sample).height();
+}
 
 void MarkFault(QWidget& control, const QString& sentence) {
     const bool faulty = !sentence.isEmpty();

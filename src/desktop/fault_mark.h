@@ -10,8 +10,8 @@ namespace zolv {
 /// A place for the sentence, two lines high, hidden until there is one. It asks its layout for no width.
 QLabel* MakeFaultSentence(QWidget* parent);
 
-/// The height that a sentence takes.
-int HeightOfFaultSentence(const QLabel& sentence);
+/// The height that a sentence takes, by the letters of `sample`.
+int HeightOfFaultSentence(const QLabel& sentence, const QString& sample);
 
 /// Frames a control for as long as `sentence`, which a screen reader says with it, is not empty.
 void MarkFault(QWidget& control, const QString& sentence);

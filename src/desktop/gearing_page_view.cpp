@@ -276,7 +276,8 @@ void GearingPageView::AddSentence(QGridLayout& grid, int row, const Label& name,
     QLabel* const sentence = MakeFaultSentence(grid.parentWidget());
     sentence->setObjectName(QStringLiteral("OrderSentence"));
     sentence->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    binding_.OnChanged(name, [&grid, &name, row, height = HeightOfFaultSentence(*sentence)] {
+    binding_.OnChanged(name, [&grid, &name, row, sentence] {
+        const int height = HeightOfFaultSentence(*sentence, ToQt(name.Caption()));
         grid.setRowMinimumHeight(row, name.Visible() ? height : 0);
     });
     grid.addWidget(sentence, row, kResult, 1, kTorque - kResult + 1);

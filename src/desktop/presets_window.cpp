@@ -259,8 +259,11 @@ void PresetsWindow::FinishPanel(QGridLayout& grid, Button& first, Button& second
     QWidget* const group = grid.parentWidget();
     const int lineHeight = QComboBox().sizeHint().height();  // whatever stands in the line, so that the panels align
     const int lines = NextRow(grid);
-    const int height = std::max(lineHeight, HeightOfFaultSentence(*faults_[kAdd].sentences.begin()->second));
-    for (int line = 0; line < lines; ++line) grid.setRowMinimumHeight(line, height);
+    Fields().OnChanged(
+        CustomPresets.CUPLabel[0], [&grid, lines, lineHeight, sentence = faults_[kAdd].sentences.begin()->second] {
+            const int height = HeightOfFaultSentence(*sentence, ToQt(CustomPresets.CUPLabel[0].Caption()));
+            for (int line = 0; line < lines; ++line) grid.setRowMinimumHeight(line, std::max(lineHeight, height));
+        });
     grid.setVerticalSpacing(2);
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(0, kGap, 0, 0);

@@ -202,7 +202,11 @@ std::vector<Shot> DocumentShots(const std::string& examples) {
         {"presets", CustomPresets,
          [] {
              CustomPresets.SetVisible(true);
+             CustomPresets.NewName.Enter("Ondo T Rally");
              CustomPresets.NewCar.SetText("Ondo T");
+             CustomPresets.New.Power.Enter("130");
+             CustomPresets.New.Torque.Enter("210");
+             CustomPresets.AddCar.Click();
          }},
     };
 }

@@ -8,17 +8,13 @@
 #include "gearing/gearing_state.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
+#include "text/caption_name.h"
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "units/unit_state.h"
 
 namespace zolv {
 namespace {
-
-/// A caption as the title of a column: "Rear Wheels:" is "Rear Wheels".
-std::string TitleOf(const std::string& caption) {
-    return caption.ends_with(':') ? caption.substr(0, caption.size() - 1) : caption;
-}
 
 std::string UnitOf(std::string_view suffix) {
     const std::size_t first = suffix.find_first_not_of(' ');
@@ -70,8 +66,8 @@ std::vector<RunColumn> RunColumns() {
             {texts.TextColResistance, force},
             {texts.TextColNetForce, force},
             {texts.TextColAcceleration, UnitOf(units.Acc.Suffix)},
-            {TitleOf(Zolv.AeroLabel[20].Caption()), force},
-            {TitleOf(Zolv.AeroLabel[21].Caption()), force}};
+            {CaptionName(Zolv.AeroLabel[20].Caption()), force},
+            {CaptionName(Zolv.AeroLabel[21].Caption()), force}};
 }
 
 int RowsOfRun() { return gearing.AccelLastRow + 1; }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/shift_points.h"
+#include "text/caption_name.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
@@ -33,9 +34,6 @@ void DrawGrid(Canvas& plot, const PlotFrame& frame, const AxisReading& x, const 
 
 std::size_t TopGear() { return static_cast<std::size_t>(std::clamp<int>(vehicle.CurrentCar.NumGears, 0, kGears)); }
 
-std::string CurveName(const Label& label) {
-    const std::string& caption = label.Caption();
-    return caption.ends_with(':') ? caption.substr(0, caption.size() - 1) : caption;
-}
+std::string CurveName(const Label& label) { return CaptionName(label.Caption()); }
 
 }  // namespace zolv

@@ -373,7 +373,7 @@ class ShippedLanguages : public DesktopTest {
 
 private Q_SLOTS:
     void PagesHaveRoomForThem();
-    void OptionsKeepTheirSize();
+    void OtherWindowsHaveRoomForThem();
 };
 
 /// A car with wings has the most rows; its plots get more than half of a window of 1280.
@@ -399,8 +399,8 @@ void ShippedLanguages::PagesHaveRoomForThem() {
     }
 }
 
-/// Also in the longer words of a language that came while the window was hidden.
-void ShippedLanguages::OptionsKeepTheirSize() {
+/// The options keep their size, also in the longer words of a language that came while the window was hidden.
+void ShippedLanguages::OtherWindowsHaveRoomForThem() {
     QWidget& options = WindowNamed("OptionsPanel");
     for (const std::string& language : LanguageSelection.LanguageList.Rows()) {
         Windows().TheBinding().Act([&] {
@@ -414,7 +414,10 @@ void ShippedLanguages::OptionsKeepTheirSize() {
             ClickTab("Select_Options", page, "OptionsPanel");
             Settle();
             QVERIFY2(options.size() == first, language.c_str());
+            ExpectNone(CutOff(options));
         }
+        OpenAll(Windows());
+        for (const char* name : kSecondary) ExpectNone(CutOff(WindowNamed(name)));
         Windows().TheBinding().Act([] { OptionsPanel.SetVisible(false); });
     }
 }

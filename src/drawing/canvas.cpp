@@ -1,5 +1,6 @@
 #include "drawing/canvas.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zolv {
@@ -14,11 +15,17 @@ std::string TitleWithUnit(const PlotAxis& axis) {
     return axis.title + " [" + axis.unit + ']';
 }
 
+int ColourScale::ShadeOf(double value) const {
+    if (!(to > from)) return kShades / 2;
+    return std::clamp(static_cast<int>((value - from) / (to - from) * kShades), 0, kShades - 1);
+}
+
 void Canvas::Clear() {
     operations_.clear();
     texts_.clear();
     axes_.present = false;
     names_.clear();
+    scale_.reset();
 }
 
 void Canvas::FillRectangle(Meaning meaning, double x1, double y1, double x2, double y2, Rgb colour) {

@@ -3,8 +3,10 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "drawing/colour.h"
@@ -59,6 +61,22 @@ void WalkGrid(double step, double scale, double end, int limit, DrawLine draw) {
     }
 }
 
+/// What the colours of a map's cells stand for: a bar of them, with numbers, stands beside the plot. All values are in
+/// the units that the user reads.
+struct ColourScale {
+    std::string title = {}, unit = {};
+    double from = 0, to = 0;  // of the darkest and of the lightest shade
+    double step = 0;          // from number to number; 0 where all values are one
+
+    // The values at the crossings of the map's columns and rows, to be read under the mouse: xs.size() a row, a row for
+    // each of ys
+    std::vector<double> xs = {}, ys = {}, values = {};
+
+    /// 0 to kShades - 1.
+    [[nodiscard]] int ShadeOf(double value) const;
+};
+inline constexpr int kShades = 64;
+
 /// What a curve or a mark of a drawing is called, or how much a measure of its area is.
 struct PartName {
     std::string name;
@@ -106,6 +124,10 @@ public:
     const Axes& PresentAxes() const { return axes_; }
     void SetAxes(PlotAxis x, PlotAxis y);  // axes with a scale of zero or none are not kept
 
+    /// What the cells of the present drawing stand for; cleared with it. None for a drawing that is no map.
+    const std::optional<ColourScale>& Scale() const { return scale_; }
+    void SetScale(ColourScale scale) { scale_ = std::move(scale); }
+
     /// The names of the curves and marks of the present drawing, in drawing order; cleared with it.
     const std::vector<PartName>& Names() const { return names_; }
     void AddName(Meaning meaning, std::string name, std::string unit = {});
@@ -124,6 +146,7 @@ private:
     std::vector<DrawingOperation> operations_;
     std::vector<std::string> texts_;
     Axes axes_;
+    std::optional<ColourScale> scale_;
     std::vector<PartName> names_;
 };
 

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <optional>
 
+#include "text/number_text.h"
+
 namespace zolv {
 namespace {
 
@@ -34,6 +36,22 @@ std::vector<CurveReading> ReadingsAt(const Canvas& canvas, double canvasX, doubl
         readings.push_back({names[i].name, ReadingAt(axis, *heights[i], viewScaleY), names[i].meaning});
     }
     return readings;
+}
+
+std::string MapReadingAt(const Canvas& canvas, double canvasX, double canvasY) {
+    if (!canvas.Scale() || canvas.Scale()->values.empty()) return {};
+    const ColourScale& scale = *canvas.Scale();
+    const auto nearest = [](const std::vector<double>& values, const PlotAxis& axis, double coordinate) {
+        const double value = (coordinate - axis.origin) / axis.scale;
+        const auto found = std::ranges::min_element(values, {}, [&](double one) { return std::fabs(one - value); });
+        return static_cast<std::size_t>(found - values.begin());
+    };
+    const std::size_t column = nearest(scale.xs, canvas.PresentAxes().x, canvasX);
+    const std::size_t line = nearest(scale.ys, canvas.PresentAxes().y, canvasY);
+    const double value = scale.values[line * scale.xs.size() + column];
+    constexpr int kDecimals = 3;
+    return std::isfinite(value) ? WithUnit(value, kDecimals, scale.unit.empty() ? "" : ' ' + scale.unit)
+                                : std::string();
 }
 
 bool ShareX(const Canvas& one, const Canvas& other) {

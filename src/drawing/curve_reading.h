@@ -20,6 +20,10 @@ struct CurveReading {
 /// @param viewScaleY  view units for one canvas unit
 [[nodiscard]] std::vector<CurveReading> ReadingsAt(const Canvas& canvas, double canvasX, double viewScaleY);
 
+/// The value of a map at the crossing of its columns and rows that is nearest to a point, with its unit; empty where
+/// there is none, and for a drawing that is no map.
+[[nodiscard]] std::string MapReadingAt(const Canvas& canvas, double canvasX, double canvasY);
+
 /// Whether two drawings can share a crosshair: they have the same quantity in the same unit along x.
 [[nodiscard]] bool ShareX(const Canvas& one, const Canvas& other);
 

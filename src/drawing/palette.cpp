@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "drawing/canvas.h"
+
 namespace zolv {
 namespace {
 
@@ -43,7 +45,9 @@ Rgb ColourOf(Role role) {
         case Role::Limiter:
         case Role::Resistance:
         case Role::Drag: return kSoftRed;
-        case Role::FrontLoad: return kSoftMagenta;
+        case Role::FrontLoad:
+        case Role::BestValue:
+        case Role::BestPoint: return kSoftMagenta;
         case Role::RearLoad: return kSoftCyan;
         case Role::Area: return kRubber;
         case Role::Grid: return kGridInk;
@@ -63,6 +67,23 @@ Rgb ColourOf(Meaning meaning) {
     }
     return ColourOf(meaning.role);
 }
+
+Rgb ShadeColour(int shade) {
+    // From a dark blue by a green to a light yellow
+    constexpr std::array<Rgb, 5> kStops{
+        {{0x30, 0x2c, 0x6e}, {0x2b, 0x62, 0x8c}, {0x2e, 0x93, 0x86}, {0x86, 0xc2, 0x5c}, {0xf7, 0xe5, 0x5b}}};
+    const double place = std::clamp(shade, 0, kShades - 1) * (kStops.size() - 1.0) / (kShades - 1);
+    const auto stop = std::min(static_cast<std::size_t>(place), kStops.size() - 2);
+    const double share = place - static_cast<double>(stop);
+    const auto mix = [share](std::uint8_t from, std::uint8_t to) {
+        return static_cast<std::uint8_t>(std::lround(from + share * (to - from)));
+    };
+    const Rgb& from = kStops[stop];
+    const Rgb& to = kStops[stop + 1];
+    return {mix(from.red, to.red), mix(from.green, to.green), mix(from.blue, to.blue)};
+}
+
+Rgb ContourInk(int shade) { return shade < kShades / 2 ? Rgb{255, 255, 255} : Rgb{40, 45, 52}; }
 
 Rgb Softened(Rgb colour) {
     if (colour == kRed) return kSoftRed;

@@ -16,6 +16,11 @@ namespace zolv {
 /// The colour of a mark, a curve or an area on a canvas, which is white in every theme. Contrast as with the gears.
 [[nodiscard]] Rgb ColourOf(Meaning meaning);
 
+/// The colour of a shade of a map, 0 to kShades - 1: its lightness rises evenly, so that it reads in grey and with any
+/// colour blindness; and the ink of a contour line on it.
+[[nodiscard]] Rgb ShadeColour(int shade);
+[[nodiscard]] Rgb ContourInk(int shade);
+
 /// A pure colour, as old drawings record, made dark enough for thin lines and words on white. Others stay.
 [[nodiscard]] Rgb Softened(Rgb colour);
 

@@ -1,6 +1,7 @@
 #include "drawing/plot_labels.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "drawing/curve_names.h"
@@ -49,6 +50,45 @@ public:
         titleOfY_ = {0, ground_.top - kFrame - 1.5 * measure_.height, measure_.width(ofY), measure_.height};
         titleOfY_.left = std::max(1.0, ground_.left - kBesideNumbers - titleOfY_.width);
         AddAround(ofY, titleOfY_, Anchor::Left);
+    }
+
+    /// The numbers and the title of a map's bar.
+    void Scale(const Canvas& canvas) {
+        if (!canvas.Scale()) return;
+        const ColourScale& scale = *canvas.Scale();
+        const Box& bar = place_.scale;
+        const double left = bar.Right() + kBesideNumbers;
+        double right = left;
+        for (const double number : NumbersOfScale(scale)) {
+            const double share = scale.to > scale.from ? (number - scale.from) / (scale.to - scale.from) : 0.5;
+            const std::string text = ScaleText(scale, number);
+            const double width = measure_.width(text);
+            right = std::max(right, left + width);
+            AddAround(text, {left, bar.Bottom() - share * bar.height - measure_.height / 2, width, measure_.height},
+                      Anchor::Left);
+        }
+        const std::string title = scale.unit.empty() ? scale.title : scale.title + " [" + scale.unit + ']';
+        const double width = measure_.width(title);
+        AddAround(title, {right - width, titleOfY_.top, width, measure_.height}, Anchor::Right);
+    }
+
+    /// The names of a map's points, beside them.
+    void Points(const Canvas& canvas) {
+        const CanvasMapping mapping = place_.Mapping();
+        for (const PartName& name : canvas.Names()) {
+            if (name.meaning.role != Role::PresentPoint && name.meaning.role != Role::BestPoint) continue;
+            const auto point = std::ranges::find(canvas.Operations(), name.meaning, &DrawingOperation::meaning);
+            if (point == canvas.Operations().end()) continue;
+            const double aside = std::fabs(point->x2 * mapping.scaleX) + kPadding / 2;
+            const double x = mapping.X(point->x1);
+            Box box{x + aside, mapping.Y(point->y1) - measure_.height / 2, measure_.width(name.name), measure_.height};
+            if (box.Right() > ground_.Right()) box.left = x - aside - box.width;
+            box.top = std::clamp(box.top, ground_.top, std::max(ground_.top, ground_.Bottom() - box.height));
+            for (const PlacedWords& words : labels_.words) {  // two points may be one
+                if (words.onPlot && words.box.Meets(box)) box.top = words.box.Bottom();
+            }
+            labels_.words.push_back({name.name, box, Anchor::Left, true, true});
+        }
     }
 
     /// The measures of an area, inside it along two of its edges, or beside it where it is too small.
@@ -154,7 +194,9 @@ PlotLabels LabelsOf(const Canvas& canvas, const PlotPlace& place, const TextMeas
     Labeller labeller(canvas, place, measure);
     labeller.Numbers();
     labeller.Titles();
+    labeller.Scale(canvas);
     labeller.Measures(canvas);
+    labeller.Points(canvas);
     labeller.Names(PlaceNames(canvas, place, measure));
     return labeller.Labels();
 }

@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "text/number_text.h"
+
 namespace zolv {
 namespace {
 
 constexpr double kFreeSide = 10;  // right of a plot, for half of a last number
+constexpr double kBarWidth = 16;
+constexpr double kBarGap = 14;  // between the plot and the bar
 
 struct Margins {
     double left = 0, top = 0, right = 0, bottom = 0;
@@ -42,11 +46,22 @@ void UseOneGrid(PlotPlace& place, const Canvas::Axes& axes, const TextMeasure& m
     place.yNumbers = NumbersOfY(place, inSteps(axes.y), measure);
 }
 
-Margins MarginsFor(const AxisNumbers& yNumbers, const TextMeasure& measure) {
+/// Right of a map, for the bar and its numbers.
+double RoomForScale(const Canvas& canvas, const TextMeasure& measure) {
+    if (!canvas.Scale()) return 0;
+    double widest = measure.width("0000");
+    for (const double number : NumbersOfScale(*canvas.Scale())) {
+        widest = std::max(widest, measure.width(ScaleText(*canvas.Scale(), number)));
+    }
+    return kBarGap + kBarWidth + kTick + kNumberGap + kFrame + widest;
+}
+
+Margins MarginsFor(const Canvas& canvas, const AxisNumbers& yNumbers, const TextMeasure& measure) {
     double widest = measure.width("00000");
     for (const AxisNumber& number : yNumbers.numbers) widest = std::max(widest, measure.width(number.text));
     const double beside = kTick + kNumberGap + kFrame;
-    return {widest + beside + 1, measure.height * 1.5 + kFrame, kFreeSide, 2 * measure.height + beside};
+    return {widest + beside + 1, measure.height * 1.5 + kFrame, std::max(kFreeSide, RoomForScale(canvas, measure)),
+            2 * measure.height + beside};
 }
 
 /// The largest rectangle of the part's proportions in the middle of `room`.
@@ -65,6 +80,22 @@ Box Within(const ViewSize& size, const Margins& margins) {
 
 }  // namespace
 
+std::vector<double> NumbersOfScale(const ColourScale& scale) {
+    if (!(scale.step > 0)) return {scale.from};
+    constexpr double kRounding = 1e-9;
+    std::vector<double> numbers;
+    for (double k = std::ceil(scale.from / scale.step - kRounding); k * scale.step <= scale.to + kRounding; ++k) {
+        numbers.push_back(k * scale.step);
+    }
+    return numbers;
+}
+
+std::string ScaleText(const ColourScale& scale, double value) {
+    const int decimals =
+        scale.step > 0 ? std::clamp(-static_cast<int>(std::floor(std::log10(scale.step) + 1e-9)), 0, 9) : 3;
+    return RoundedText(value, decimals);
+}
+
 CanvasShape ShapeOf(const Canvas& canvas) {
     const Canvas::Axes& axes = canvas.PresentAxes();
     const bool oneScale = std::fabs(axes.x.scale) == std::fabs(axes.y.scale);
@@ -80,14 +111,17 @@ PlotPlace PlaceOf(const Canvas& canvas, CanvasShape shape, ViewSize size, const 
         return place;
     }
     // The numbers of y need the height of the ground only, and their width gives its left side.
-    place.ground = Within(size, MarginsFor({}, measure));
+    place.ground = Within(size, MarginsFor(canvas, {}, measure));
     if (axes.present) place.yNumbers = NumbersOfY(place, axes.y, measure);
-    place.ground = Within(size, MarginsFor(place.yNumbers, measure));
+    place.ground = Within(size, MarginsFor(canvas, place.yNumbers, measure));
     if (proportional) place.ground = KeepProportions(place.part, place.ground);
     if (!axes.present) return place;
     place.xNumbers = NumbersOfX(place, axes.x, measure);
     place.yNumbers = NumbersOfY(place, axes.y, measure);
     if (axes.x.roundGrid && axes.y.roundGrid) UseOneGrid(place, axes, measure);
+    if (canvas.Scale()) {
+        place.scale = {place.ground.Right() + kFrame + kBarGap, place.ground.top, kBarWidth, place.ground.height};
+    }
     return place;
 }
 

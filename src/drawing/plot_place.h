@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "drawing/plot_axes.h"
 
@@ -46,11 +48,16 @@ struct PlotPlace {
     Box ground{};     // its white ground, in the view
     bool hasAxes = false;
     AxisNumbers xNumbers{}, yNumbers{};
+    Box scale{};  // the bar of a map's colours, in the view, the lightest on top; without width where there is none
 
     [[nodiscard]] CanvasMapping Mapping() const {
         return MapOnto(part, ground.left, ground.top, ground.width, ground.height);
     }
 };
+
+/// The numbers along the bar of a map's colours.
+[[nodiscard]] std::vector<double> NumbersOfScale(const ColourScale& scale);
+[[nodiscard]] std::string ScaleText(const ColourScale& scale, double value);  // with the digits that tell them apart
 
 /// The shape in which a drawing is shown where no view says so: with axes that have different scales it is stretched.
 [[nodiscard]] CanvasShape ShapeOf(const Canvas& canvas);

@@ -11,6 +11,8 @@ enum class Role : std::uint8_t {
     Area,       // a filled piece of a plot that has a size to be read: a footprint
     AreaWidth,  // its measures, which stand on it, for their names alone
     AreaLength,
+    Cell,     // of a map, in the shade of its value
+    Contour,  // of a map, at a round value
     Grid,
     Words,
 
@@ -20,6 +22,10 @@ enum class Role : std::uint8_t {
     Limiter,
     TopSpeed,
     PresentValue,  // what is set at the moment
+    BestValue,
+
+    PresentPoint,  // the same on a map
+    BestPoint,
 
     // Curves
     Gear1,
@@ -48,7 +54,7 @@ enum class Role : std::uint8_t {
     Series6,
 };
 
-[[nodiscard]] constexpr bool IsMark(Role role) { return role >= Role::PeakPower && role <= Role::PresentValue; }
+[[nodiscard]] constexpr bool IsMark(Role role) { return role >= Role::PeakPower && role <= Role::BestValue; }
 [[nodiscard]] constexpr bool IsCurve(Role role) { return role >= Role::Gear1; }
 
 /// The curve of a gear. @param gear  1 to 6

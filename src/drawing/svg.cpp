@@ -300,6 +300,17 @@ void AddGround(std::string& svg, const Canvas& canvas, const PlotPlace& place) {
     svg += "</svg>\n";
 }
 
+/// The bar of a map's colours.
+void AddScale(std::string& svg, const Box& bar) {
+    if (bar.width <= 0) return;
+    AddBox(svg, {bar.left - kFrame, bar.top - kFrame, bar.width + 2 * kFrame, bar.height + 2 * kFrame}, {kFrameInk});
+    for (int shade = 0; shade < kShades; ++shade) {
+        const double bottom = bar.Bottom() - bar.height * shade / kShades;
+        const double top = bar.Bottom() - bar.height * (shade + 1) / kShades;
+        AddBox(svg, {bar.left, top, bar.width, bottom - top}, {ShadeColour(shade)});
+    }
+}
+
 }  // namespace
 
 SvgSize UsualSize(const Canvas& canvas) {
@@ -320,6 +331,7 @@ std::string SvgOf(const Canvas& canvas, const SvgSize& size) {
     svg += "\" fill=\"#ffffff\"/>\n<g transform=\"translate(";
     svg.append(ExactText(kMargin)).append(" ").append(ExactText(kMargin)).append(")\">\n");
     AddGround(svg, canvas, place);
+    AddScale(svg, place.scale);
     AddPrints(svg, canvas, place.ground);
     AddLabels(svg, LabelsOf(canvas, place, measure));
     svg += "</g>\n</svg>\n";

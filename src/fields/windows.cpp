@@ -9,9 +9,12 @@ OptionsPanelWindow OptionsPanel;
 CustomPresetsWindow CustomPresets;
 UnitConvWindow UnitConv;
 LanguageSelectionWindow LanguageSelection;
+FinderWindow Finder;
+SweepWindow SweepPanel;
 
-const std::array<Window*, 5>& AllWindows() {
-    static const std::array<Window*, 5> kAll{&Zolv, &OptionsPanel, &CustomPresets, &UnitConv, &LanguageSelection};
+const std::array<Window*, 7>& AllWindows() {
+    static const std::array<Window*, 7> kAll{&Zolv,   &OptionsPanel, &CustomPresets, &UnitConv, &LanguageSelection,
+                                             &Finder, &SweepPanel};
     return kAll;
 }
 

@@ -75,6 +75,8 @@ public:
     MenuEntry ToolsMenu{*this, "ToolsMenu"};
     MenuEntry ToolsCustom{*this, "ToolsCustom", "ToolsMenu", "Ctrl+U"};
     MenuEntry ToolsOptions{*this, "ToolsOptions", "ToolsMenu", "Ctrl+O"};
+    MenuEntry ToolsFinder{*this, "ToolsFinder", "ToolsMenu", "Ctrl+G"};
+    MenuEntry ToolsSweep{*this, "ToolsSweep", "ToolsMenu"};
     MenuEntry ToolsLanguage{*this, "ToolsLanguage", "ToolsMenu"};
     MenuEntry HelpMenu{*this, "HelpMenu"};
     MenuEntry HelpUsage{*this, "HelpUsage", "HelpMenu", "F1"};

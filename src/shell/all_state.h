@@ -9,6 +9,8 @@
 #include "platform/text_files.h"
 #include "plots/engine_plot.h"
 #include "shell/shell_state.h"
+#include "studies/finder_state.h"
+#include "studies/sweep_state.h"
 #include "text/texts.h"
 #include "text/words.h"
 #include "tyres/tyre_state.h"
@@ -23,7 +25,7 @@ namespace zolv {
 /// goes by this list.
 inline auto AllState() {
     return std::tie(platform, texts, words, units, options, vehicle, presets, tyres, aero, gearing, plots, files,
-                    language, shell);
+                    language, finder, sweep, shell);
 }
 
 /// A copy of all state, which `AllState() = copy` puts back.

@@ -8,6 +8,8 @@
 #include "language/language_state.h"
 #include "platform/text_files.h"
 #include "shell/shell_state.h"
+#include "studies/finder_page.h"
+#include "studies/sweep_page.h"
 #include "text/texts.h"
 #include "tyres/tyres_page.h"
 #include "units/apply_units.h"
@@ -68,6 +70,8 @@ void LoadZolv() {
     ShowCarPicture();
     ShowIfThere(Zolv.TitleImage, DataFile("title.png"));
     ShowIfThere(Zolv.TarmaqLogo, DataFile("logo.png"));
+    LoadFinder();
+    LoadSweep();
     LoadLanguageList();
     OfferFirstLanguageChoice();
 }
@@ -75,9 +79,12 @@ void LoadZolv() {
 void ShutDown() {
     if (shell.Ended) return;
     shell.Ended = true;
+    finderWork.Abandon();
+    sweepWork.Abandon();
     for (Window* window :
-         {static_cast<Window*>(&LanguageSelection), static_cast<Window*>(&UnitConv),
-          static_cast<Window*>(&CustomPresets), static_cast<Window*>(&OptionsPanel), static_cast<Window*>(&Zolv)}) {
+         {static_cast<Window*>(&SweepPanel), static_cast<Window*>(&Finder), static_cast<Window*>(&LanguageSelection),
+          static_cast<Window*>(&UnitConv), static_cast<Window*>(&CustomPresets), static_cast<Window*>(&OptionsPanel),
+          static_cast<Window*>(&Zolv)}) {
         window->SetVisible(false);
     }
     shellFollowUps.Ending();

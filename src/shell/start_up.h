@@ -7,8 +7,8 @@ namespace zolv {
 /// each step relies on the ones before it.
 void LoadZolv();
 
-/// The end of the program, from the close box or FileExit: closes the five windows. Nothing is asked and nothing is
-/// saved. A second call does nothing more.
+/// The end of the program, from the close box or FileExit: ends what is being worked out, and closes the windows.
+/// Nothing is asked and nothing is saved. A second call does nothing more.
 void ShutDown();
 
 }  // namespace zolv

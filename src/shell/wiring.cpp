@@ -1,5 +1,7 @@
 #include "shell/wiring.h"
 
+#include <array>
+
 #include "aero/aero_page.h"
 #include "aero/aero_state.h"
 #include "desk/present.h"
@@ -21,6 +23,11 @@
 #include "plots/engine_plot.h"
 #include "plots/gearing_plots.h"
 #include "shell/start_up.h"
+#include "studies/finder_inputs.h"
+#include "studies/finder_page.h"
+#include "studies/straights_page.h"
+#include "studies/sweep_inputs.h"
+#include "studies/sweep_page.h"
 #include "text/texts.h"
 #include "tyres/tyre_drawings.h"
 #include "tyres/tyre_state.h"
@@ -39,6 +46,12 @@
 namespace zolv {
 namespace {
 
+/// The windows of the finder and of the sweep write their words and numbers anew.
+void ShowStudies() {
+    ShowFinder();
+    ShowSweep();
+}
+
 /// What follows the procedures. AnalyseTyres comes behind CalcAeroForces, whose axle loads it reads, and before the
 /// gearing, whose rolling radius rests on its stiffness.
 void WireFollowUps() {
@@ -50,6 +63,8 @@ void WireFollowUps() {
         UpdateSpeeds();
         UpdateRatios();
         ShowCarPicture();
+        ShowFinderInputs();
+        ShowSweepInputs();
     };
     aeroFollowUps.TopSpeedFound = Recalculate;
     tyreFollowUps.TyreTypeTaken = [] {
@@ -57,8 +72,11 @@ void WireFollowUps() {
         RunAcceleration();
         DrawGearingPlots();
     };
-    gearingFollowUps.SpeedsFound = DrawGearingPlots;
-    gearingFollowUps.RatiosFound = DrawGearingPlots;
+    gearingFollowUps.SpeedsFound = gearingFollowUps.RatiosFound = [] {
+        DrawGearingPlots();
+        FollowSetUpInFinder();
+        FollowSetUpInSweep();
+    };
     optionFollowUps.GearingOptionChanged = Recalculate;
     optionFollowUps.PlotOptionChanged = DrawGearingPlots;
     fileFollowUps.OptionsLoaded = [] {
@@ -66,12 +84,14 @@ void WireFollowUps() {
         CalcAeroForces();
         AnalyseTyres();
         Recalculate();
+        ShowStudies();
     };
     languageFollowUps.LanguageChanged = [] {
         ShowAeroWords();
         ShowConverterWords();
         ShowCarInfo();
         Recalculate();
+        ShowStudies();
     };
     deskFollowUps.LaidOut = [] {
         ShowCarInfo();
@@ -80,6 +100,7 @@ void WireFollowUps() {
         CalcAeroCoefficients();  // the wing angles come into force
         AnalyseTyres();
         Recalculate();
+        ShowSweepInputs();  // the direction may be another
     };
 }
 
@@ -98,6 +119,14 @@ void WireMenus() {
     Zolv.OnClose = ShutDown;
     Zolv.ToolsCustom.OnClick = [] { CustomPresets.Show(); };
     Zolv.ToolsOptions.OnClick = [] { OptionsPanel.Show(); };
+    Zolv.ToolsFinder.OnClick = [] {
+        Finder.Show();
+        FollowSetUpInFinder();
+    };
+    Zolv.ToolsSweep.OnClick = [] {
+        SweepPanel.Show();
+        FollowSetUpInSweep();
+    };
     Zolv.ToolsLanguage.OnClick = [] { LanguageSelection.Show(); };
     Zolv.HelpUsage.OnClick = [] {
         if (!ShowManual()) ShowMessage(texts.TextManualHint);
@@ -115,8 +144,14 @@ void WireCarAndPages() {
 }
 
 void WireGearingPage() {
-    Zolv.Direction1.OnClick = ChooseRatiosPage;
-    Zolv.Direction2.OnClick = ChooseSpeedsPage;
+    Zolv.Direction1.OnClick = [] {
+        ChooseRatiosPage();
+        ShowSweepInputs();
+    };
+    Zolv.Direction2.OnClick = [] {
+        ChooseSpeedsPage();
+        ShowSweepInputs();
+    };
     for (const GearingInputs& inputs : BothGearingInputs()) {
         GearingPanel& panel = inputs.panel;
         for (int gear = 1; gear <= kGears; ++gear) {
@@ -187,15 +222,22 @@ void WireUnits() {
         CalcAeroForces();
         Recalculate();
         ShowCarInfo();
+        ShowStudies();
     };
-    unitFollowUps.Distance = unitFollowUps.Pressure = [] {
+    unitFollowUps.Distance = [] {
         AnalyseTyres();
         ShowCarInfo();
+    };
+    unitFollowUps.Pressure = [] {
+        AnalyseTyres();
+        ShowCarInfo();
+        ShowSweep();
     };
     unitFollowUps.Area = [] {
         CalcAeroForces();
         AnalyseTyres();
         ShowCarInfo();
+        ShowSweep();
     };
     unitFollowUps.Mass = unitFollowUps.P2W = unitFollowUps.T2W = ShowCarInfo;
     unitFollowUps.Force = [] {
@@ -203,6 +245,7 @@ void WireUnits() {
         ShowCarInfo();
         RunAcceleration();
         DrawGearingPlots();
+        ShowStudies();
     };
     unitFollowUps.Stiffness = AnalyseTyres;
     unitFollowUps.Acc = [] {
@@ -217,6 +260,7 @@ void WireUnits() {
         ShowCarInfo();
         DrawEnginePlot();
         Recalculate();
+        ShowSweep();
     };
 }
 
@@ -261,6 +305,44 @@ void WireUnitConverter() {
     }
 }
 
+void WireFinder() {
+    Finder.Goal.OnClick = ShowGoalBoxes;
+    const std::array<TextBox*, kUnitBoxes> unitBoxes{&Finder.FromSpeed, &Finder.ToSpeed, &Finder.TopSpeed,
+                                                     &Finder.Downforce, &Finder.DownforceSpeed};
+    for (std::size_t i = 0; i < unitBoxes.size(); ++i) {
+        unitBoxes[i]->OnChange = [i] { TakeTyped(i); };
+    }
+    for (CheckBox* box : {&Finder.FreeFrontWing, &Finder.FreeRearWing, &Finder.WishDownforce}) {
+        box->OnClick = ShowWingNote;
+    }
+    for (Field* field : Finder.Fields()) {
+        if (field->Kind() != FieldKind::TextBox || field == &Finder.Straights) continue;
+        static_cast<TextBox&>(*field).OnKeyPress = CommaToPoint;
+    }
+    Finder.Start.OnClick = StartFinder;
+    Finder.Stop.OnClick = StopFinder;
+    Finder.TakeOver.OnClick = TakeOverFind;
+    Finder.Straights.OnChange = ReadTrack;
+    Finder.StraightsOpen.OnClick = OpenStraights;
+    Finder.StraightsSave.OnClick = SaveStraightsAs;
+}
+
+void WireSweep() {
+    SweepPanel.First.Input.OnClick = [] { PickSweepInput(0); };
+    SweepPanel.Second.Input.OnClick = [] { PickSweepInput(1); };
+    for (TextBox* box : {&SweepPanel.First.From, &SweepPanel.First.To}) box->OnChange = [] { TakeSweepEnds(0); };
+    for (TextBox* box : {&SweepPanel.Second.From, &SweepPanel.Second.To}) box->OnChange = [] { TakeSweepEnds(1); };
+    for (TextBox* box : {&SweepPanel.Point, &SweepPanel.Point2}) box->OnChange = ShowPointResult;
+    for (Field* field : SweepPanel.Fields()) {
+        if (field->Kind() == FieldKind::TextBox) static_cast<TextBox&>(*field).OnKeyPress = CommaToPoint;
+    }
+    SweepPanel.Start.OnClick = StartSweep;
+    SweepPanel.Stop.OnClick = StopSweep;
+    SweepPanel.TakeOver.OnClick = TakeOverSweepPoint;
+    SweepPanel.SaveCsv.OnClick = SaveSweepCsv;
+    SweepPanel.SaveSvg.OnClick = SaveSweepSvg;
+}
+
 void WireLanguageSelection() {
     LanguageSelection.LanguageList.OnClick = ChangeLanguage;
     LanguageSelection.SaveLanguage.OnClick = [] {
@@ -280,6 +362,8 @@ void WireClosing() {
     OptionsPanel.OnClose = OptionsPanel.CloseOptions.OnClick = [] { OptionsPanel.SetVisible(false); };
     CustomPresets.OnClose = CustomPresets.CloseCustom.OnClick = [] { CustomPresets.SetVisible(false); };
     UnitConv.OnClose = UnitConv.CloseConv.OnClick = [] { UnitConv.SetVisible(false); };
+    Finder.OnClose = Finder.CloseFinder.OnClick = [] { Finder.SetVisible(false); };
+    SweepPanel.OnClose = SweepPanel.CloseSweep.OnClick = [] { SweepPanel.SetVisible(false); };
 }
 
 }  // namespace
@@ -295,6 +379,8 @@ void WireEvents() {
     WireOptionsPanel();
     WireCustomPresets();
     WireUnitConverter();
+    WireFinder();
+    WireSweep();
     WireLanguageSelection();
     WireClosing();
 }

@@ -30,6 +30,26 @@ void ExpectUsable(const Field& field) {
     if (field.Locked()) throw ScriptError(field.Name() + " is locked");
 }
 
+/// What OneLine makes of a text, back again: "\\n" is a line break, "\\t" a tab, "\\\\" a backslash.
+std::string SeveralLines(std::string_view text) {
+    std::string lines;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char next = text[i] == '\\' && i + 1 < text.size() ? text[i + 1] : '\0';
+        const char meant = next == 'n' ? '\n' : next == 't' ? '\t' : next == '\\' ? '\\' : '\0';
+        lines += meant != '\0' ? meant : text[i];
+        if (meant != '\0') ++i;
+    }
+    return lines;
+}
+
+void EnterText(TextBox& box, std::string_view value) {
+    if (box.MultiLine()) {
+        box.Enter(SeveralLines(value));
+    } else {
+        box.Enter(value);
+    }
+}
+
 /// Whether the whole text is one number, so that a mistyped one is told and not taken for 0.
 bool IsNumber(std::string_view text) {
     const auto skip = [&](std::string_view characters) {
@@ -130,7 +150,7 @@ Field& FieldNamed(std::string_view name) {
 
 void SetField(Field& field, std::string_view value) {
     switch (field.Kind()) {
-        case FieldKind::TextBox: ExpectUsable(field); return static_cast<TextBox&>(field).Enter(value);
+        case FieldKind::TextBox: ExpectUsable(field); return EnterText(static_cast<TextBox&>(field), value);
         case FieldKind::Slider: ExpectUsable(field); return DragSlider(static_cast<Slider&>(field), value);
         case FieldKind::PickList:
         case FieldKind::TabStrip: ExpectUsable(field); return PickRow(static_cast<PickList&>(field), value);

@@ -53,7 +53,7 @@ double RoomForScale(const Canvas& canvas, const TextMeasure& measure) {
     for (const double number : NumbersOfScale(*canvas.Scale())) {
         widest = std::max(widest, measure.width(ScaleText(*canvas.Scale(), number)));
     }
-    return kBarGap + kBarWidth + kTick + kNumberGap + kFrame + widest;
+    return kBarGap + kBarWidth + kTick + kNumberGap + 2 * kFrame + widest;
 }
 
 Margins MarginsFor(const Canvas& canvas, const AxisNumbers& yNumbers, const TextMeasure& measure) {

@@ -1,7 +1,5 @@
 #include "shell/wiring.h"
 
-#include <array>
-
 #include "aero/aero_page.h"
 #include "aero/aero_state.h"
 #include "desk/present.h"
@@ -307,10 +305,9 @@ void WireUnitConverter() {
 
 void WireFinder() {
     Finder.Goal.OnClick = ShowGoalBoxes;
-    const std::array<TextBox*, kUnitBoxes> unitBoxes{&Finder.FromSpeed, &Finder.ToSpeed, &Finder.TopSpeed,
-                                                     &Finder.Downforce, &Finder.DownforceSpeed};
-    for (std::size_t i = 0; i < unitBoxes.size(); ++i) {
-        unitBoxes[i]->OnChange = [i] { TakeTyped(i); };
+    for (TextBox* box :
+         {&Finder.FromSpeed, &Finder.ToSpeed, &Finder.TopSpeed, &Finder.Downforce, &Finder.DownforceSpeed}) {
+        box->OnChange = TakeTyped;
     }
     for (CheckBox* box : {&Finder.FreeFrontWing, &Finder.FreeRearWing, &Finder.WishDownforce}) {
         box->OnClick = ShowWingNote;

@@ -20,13 +20,14 @@ namespace {
 
 const AccelTargets& TargetsInForce() { return AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)]; }
 
-/// A box whose number is in the unit in force, and the base value that it begins with: a round one in each unit.
+/// A box whose number is in the unit in force, and the base value that it begins with, in that unit a round one.
 struct UnitBox {
     TextBox& box;
     Label& unit;
     Quantity UnitState::*quantity;
     double (*first)();
 };
+constexpr std::size_t kUnitBoxes = 5;
 const std::array<UnitBox, kUnitBoxes>& UnitBoxes() {
     static const std::array<UnitBox, kUnitBoxes> kBoxes{{
         {Finder.FromSpeed, Finder.FromSpeedUnit, &UnitState::Speed, [] { return double{TargetsInForce().Speeds[0]}; }},
@@ -47,9 +48,9 @@ void ShowUnitBoxes() {
         const UnitBox& box = UnitBoxes()[i];
         const Quantity& quantity = units.*box.quantity;
         box.unit.SetCaption(quantity.Suffix.substr(1));
-        // A speed of the targets has two decimals, so that it is round only to the unit's own.
-        const int decimals = finder.Typed[i] ? 3 : quantity.Decimals;
-        box.box.SetText(RoundedText(finder.Typed[i].value_or(box.first()) * quantity.Factor, decimals));
+        const double base = finder.BoxValues ? (*finder.BoxValues)[i] : box.first();
+        // The speeds of a table have two decimals in base units, so that they are round only to the unit's own.
+        box.box.SetText(RoundedText(base * quantity.Factor, finder.BoxValues ? 3 : quantity.Decimals));
     }
 }
 
@@ -168,8 +169,10 @@ void ShowWingNote() {
     Finder.Note.SetCaption(wing && !Finder.WishDownforce.Checked() ? words["WingsGoFlat"] : "");
 }
 
-void TakeTyped(std::size_t box) {
-    if (!finder.WritingBoxes) finder.Typed[box] = BaseOf(UnitBoxes()[box]);
+void TakeTyped() {
+    if (finder.WritingBoxes) return;
+    finder.BoxValues.emplace();
+    for (std::size_t i = 0; i < kUnitBoxes; ++i) (*finder.BoxValues)[i] = BaseOf(UnitBoxes()[i]);
 }
 
 std::string NameOf(FinderInput input) {

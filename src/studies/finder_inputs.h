@@ -14,8 +14,8 @@ namespace zolv {
 /// Fills the list of goals and the boxes with units.
 void LoadFinderInputs();
 
-/// Writes what depends on the language, the units in force and the car anew; numbers that the driver has typed keep
-/// their value.
+/// Writes what depends on the language, the units in force and the car anew; numbers keep their value once the
+/// driver has typed any.
 void ShowFinderInputs();
 
 /// Shows the boxes of the goal that is picked.
@@ -24,9 +24,8 @@ void ShowGoalBoxes();
 /// Says that a wing without a wish for downforce only ever goes flat, while that is so.
 void ShowWingNote();
 
-/// A box with a unit has been typed into. @param box  its place in UnitBoxes()
-void TakeTyped(std::size_t box);
-inline constexpr std::size_t kUnitBoxes = 5;
+/// A box with a unit has been typed into: from now on all of them keep what they hold.
+void TakeTyped();
 
 /// The name of an input in the language in force, and its value: "1.234", or "12" for degrees.
 [[nodiscard]] std::string NameOf(FinderInput input);

@@ -16,8 +16,9 @@ struct FinderFind {
 };
 
 struct FinderState {
-    /// What the boxes with a unit hold, in base units, in the order of UnitBoxes(); none until the driver has typed.
-    std::array<std::optional<double>, 5> Typed;
+    /// What the boxes with a unit hold, in base units, in the order of UnitBoxes(). As long as the driver has typed
+    /// into none of them there is nothing here, and they show round numbers in whichever unit is in force.
+    std::optional<std::array<double, 5>> BoxValues;
     bool WritingBoxes = false;  // what is written into them was not typed
 
     StraightsRead Track;  // what stands in Straights

@@ -34,7 +34,7 @@ TEST_F(FieldWords, AWordReachesItsPlaceAndEnglishComesBack) {
     const std::string frontLoad = Zolv.Aero_ForceFrontWheels.Caption();
     WriteContent("words_Other.txt",
                  "CustomPresets = A\nGearR2.ToolTip = B\nSelect_Page(1).ToolTip = C\nDegrees = D\nUndersteer = E\n"
-                 "Oversteer = E\nNeutral = E\nConvertedIs = F {0}\n");
+                 "Oversteer = E\nNeutral = E\nConvertedIs = F {0}\nGoalTopSpeed = G\nFinalDriveInput = H\n");
     Load("Other");
     EXPECT_EQ(CustomPresets.Title(), "A");
     EXPECT_EQ(Zolv.Speeds.GearR.ToolTip(), "B");
@@ -43,6 +43,9 @@ TEST_F(FieldWords, AWordReachesItsPlaceAndEnglishComesBack) {
     EXPECT_EQ(Zolv.Aero_AeroDistribution.ToolTip(), "E");
     EXPECT_EQ(UnitConv.Torque.Output.Caption(), "F 118 Nm");
     EXPECT_EQ(UnitConv.Mass.Output.Caption(), "F ? kg");
+    EXPECT_EQ(Finder.Goal.Rows()[3], "G");
+    EXPECT_EQ(Finder.Goal.Picked(), 1);
+    EXPECT_EQ(SweepPanel.First.Input.Text(), "H");
     EXPECT_EQ(Zolv.Aero_ForceFrontWheels.Caption(), frontLoad) << "words calculate nothing";
     Load("English");
     EXPECT_EQ(EverythingShown(), english);

@@ -224,6 +224,15 @@ TEST_P(ShippedLanguage, HasEachWordByItsName) {
     EXPECT_EQ(taken, given) << "a name that nothing has";
 }
 
+// The entries of the Tools menu that have words by name share it with those of the language lines.
+TEST_P(ShippedLanguage, AccessKeysOfTheToolsMenuDiffer) {
+    const Words read = Words::Read(Shipped("words_" + GetParam() + ".txt"));
+    const std::vector<std::string> lines = Lines();
+    const std::set<std::string> keys = {KeysOf(lines[14]), KeysOf(lines[15]), KeysOf(lines[16]),
+                                        KeysOf(read["ToolsFinder"]), KeysOf(read["ToolsSweep"])};
+    EXPECT_THAT(keys, testing::AllOf(SizeIs(5), testing::Each(testing::MatchesRegex("[A-Z]"))));
+}
+
 // The keys of the menu of a drawing.
 TEST_P(ShippedLanguage, AccessKeysOfTheDrawingsMenuDiffer) {
     const Words read = Words::Read(Shipped("words_" + GetParam() + ".txt"));

@@ -1,0 +1,177 @@
+// The finder's window through its fields: what it refuses, files of straights, and searches beside the fields.
+
+#include "studies/finder_page.h"
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "shell/start_up.h"
+#include "studies/background.h"
+#include "support/zolv_test.h"
+
+namespace zolv {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+using Inputs = std::vector<std::pair<const char*, const char*>>;
+
+class FinderPage : public StartedTest {
+protected:
+    FinderPage() {
+        Set("Select_Car", "Wisp 4");  // 58 m/s at the most, no wings
+        SetAll({{"Finder.FreeFinalDrive", "on"}, {"Finder.LowFinalDrive", "3.9"}, {"Finder.HighFinalDrive", "4.1"}});
+    }
+    static void SetAll(const Inputs& inputs) {
+        for (const auto& [field, value] : inputs) Set(field, value);
+    }
+};
+
+TEST_F(FinderPage, TellsWhatCannotBeFound) {
+    const struct {
+        Inputs inputs;
+        const char* message;
+    } kCases[] = {
+        {{{"Finder.FreeFinalDrive", "off"}}, "Nothing may be changed"},
+        {{{"Finder.FreeFinalDrive", "off"}, {"Finder.FreeRearWing", "on"}}, "Nothing may be changed"},
+        {{{"Finder.HighFinalDrive", "3.8"}}, "The bounds of Final Drive leave nothing"},
+        {{{"Finder.FreeRatios", "on"}, {"Finder.LowRatio4", "2"}, {"Finder.HighRatio3", "1,9"}},
+         "The bounds of Ratio 3 leave nothing"},
+        {{{"Finder.Distance", "0"}}, "The distance must be above 0 m."},
+        {{{"Finder.Distance", "90000"}}, "No gearbox covers 90000 m within 90 s; the most is "},
+        {{{"Finder.Goal", "Quickest to a Speed"}, {"Finder.ToSpeed", ""}}, "The speed to reach must be above 0."},
+        {{{"Finder.Goal", "Quickest to a Speed"}, {"Finder.ToSpeed", "90"}},
+         "No gearbox reaches 90 m/s; the most is 5"},
+        {{{"Finder.Goal", "Quickest between Speeds"}, {"Finder.FromSpeed", "20"}, {"Finder.ToSpeed", "20"}},
+         "The speed to start from must be 0 or more, and below the speed to reach."},
+        {{{"Finder.Goal", "Quickest along Straights"}}, "There are no straights"},
+        {{{"Finder.WishTopSpeed", "on"}, {"Finder.TopSpeed", "70"}}, "the wished top speed of 70 m/s; the most is 5"},
+        {{{"Finder.WishDownforce", "on"}}, "No angle of the wings"},
+    };
+    const std::string gearbox = Shown({"Gear1", "Gear4", "GearF"});
+    for (const auto& row : kCases) {
+        SCOPED_TRACE(row.message);
+        Finder.Reset();
+        LoadFinder();
+        SetAll({{"Finder.FreeFinalDrive", "on"}, {"Finder.LowFinalDrive", "3.9"}, {"Finder.HighFinalDrive", "4.1"}});
+        SetAll(row.inputs);
+        Finder.Start.Click();
+        ExpectMessage(HasSubstr(row.message));
+        Finder.TakeOver.Click();
+        ExpectMessage("There is nothing to be taken over yet.");
+        EXPECT_EQ(Finder.Table.Text(), "");
+    }
+    EXPECT_EQ(Shown({"Gear1", "Gear4", "GearF"}), gearbox);
+}
+
+TEST_F(FinderPage, AFileThatIsNoneChangesNothing) {
+    WriteContent("good.straights", "name,entry speed [km/h],length [m]\r\n\"Hill, upper\",72,300\r\n");
+    Answer("good.straights");
+    Finder.StraightsOpen.Click();
+    const std::string good = Finder.Straights.Text();
+    EXPECT_THAT(Finder.StraightTimes.Text(), HasSubstr("Hill, upper\t20 m/s\t300 m\t"));
+
+    std::string many = "name,entry speed,length\n";
+    for (int i = 0; i < 1001; ++i) many += "s,10,100\n";
+    const std::pair<std::string, const char*> kCases[] = {
+        {"name,entry speed,length\nHill,20,300\nDip,2o,300\n", "Line 3: \"2o\" is not a number."},
+        {"name,entry speed [furlongs],length\n", "Line 1: The unit \"furlongs\" is unknown."},
+        {"Hill,20,300\n", "Line 1: The first line must be \"name,entry speed,length\"."},
+        {"name,entry speed,length\nHill,201,300\n", "Line 2: The entry speed 201 is not from 0 to 200 m/s."},
+        {"name,entry speed,length\nHill,20\n", "Line 2: A line must have a name, an entry speed and a length."},
+        {many, "Line 1002: There are more than 1000 straights."},
+    };
+    for (const auto& [text, reason] : kCases) {
+        WriteContent("bad.straights", text);
+        Answer("bad.straights");
+        Finder.StraightsOpen.Click();
+        ExpectMessage(AllOf(HasSubstr("bad.straights"), HasSubstr(reason)));
+        EXPECT_EQ(Finder.Straights.Text(), good);
+    }
+    Answer("nowhere.straights");
+    Finder.StraightsOpen.Click();
+    ExpectMessage(HasSubstr("nowhere.straights"));
+
+    Answer("saved.straights");
+    Finder.StraightsSave.Click();
+    EXPECT_EQ(ContentOf("saved.straights"), good);
+    EXPECT_EQ(Requests().back().proposedName, "good.straights");
+}
+
+/// What searches post to the fields, until it is fetched.
+class Posted {
+public:
+    Posted() {
+        postToFields = [this](std::function<void()> work) {
+            const std::scoped_lock lock(mutex_);
+            queue_.push_back(std::move(work));
+            come_.notify_one();
+        };
+    }
+    ~Posted() {
+        finderWork.Abandon();
+        postToFields = {};
+    }
+    Posted(const Posted&) = delete;
+    Posted& operator=(const Posted&) = delete;
+
+    void RunOne() {
+        std::unique_lock lock(mutex_);
+        come_.wait(lock, [this] { return !queue_.empty(); });
+        const std::function<void()> work = std::move(queue_.front());
+        queue_.pop_front();
+        lock.unlock();
+        work();
+    }
+    void RunThose() {
+        while (!queue_.empty()) RunOne();
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable come_;
+    std::deque<std::function<void()>> queue_;
+};
+
+TEST_F(FinderPage, ASearchGoesOnForTheSetUpItWasStartedWith) {
+    Posted posted;
+    Finder.Start.Click();
+    EXPECT_TRUE(finderWork.Running());
+    EXPECT_EQ(Finder.Status.Caption(), "Searching for Wisp 4...");
+    Set("Select_Car", "Series Mu");
+    while (finderWork.Running()) posted.RunOne();
+    EXPECT_THAT(Finder.Status.Caption(), AllOf(HasSubstr("Wisp 4"), HasSubstr("not for the one on the pages")));
+    EXPECT_EQ(Finder.Found.Caption().substr(0, 3), "25.");
+    Finder.TakeOver.Click();
+    EXPECT_EQ(Shown("Select_Car"), "Wisp 4");
+    EXPECT_EQ(Shown("GearF"), "3.93");  // the best of all 201 steps, by a separate calculation
+    EXPECT_THAT(Finder.Status.Caption(), testing::Not(HasSubstr("on the pages")));
+}
+
+TEST_F(FinderPage, ASearchCanBeStoppedAndTheProgramClosed) {
+    Posted posted;
+    std::string track = "name,entry speed,length\n";
+    for (int i = 0; i < 1000; ++i) track += "s," + std::to_string(i % 50) + "." + std::to_string(i) + ",9000\n";
+    Set("Finder.Straights", track);
+    SetAll({{"Finder.Goal", "Quickest along Straights"}, {"Finder.LowFinalDrive", "2"}, {"Finder.FreeRatios", "on"}});
+    Finder.Start.Click();
+    Finder.Stop.Click();
+    while (finderWork.Running()) posted.RunOne();
+    EXPECT_THAT(Finder.Status.Caption(), HasSubstr("Stopped"));
+
+    Finder.Start.Click();
+    ShutDown();
+    EXPECT_FALSE(finderWork.Running());
+    posted.RunThose();
+    EXPECT_EQ(Finder.Table.Text(), "");
+}
+
+}  // namespace
+}  // namespace zolv

@@ -22,6 +22,7 @@
 #include "desktop/picture_view.h"
 #include "desktop/run_table.h"
 #include "desktop/state_mark.h"
+#include "desktop/text_table.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
@@ -189,6 +190,16 @@ void Binding::Bind(TextBox& field, RunTable& table, const Field* caption) {
     OnChanged(field, [&] {
         table.setVisible(field.Visible());
         table.SetStale();
+    });
+}
+
+void Binding::Bind(TextBox& field, TextTable& table, const Field* caption) {
+    Name(table, field);
+    NameByCaption(table, field, caption);
+    OnChanged(field, [&] {
+        table.setVisible(field.Visible());
+        table.setToolTip(ToQt(field.ToolTip()));
+        table.Show(field);
     });
 }
 

@@ -28,6 +28,7 @@ namespace zolv {
 class CanvasView;
 class PictureView;
 class RunTable;
+class TextTable;
 class ValueLabel;
 
 /// Binds widgets to fields, one rule for each kind of field. What the user does goes to the field; when the event has
@@ -46,6 +47,7 @@ public:
     void Bind(MenuEntry& field, QAction& action);
     void Bind(TextBox& field, QLineEdit& edit, const Field* caption = nullptr);
     void Bind(TextBox& field, RunTable& table, const Field* caption = nullptr);
+    void Bind(TextBox& field, TextTable& table, const Field* caption = nullptr);
     void Bind(Slider& field, QSlider& slider, const Field* caption = nullptr);
     void Bind(PickList& field, QComboBox& box, const Field* caption = nullptr);
     void Bind(TabStrip& field, QTabBar& bar);

@@ -37,6 +37,7 @@ void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& plac
                   const CanvasInks& inks) {
     PaintGround(painter, place.ground, inks.frame, inks.frameWidth);
     PaintStrokes(painter, canvas, place);
+    PaintScale(painter, place.scale, inks.frame);
     painter.setFont(font);
     PaintPrints(painter, canvas, place.ground);
     painter.setFont(NumberFont(font));

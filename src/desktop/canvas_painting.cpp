@@ -281,6 +281,19 @@ void PaintStrokes(QPainter& painter, const Canvas& canvas, const PlotPlace& plac
     StrokePainter(painter, canvas, place, ground, pixels.Scale()).Paint();
 }
 
+void PaintScale(QPainter& painter, const Box& bar, const QColor& frame) {
+    if (bar.width <= 0) return;
+    const DevicePixels pixels(painter);
+    const QRect inner = pixels.Snapped(ToQt(bar));
+    const int width = std::max(1, static_cast<int>(std::floor(pixels.Scale())));
+    painter.fillRect(inner.adjusted(-width, -width, width, width), frame);
+    for (int shade = 0; shade < kShades; ++shade) {
+        const int top = inner.bottom() + 1 - inner.height() * (shade + 1) / kShades;
+        const int bottom = inner.bottom() + 1 - inner.height() * shade / kShades;
+        painter.fillRect(inner.left(), top, inner.width(), bottom - top, ToQt(ShadeColour(shade)));
+    }
+}
+
 void PaintPrints(QPainter& painter, const Canvas& canvas, const Box& box) {
     constexpr double kSmallest = 6.5;  // points
     const std::vector<PrintedText> prints = PrintsOf(canvas);

@@ -48,6 +48,9 @@ void PaintGround(QPainter& painter, const Box& ground, const QColor& frame, doub
 /// and other straight rules on whole device pixels, curves smooth. Nothing leaves the ground.
 void PaintStrokes(QPainter& painter, const Canvas& canvas, const PlotPlace& place);
 
+/// Paints the bar of a map's colours with a frame around it; nothing without a width.
+void PaintScale(QPainter& painter, const Box& bar, const QColor& frame);
+
 /// Paints the prints on a canvas, wrapped, one below the other, in a font that is made smaller until they fit.
 void PaintPrints(QPainter& painter, const Canvas& canvas, const Box& ground);
 

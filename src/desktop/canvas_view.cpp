@@ -94,6 +94,23 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
     update();
 }
 
+void CanvasView::SetClick(std::function<void(double, double)> click) {
+    click_ = std::move(click);
+    setCursor(click_ ? Qt::CrossCursor : Qt::ArrowCursor);
+}
+
+void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
+    const PlotPlace place = Place();
+    if (!click_ || event->button() != Qt::LeftButton || !place.hasAxes) return;
+    if (!ToQt(place.ground).contains(event->position())) return;
+    const Canvas::Axes& axes = canvas_.PresentAxes();
+    const CanvasMapping mapping = place.Mapping();
+    click_((mapping.CanvasX(event->position().x()) - axes.x.origin) / axes.x.scale,
+           (mapping.CanvasY(event->position().y()) - axes.y.origin) / axes.y.scale);
+}
+
+void CanvasView::SavePng() { SaveAsPng(PictureOf(canvas_, PictureSize(), font())); }
+
 void CanvasView::leaveEvent(QEvent*) {
     pointer_.reset();
     ShareCrosshair();
@@ -130,8 +147,7 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
     };
     add(QStringLiteral("CopyPicture"), words["CopyPicture"], [this] { CopyPicture(); });
     add(QStringLiteral("SaveAsSvg"), words["SaveAsSvgEntry"], [this] { SaveAsSvg(canvas_, PictureSize()); });
-    add(QStringLiteral("SaveAsPng"), words["SaveAsPngEntry"],
-        [this] { SaveAsPng(PictureOf(canvas_, PictureSize(), font())); });
+    add(QStringLiteral("SaveAsPng"), words["SaveAsPngEntry"], [this] { SavePng(); });
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     menu->popup(byKey ? mapToGlobal(rect().center()) : event->globalPos());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <optional>
 
 #include "drawing/svg.h"
@@ -26,6 +27,12 @@ class CanvasView : public QWidget {
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {150, 100}; }
 
+    /// What a click on a plot does, with what its axes read there.
+    void SetClick(std::function<void(double x, double y)> click);
+
+    /// Ask for a file and write the picture into it as it stands in the view.
+    void SavePng();
+
     /// Puts the picture into the clipboard, at twice the resolution of the screen.
     void CopyPicture() const;
 
@@ -33,6 +40,7 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -46,7 +54,8 @@ private:
     const Canvas& canvas_;
     Shape shape_;
     std::optional<QPointF> pointer_;  // the mouse, in widget coordinates
-    std::optional<double> sharedX_;   // value of x under the mouse in another view
+    std::function<void(double, double)> click_;
+    std::optional<double> sharedX_;  // value of x under the mouse in another view
 };
 
 }  // namespace zolv

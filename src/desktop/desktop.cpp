@@ -1,14 +1,20 @@
 #include "desktop/desktop.h"
 
 #include <QLocale>
+#include <functional>
+#include <utility>
 
 #include "desktop/converter_window.h"
+#include "desktop/finder_window.h"
 #include "desktop/language_window.h"
 #include "desktop/main_window.h"
 #include "desktop/options_window.h"
 #include "desktop/presets_window.h"
+#include "desktop/sweep_window.h"
 #include "desktop/texts_of_qt.h"
 #include "fields/windows.h"
+#include "studies/finder_page.h"
+#include "studies/sweep_page.h"
 
 namespace zolv {
 
@@ -18,12 +24,27 @@ Desktop::Desktop() {
     secondary_.push_back(std::make_unique<PresetsWindow>(binding_));
     secondary_.push_back(std::make_unique<ConverterWindow>(binding_));
     secondary_.push_back(std::make_unique<LanguageWindow>(binding_));
+    secondary_.push_back(std::make_unique<FinderView>(binding_));
+    secondary_.push_back(std::make_unique<SweepView>(binding_));
     main_->winId();  // has its handle before a window is to stay above it
     for (const auto& window : secondary_) window->StayAbove(*main_);
     binding_.OnChanged(LanguageSelection.LanguageList, [this] { qtWords_.Follow(); });
+    postToFields = [this](std::function<void()> work) {
+        QMetaObject::invokeMethod(
+            &binding_,
+            [this, work = std::move(work)] {
+                work();
+                binding_.PaintChanged();
+            },
+            Qt::QueuedConnection);
+    };
 }
 
-Desktop::~Desktop() = default;
+Desktop::~Desktop() {
+    finderWork.Abandon();
+    sweepWork.Abandon();
+    postToFields = {};
+}
 
 void Desktop::PreselectSystemLanguage() {
     if (Zolv.Visible() || !LanguageSelection.Visible()) return;

@@ -10,7 +10,7 @@ namespace zolv {
 class MainWindow;
 class SecondaryWindow;
 
-/// The five windows over a started program.
+/// The windows over a started program.
 class Desktop {
 public:
     /// Builds and binds the windows. The fields are at their design-time state or beyond.

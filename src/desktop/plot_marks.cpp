@@ -92,6 +92,9 @@ std::vector<BoxLine> LinesAt(const Canvas& canvas, const PlotPlace& place, const
         const double canvasY = mapping.CanvasY(crosshair.y);
         lines.push_back({ToQt(axes.y.title), ToQt(ReadingAt(axes.y, canvasY, mapping.scaleY)), Role::Words});
     }
+    if (const std::string value = MapReadingAt(canvas, canvasX, mapping.CanvasY(crosshair.y)); !value.empty()) {
+        lines.push_back({ToQt(canvas.Scale()->title), ToQt(value), Role::Words});
+    }
     for (const CurveReading& reading : ReadingsAt(canvas, canvasX, mapping.scaleY)) {
         lines.push_back({ToQt(reading.name), ToQt(reading.value), reading.meaning});
     }

@@ -80,7 +80,7 @@ void SecondaryWindow::AddButtons(std::initializer_list<Button*> left, std::initi
     for (Button* field : right) buttons_->addWidget(MakeButton(*field, this));
 }
 
-void SecondaryWindow::AddNote(QLabel* note) {
+void SecondaryWindow::AddNote(QWidget* note) {
     int place = 0;
     while (buttons_->itemAt(place)->spacerItem() == nullptr) ++place;
     buttons_->insertWidget(place, note);

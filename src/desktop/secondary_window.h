@@ -34,8 +34,8 @@ protected:
     /// Adds the buttons under the body: `left` at the left edge, `right` at the right one.
     void AddButtons(std::initializer_list<Button*> left, std::initializer_list<Button*> right);
 
-    /// Adds a line between the buttons of the left and those of the right.
-    void AddNote(QLabel* note);
+    /// Adds a line, or a button that no field stands for, between the buttons of the left and those of the right.
+    void AddNote(QWidget* note);
 
     /// Binds the window itself, which may open it at once.
     void Complete();

@@ -18,6 +18,7 @@
 #include "desktop/canvas_view.h"
 #include "desktop/picture_view.h"
 #include "desktop/run_table.h"
+#include "desktop/text_table.h"
 #include "suites.h"
 
 namespace zolv {
@@ -43,7 +44,7 @@ bool Suits(FieldKind kind, const QObject* object) {
         case FieldKind::Panel: return IsOneOf<QWidget>(object);
         case FieldKind::MenuEntry: return IsOneOf<QAction>(object);
         case FieldKind::Button: return IsOneOf<QPushButton>(object);
-        case FieldKind::TextBox: return IsOneOf<QLineEdit, RunTable>(object);
+        case FieldKind::TextBox: return IsOneOf<QLineEdit, RunTable, TextTable>(object);
         case FieldKind::Slider: return IsOneOf<QSlider>(object);
         case FieldKind::PickList: return IsOneOf<QComboBox, QListWidget>(object);
         case FieldKind::TabStrip: return IsOneOf<QTabBar>(object);
@@ -119,7 +120,7 @@ void OnEachPage(Desktop& desktop, Check check) {
         act([&] { OptionsPanel.Select_Options.Pick(page); });
         check(WindowNamed("OptionsPanel"));
     }
-    for (const char* name : {"CustomPresets", "UnitConv", "LanguageSelection"}) check(WindowNamed(name));
+    for (const char* name : {"CustomPresets", "UnitConv", "LanguageSelection", "Finder", "Sweep"}) check(WindowNamed(name));
 }
 
 void FieldsAndWidgets::EachFocusableWidgetHasAName() {

@@ -59,6 +59,7 @@ constexpr Kept kKept[] = {
     {"AeroLabel\\((12|13|15|24|25|29|30|34|35)\\)|CUPLabel\\((12|29)\\)", "a symbol of physics"},
     {"GearingLabel\\(35\\)", "v-max, a symbol of the trade"},
     {"(New|Edit)Gears row .*", "numbers"},
+    {"(FromSpeed|ToSpeed|Distance|TopSpeed|Downforce|DownforceSpeed)Unit", "the short name of a unit"},
     {"Label_.*Units|Label_SPD\\d|SpeedPlot_XUnits|SpeedTimeGraph_YUnits|TorquePlot_YUnits|TEPlot_YUnits",
      "the short name of a unit"},
     {"Select_(Distance|Mass|Power|Torque)Units row .*", "short names of units, in the converter"},

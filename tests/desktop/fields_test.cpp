@@ -120,7 +120,8 @@ void OnEachPage(Desktop& desktop, Check check) {
         act([&] { OptionsPanel.Select_Options.Pick(page); });
         check(WindowNamed("OptionsPanel"));
     }
-    for (const char* name : {"CustomPresets", "UnitConv", "LanguageSelection", "Finder", "Sweep"}) check(WindowNamed(name));
+    for (const char* name : {"CustomPresets", "UnitConv", "LanguageSelection", "Finder", "Sweep"})
+        check(WindowNamed(name));
 }
 
 void FieldsAndWidgets::EachFocusableWidgetHasAName() {

@@ -23,6 +23,8 @@
 #include "platform/dialogs.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
+#include "studies/finder_page.h"
+#include "studies/sweep_page.h"
 
 namespace zolv {
 namespace {
@@ -51,6 +53,53 @@ void PointAt(const char* plot, double across, double down) {
         QMouseEvent move(QEvent::MouseMove, at, view->mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(view, &move);
     }
+}
+
+/// A search or a sweep runs beside the windows: waits for its end.
+void PressAndWait(Button& start) {
+    start.Click();
+    while (finderWork.Running() || sweepWork.Running()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void EnterTrack() {  // as in examples/kestrel_park.straights
+    Finder.Straights.SetText(
+        "name,entry speed [m/s],length [m]\nMain straight,27,860\nHill,19,310\nDip,31,220\nBack straight,23,640\n"
+        "Paddock,15,180\n");
+}
+
+void SweepGearsOfMap() {
+    SweepPanel.SetVisible(true);
+    SweepPanel.First.Input.SetText(SweepPanel.First.Input.Rows()[1]);
+    SweepPanel.Second.Input.Pick(4);
+    PressAndWait(SweepPanel.Start);
+}
+
+std::vector<Shot> StudyShots() {
+    return {
+        {"finder", Finder,
+         [] {
+             Zolv.Select_Car.SetText("Wisp 4");
+             Finder.SetVisible(true);
+             Finder.FreeRatios.SetChecked(true);
+             PressAndWait(Finder.Start);
+         }},
+        {"finder-straights", Finder,
+         [] {
+             Zolv.Select_Car.SetText("Series Mu");
+             Finder.FreeRearWing.SetChecked(true);
+             Finder.Goal.Pick(4);
+             EnterTrack();
+             PressAndWait(Finder.Start);
+         }},
+        {"finder-searching", Finder, [] { Finder.Start.Click(); }},
+        {"sweep", SweepPanel,
+         [] {
+             finderWork.Abandon();
+             SweepPanel.SetVisible(true);
+             PressAndWait(SweepPanel.Start);
+         }},
+        {"sweep-map", SweepPanel, SweepGearsOfMap},
+    };
 }
 
 std::vector<Shot> PageShots() {
@@ -208,6 +257,15 @@ std::vector<Shot> DocumentShots(const std::string& examples) {
              CustomPresets.New.Torque.Enter("210");
              CustomPresets.AddCar.Click();
          }},
+        {"finder", Finder,
+         [=] {
+             OpenSettingsFile(examples + "/wisp_4_track.zolv");
+             Finder.SetVisible(true);
+             Finder.Goal.Pick(4);
+             EnterTrack();
+             PressAndWait(Finder.Start);
+         }},
+        {"sweep", SweepPanel, SweepGearsOfMap},
     };
 }
 
@@ -290,7 +348,8 @@ int TakeAll(const QStringList& arguments) {
         desktop.Main().resize(size);
         return camera.Take(PageShots()) ? 0 : 1;
     }
-    if (!camera.Take(PageShots()) || !camera.Take(WindowShots()) || !TakeDialogs(camera)) return 1;
+    if (!camera.Take(PageShots()) || !camera.Take(WindowShots()) || !camera.Take(StudyShots()) || !TakeDialogs(camera))
+        return 1;
 
     desktop.TheBinding().Act([] { Zolv.Select_Car.SetText("Pell S"); });
     desktop.Main().resize(1, 1);  // as small as it gets

@@ -19,6 +19,7 @@
 
 #include "desktop/box_sliders.h"
 #include "desktop/canvas_view.h"
+#include "desktop/log_table.h"
 #include "desktop/picture_view.h"
 #include "desktop/run_table.h"
 #include "desktop/state_mark.h"
@@ -200,6 +201,15 @@ void Binding::Bind(TextBox& field, TextTable& table, const Field* caption) {
         table.setVisible(field.Visible());
         table.setToolTip(ToQt(field.ToolTip()));
         table.Show(field);
+    });
+}
+
+void Binding::Bind(TextBox& field, LogTable& table) {
+    Name(table, field);
+    OnChanged(field, [&] {
+        table.setVisible(field.Visible());
+        table.setAccessibleName(ToQt(field.ToolTip()));
+        table.Show(ToQt(field.Text()));
     });
 }
 

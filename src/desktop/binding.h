@@ -27,6 +27,7 @@ namespace zolv {
 
 class CanvasView;
 class PictureView;
+class LogTable;
 class RunTable;
 class TextTable;
 class ValueLabel;
@@ -48,6 +49,7 @@ public:
     void Bind(TextBox& field, QLineEdit& edit, const Field* caption = nullptr);
     void Bind(TextBox& field, RunTable& table, const Field* caption = nullptr);
     void Bind(TextBox& field, TextTable& table, const Field* caption = nullptr);
+    void Bind(TextBox& field, LogTable& table);
     void Bind(Slider& field, QSlider& slider, const Field* caption = nullptr);
     void Bind(PickList& field, QComboBox& box, const Field* caption = nullptr);
     void Bind(TabStrip& field, QTabBar& bar);

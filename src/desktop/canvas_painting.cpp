@@ -157,7 +157,9 @@ private:
         painter_.setRenderHint(QPainter::Antialiasing);
         painter_.setPen(Qt::NoPen);
         painter_.setBrush(ToQt(FillOf(circle)));
-        painter_.drawEllipse(QPointF(map_.X(circle.x1), map_.Y(circle.y1)), radius * map_.scaleX, radius * map_.scaleY);
+        // A dot on a curve stays round on a plot that is stretched.
+        const double scaleY = IsCurve(circle.meaning.role) ? map_.scaleX : map_.scaleY;
+        painter_.drawEllipse(QPointF(map_.X(circle.x1), map_.Y(circle.y1)), radius * map_.scaleX, radius * scaleY);
     }
 
     Strand& StrandOf(Meaning meaning, const StrokeStyle& style) {

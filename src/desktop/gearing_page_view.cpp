@@ -12,12 +12,14 @@
 #include <QRadioButton>
 #include <QSlider>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "desktop/canvas_painting.h"
 #include "desktop/canvas_view.h"
 #include "desktop/fault_mark.h"
+#include "desktop/log_table.h"
 #include "desktop/order_fault.h"
 #include "desktop/page_parts.h"
 #include "desktop/run_table.h"
@@ -31,6 +33,7 @@
 #include "gearing/mark_reasons.h"
 #include "gearing/run_columns.h"
 #include "plots/run_strip.h"
+#include "plots/run_view.h"
 #include "text/messages.h"
 #include "text/texts.h"
 #include "text/words.h"
@@ -147,11 +150,13 @@ GearingPageView::GearingPageView(Binding& binding, QWidget* parent) : QWidget(pa
     columns->addLayout(left, 2);
     left->addWidget(MakeDirections());
     left->addWidget(MakePanels());
+    left->addWidget(MakeAdvice());
     left->addWidget(MakeAcceleration(), 1);
 
     auto* const right = new QVBoxLayout;
     right->setSpacing(kGap);
     columns->addLayout(right, 3);
+    right->addWidget(MakeViews());
     right->addWidget(MakeChoices());
     right->addWidget(MakePlots(), 1);
     OnOrderChanged(binding_, [this] { ShowOrder(); });
@@ -380,8 +385,31 @@ QWidget* GearingPageView::MakeStrip(QWidget* parent) {
     return room;
 }
 
+/// What the shift points lose, under the gears. It keeps its two lines, so that nothing moves while a slider does.
+QWidget* GearingPageView::MakeAdvice() {
+    auto* const advice = new QLabel(this);
+    binding_.Bind(Zolv.ShiftAdvice, *advice);
+    advice->setWordWrap(true);
+    advice->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    advice->setFixedHeight(2 * advice->fontMetrics().lineSpacing());
+    advice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    advice->setForegroundRole(QPalette::PlaceholderText);
+    return advice;
+}
+
+/// The tabs above the plots.
+QWidget* GearingPageView::MakeViews() {
+    auto* const tabs = new QTabBar(this);
+    tabs->setExpanding(false);
+    tabs->setDrawBase(false);
+    tabs->setUsesScrollButtons(false);  // all three have room
+    binding_.Bind(Zolv.Select_RunView, *tabs);
+    return tabs;
+}
+
 QWidget* GearingPageView::MakeChoices() {
     auto* const choices = new QWidget(this);
+    binding_.OnChanged(Zolv.Select_RunView, [choices] { choices->setVisible(PresentRunView() == RunView::Graphs); });
     auto* const row = new QHBoxLayout(choices);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kGap);
@@ -409,7 +437,8 @@ QWidget* GearingPageView::MakePlots() {
     auto* const column = new QVBoxLayout(plots);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kGap);
-    for (CanvasField* field : {&Zolv.SpeedPlot, &Zolv.SpeedTimeGraph, &Zolv.TorquePlot, &Zolv.TractiveEffortPlot}) {
+    for (CanvasField* field :
+         {&Zolv.SpeedPlot, &Zolv.SpeedTimeGraph, &Zolv.TorquePlot, &Zolv.TractiveEffortPlot, &Zolv.ForcePlot}) {
         auto* const view = new CanvasView(*field, CanvasView::Shape::Stretched, plots);
         column->addWidget(view, 1);
         binding_.Bind(*field, *view);
@@ -418,6 +447,9 @@ QWidget* GearingPageView::MakePlots() {
     table_ = new RunTable(plots);
     column->addWidget(table_, 1);
     binding_.Bind(Zolv.AccelerationData, *table_, &Zolv.GearingLabel[39]);
+    log_ = new LogTable(plots);
+    column->addWidget(log_, 1);
+    binding_.Bind(Zolv.RunLog, *log_);
     return plots;
 }
 
@@ -432,6 +464,7 @@ void GearingPageView::ShowOrder() {
     for (ValueLabel* figure : others_) figure->SetStanding(older ? FigureStanding::Older : FigureStanding::Follows);
     for (QWidget* plot : plots_) Fade(*plot, older);
     table_->SetGreyed(older);
+    log_->SetGreyed(older);
 }
 
 void GearingPageView::ShowOrderOf(int mode, int gear, bool older) {

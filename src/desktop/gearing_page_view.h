@@ -10,6 +10,8 @@ class QGridLayout;
 
 namespace zolv {
 
+class LogTable;
+
 /// The gearing page: the rows of the gears in the direction chosen on the left, with the figures and a small plot of
 /// the run below them; the plots, or the table of the run, on the right.
 class GearingPageView : public QWidget {
@@ -27,6 +29,8 @@ private:
     void AddReverse(QGridLayout& grid, int mode);
     QWidget* MakeAcceleration();
     QWidget* MakeStrip(QWidget* parent);
+    QWidget* MakeViews();
+    QWidget* MakeAdvice();
     QWidget* MakeChoices();
     QWidget* MakeExport(QWidget* parent);
     QWidget* MakePlots();
@@ -48,6 +52,7 @@ private:
     std::vector<ValueLabel*> others_;  // figures that follow from all gears
     std::vector<QWidget*> plots_;
     RunTable* table_ = nullptr;
+    LogTable* log_ = nullptr;
 };
 
 }  // namespace zolv

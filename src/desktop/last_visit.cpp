@@ -18,6 +18,7 @@ namespace {
 const QString kPlace = QStringLiteral("Window/Place");
 const QString kPage = QStringLiteral("Window/Page");
 const QString kGraph = QStringLiteral("Window/Graph");
+const QString kRunView = QStringLiteral("Window/RunView");
 const QString kSetUp = QStringLiteral("SetUp/Settings");
 const QString kSpeedUnit = QStringLiteral("SetUp/SpeedUnit");  // the one of the speeds in it
 const QString kFromSpeeds = QStringLiteral("SetUp/FromSpeeds");
@@ -52,6 +53,7 @@ void LastVisit::BringBack() {
     }
     BringBackSetUp();
     Pick(Zolv.Select_Graphs, settings_.value(kGraph));
+    Pick(Zolv.Select_RunView, settings_.value(kRunView));
     Pick(Zolv.Select_Page, settings_.value(kPage));
     QMap<QString, QString> folders;
     settings_.beginGroup(kFolders);
@@ -76,6 +78,7 @@ void LastVisit::Keep() {
     settings_.setValue(kPlace, desktop_.Main().saveGeometry());
     settings_.setValue(kPage, Zolv.Select_Page.Picked());
     settings_.setValue(kGraph, Zolv.Select_Graphs.Picked());
+    settings_.setValue(kRunView, Zolv.Select_RunView.Picked());
     settings_.setValue(kSetUp, ToQt(PresentSettingsText()));
     settings_.setValue(kSpeedUnit, units.Speed.Unit);
     settings_.setValue(kFromSpeeds, Zolv.Direction2.Checked());

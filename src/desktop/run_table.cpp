@@ -1,23 +1,17 @@
 #include "desktop/run_table.h"
 
-#include <QClipboard>
-#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QMenu>
 #include <algorithm>
 
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "gearing/run_columns.h"
-#include "text/words.h"
 
 namespace zolv {
 namespace {
 
 constexpr int kGearColumn = 3;
-constexpr int kRowHeight = 18;
 constexpr int kCellRoom = 10;  // beside the text of a cell
 
 QString HeadOf(const RunColumn& column) {
@@ -72,22 +66,12 @@ QVariant RunModel::headerData(int section, Qt::Orientation orientation, int role
     return HeadOf(RunColumns()[static_cast<std::size_t>(section)]);
 }
 
-RunTable::RunTable(QWidget* parent) : QTableView(parent) {
+RunTable::RunTable(QWidget* parent) : CopiedTable(parent) {
     setModel(&model_);
-    setWordWrap(false);
-    setShowGrid(false);
-    setHorizontalScrollMode(ScrollPerPixel);
     setSelectionBehavior(SelectItems);
-    setTabKeyNavigation(false);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setMinimumSectionSize(1);
-    verticalHeader()->setDefaultSectionSize(std::max(kRowHeight, fontMetrics().height() + 2));
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignBottom | Qt::Alignment(Qt::TextWordWrap));
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(false);
 }
 
 void RunTable::SetStale() {
@@ -95,60 +79,19 @@ void RunTable::SetStale() {
     if (isVisible()) Fill();
 }
 
-void RunTable::SetGreyed(bool greyed) {
-    QPalette colours;
-    if (greyed) colours.setColor(QPalette::Text, palette().color(QPalette::Disabled, QPalette::Text));
-    setPalette(colours);
-}
-
-void RunTable::Copy() const {
-    QModelIndexList cells = selectionModel()->selectedIndexes();
-    std::sort(cells.begin(), cells.end());  // by row, then by column
-    QString text;
-    for (qsizetype i = 0; i < cells.size(); ++i) {
-        if (i > 0) text += QLatin1Char(cells[i].row() == cells[i - 1].row() ? '\t' : '\n');
-        text += cells[i].data().toString();
-    }
-    if (!cells.isEmpty()) QGuiApplication::clipboard()->setText(text);
-}
-
 void RunTable::showEvent(QShowEvent* event) {
-    QTableView::showEvent(event);
+    CopiedTable::showEvent(event);
     if (stale_) Fill();
 }
 
 void RunTable::resizeEvent(QResizeEvent* event) {
-    QTableView::resizeEvent(event);
+    CopiedTable::resizeEvent(event);
     SpreadColumns();
 }
 
 void RunTable::changeEvent(QEvent* event) {
-    QTableView::changeEvent(event);
+    CopiedTable::changeEvent(event);
     if (event->type() == QEvent::FontChange) MeasureColumns();
-}
-
-void RunTable::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy)) {
-        Copy();
-    } else {
-        QTableView::keyPressEvent(event);
-    }
-}
-
-void RunTable::contextMenuEvent(QContextMenuEvent* event) {
-    auto* const menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QModelIndex under = indexAt(event->pos());
-    menu->addAction(ToQt(words["CopyEntry"]), QKeySequence::Copy, this, [this] { Copy(); })
-        ->setEnabled(selectionModel()->hasSelection());
-    menu->addAction(ToQt(words["CopyRowEntry"]), this,
-                    [this, under] {
-                        selectRow(under.row());
-                        Copy();
-                    })
-        ->setEnabled(under.isValid());
-    menu->addAction(ToQt(words["SelectAllEntry"]), QKeySequence::SelectAll, this, [this] { selectAll(); });
-    menu->popup(event->globalPos());
 }
 
 void RunTable::Fill() {

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QTableView>
 #include <vector>
+
+#include "desktop/copied_table.h"
 
 namespace zolv {
 
@@ -24,28 +25,19 @@ private:
 };
 
 /// Shows the table of an acceleration run under a head that stays: units in the head, bare numbers below, the rows in
-/// which the gear changes tinted. A selection is copied as numbers, with tabs between them. A run is taken over only
-/// while the table is in view, so that one that is hidden costs nothing; selection and scroll position stay where the
-/// reader put them.
-class RunTable : public QTableView {
+/// which the gear changes tinted. A run is taken over only while the table is in view, so that one that is hidden costs
+/// nothing; selection and scroll position stay where the reader put them.
+class RunTable : public CopiedTable {
 public:
     explicit RunTable(QWidget* parent = nullptr);
 
     /// There is another run.
     void SetStale();
 
-    /// The figures no longer follow from what is set: they are greyed.
-    void SetGreyed(bool greyed);
-
-    /// Puts the selected numbers into the clipboard, a line for each row.
-    void Copy() const;
-
 protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void Fill();

@@ -90,7 +90,8 @@ public:
     }
 
     void Series(const ChartSeries& series) {
-        const Meaning meaning{series.role, series.held ? Standing::Held : Standing::Present};
+        const Standing present = series.doubtful ? Standing::Doubtful : Standing::Present;
+        const Meaning meaning{series.role, series.held ? Standing::Held : present};
         canvas_.SetLineWidth(series.held ? 1 : 2);
         for (std::size_t i = 0; i + 1 < series.points.size(); ++i) {
             Line(meaning, X(series.points[i].x), Y(series.points[i].y), X(series.points[i + 1].x),
@@ -110,6 +111,16 @@ public:
             Line(meaning, at, 0, at, all_.bottom);
         }
         canvas_.AddName(meaning, mark.name);
+    }
+
+    /// A ring is a disc with a smaller white one on it.
+    void Dot(const ChartDot& dot) {
+        const double radius = canvas_.Width() / 130;
+        const double x = X(dot.x);
+        const double y = Y(dot.y);
+        if (!(x >= 0 && x <= all_.right && y >= 0 && y <= all_.bottom)) return;
+        canvas_.FillCircle(dot.role, x, y, radius, ColourOf(Meaning(dot.role)));
+        if (dot.open) canvas_.FillCircle(dot.role, x, y, radius * 0.6, kWhite);
     }
 
 private:
@@ -166,6 +177,7 @@ void DrawChart(const Chart& chart, Canvas& canvas) {
     pen.Grid();
     for (const ChartMark& mark : chart.marks) pen.Mark(mark);
     for (const ChartSeries& series : chart.series) pen.Series(series);
+    for (const ChartDot& dot : chart.dots) pen.Dot(dot);
     canvas.SetLineWidth(1);
 }
 

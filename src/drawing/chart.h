@@ -37,6 +37,14 @@ struct ChartSeries {
     Role role = Role::Series1;
     std::vector<ChartPoint> points = {};  // with x ascending; one that is not finite is a gap
     bool held = false;                    // of the held set-up: thin and dashed
+    bool doubtful = false;                // drawn from a fit that failed: red
+};
+
+/// A point that stands out on a curve, in the colour of its role.
+struct ChartDot {
+    double x = 0, y = 0;
+    Role role = Role::Series1;
+    bool open = false;  // a ring; otherwise a disc
 };
 
 /// A straight line all across the plot at one value.
@@ -52,6 +60,7 @@ struct Chart {
     ChartAxis x, y;
     std::vector<ChartSeries> series = {};  // in drawing order, the last one on top
     std::vector<ChartMark> marks = {};
+    std::vector<ChartDot> dots = {};  // on top of all series
 };
 
 /// Clears the canvas and draws the chart over the whole of it; nothing leaves the range that is shown. A chart without

@@ -46,6 +46,7 @@ enum class Role : std::uint8_t {
     Speed,
     Drag,
     Downforce,
+    GripLimit,
     Series1,  // curves that differ in a number alone, as those of a sweep
     Series2,
     Series3,

@@ -146,6 +146,7 @@ public:
                          {1, 200, 60, 1, 5, 36}}};
     FieldRow<Label, 1, 6> Label_SPD{*this, "Label_SPD", [](int) { return Look{.caption = " m/s"}; }};
     PickList Select_Tyres2{*this, "Select_Tyres2"};
+    TabStrip Select_RunView{*this, "Select_RunView", 3};
     PickList Select_Graphs{*this, "Select_Graphs"};
     Panel ShowAcc{*this, "ShowAcc"};
     FieldArray<Label, 10> AccDataLabel{*this, "AccDataLabel"};
@@ -155,6 +156,9 @@ public:
     CanvasField SpeedTimeGraph{*this, "SpeedTimeGraph", 4635, 3015, {.visible = false}};
     TextBox AccelerationData{
         *this, "AccelerationData", {.locked = true, .multiLine = true, .look = {.visible = false}}};
+    CanvasField ForcePlot{*this, "ForcePlot", 4635, 3015, {.visible = false}};
+    TextBox RunLog{*this, "RunLog", {.locked = true, .multiLine = true, .look = {.visible = false}}};
+    Label ShiftAdvice{*this, "ShiftAdvice"};
 
     // Page 2: Tyres
     FieldArray<Label, 19> TyreLabel{*this, "TyreLabel"};

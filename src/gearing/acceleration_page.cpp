@@ -20,8 +20,6 @@
 namespace zolv {
 namespace {
 
-const AccelTargets& PresentTargets() { return AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)]; }
-
 std::span<const AccelRow> PresentRun() {
     return std::span(gearing.AccelRows).first(static_cast<std::size_t>(gearing.AccelLastRow) + 1);
 }
@@ -123,7 +121,8 @@ void ShowFigures(const AccelResults& results, double endSpeed) {
 void RunAcceleration() {
     // A car that stands shows the run before in its second row.
     const AccelRow second = gearing.AccelRows[1];
-    const AccelerationResult run = Accelerate(PresentAccelerationSetup(), gearing.AccelRows, second);
+    gearing.LastRun = PresentAccelerationSetup();
+    const AccelerationResult run = Accelerate(gearing.LastRun, gearing.AccelRows, second);
     gearing.AccelLastRow = static_cast<std::int16_t>(run.LastRow);
     aero.FrontWheelForce = run.FrontLoad;
     aero.RearWheelForce = run.RearLoad;

@@ -1,7 +1,6 @@
 #include "gearing/gearing_state.h"
 
 #include "aero/aero_state.h"
-#include "model/acceleration_targets.h"
 #include "tyres/tyre_state.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
@@ -35,7 +34,9 @@ ShiftRules PresentShiftRules() { return RulesOf(vehicle.CurrentCar, PresentShift
 
 AccelerationSetup PresentAccelerationSetup() {
     return RunOf(PresentRollingCar(), vehicle.CurrentCar, gearing.Curve, tyres.TyreMu, gearing.Present(),
-                 AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)].Distances[1]);
+                 PresentTargets().Distances[1]);
 }
+
+const AccelTargets& PresentTargets() { return AccelTargetTable[static_cast<std::size_t>(units.Speed.Unit)]; }
 
 }  // namespace zolv

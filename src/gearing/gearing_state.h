@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "model/acceleration_run.h"
+#include "model/acceleration_targets.h"
 #include "model/engine_curve.h"
 #include "model/gearbox.h"
 #include "platform/hook.h"
@@ -28,6 +29,7 @@ struct GearingState {
 
     RunRows AccelRows{};
     std::int16_t AccelLastRow = -1;
+    AccelerationSetup LastRun;  // with what the run in AccelRows was driven
 
     /// What the driver gives on the page in force.
     [[nodiscard]] Direction From() const { return RatiosMode ? Direction::FromRatios : Direction::FromSpeeds; }
@@ -51,5 +53,8 @@ inline GearingFollowUps gearingFollowUps;
 
 /// The car with the gearbox of the page that is the input, ready to start.
 [[nodiscard]] AccelerationSetup PresentAccelerationSetup();
+
+/// The speeds and distances whose times are shown, by the unit of speed.
+[[nodiscard]] const AccelTargets& PresentTargets();
 
 }  // namespace zolv

@@ -55,6 +55,10 @@ std::string CsvCell(const std::string& text) {
 
 }  // namespace
 
+std::string TitleOf(const std::string& caption) {
+    return caption.ends_with(':') ? caption.substr(0, caption.size() - 1) : caption;
+}
+
 std::vector<RunColumn> RunColumns() {
     const std::string speed = UnitOf(units.Speed.Suffix);
     const std::string force = UnitOf(units.Force.Suffix);

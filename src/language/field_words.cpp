@@ -21,7 +21,8 @@ struct Place {
     int tab = -1;  // of a strip; -1 is the field itself
 };
 
-/// Place of a name such as "FileOpen", "GearR.ToolTip" or "Select_Page(1).ToolTip"; no field for any other.
+/// Place of a name such as "FileOpen", "GearR.ToolTip", "Select_RunView(1)" or "Select_Page(1).ToolTip"; no field for
+/// any other.
 Place PlaceOf(std::string_view name) {
     Place place{.toolTip = name.ends_with(kToolTip)};
     if (place.toolTip) name.remove_suffix(kToolTip.size());
@@ -30,7 +31,7 @@ Place PlaceOf(std::string_view name) {
         return place;
     }
     const auto bracket = name.find('(');
-    if (!place.toolTip || bracket == std::string_view::npos) return {};
+    if (bracket == std::string_view::npos) return {};
     place.tab = static_cast<int>(Val(name.substr(bracket + 1)));
     const std::vector<Field*> found = FindFields(name.substr(0, bracket));
     if (found.size() == 1 && found.front()->Kind() == FieldKind::TabStrip) place.field = found.front();
@@ -46,8 +47,10 @@ void AssignFieldWords() {
         const Place place = PlaceOf(kWordTable[row].name);
         if (place.field == nullptr) continue;
         const std::string& text = words.OfRow(row);
-        if (place.tab >= 0) {
+        if (place.tab >= 0 && place.toolTip) {
             static_cast<TabStrip&>(*place.field).SetToolTipOf(place.tab, text);
+        } else if (place.tab >= 0) {
+            static_cast<TabStrip&>(*place.field).SetRow(place.tab, text);
         } else if (place.toolTip) {
             place.field->SetToolTip(text);
         } else {

@@ -7,6 +7,7 @@
 #include "model/gearbox.h"
 #include "model/run_rows.h"
 #include "model/run_setup.h"
+#include "model/run_steps.h"
 
 namespace zolv {
 
@@ -32,5 +33,21 @@ struct AccelerationResult {
 /// @param secondOfStanding  the second row of a car that cannot move off
 AccelerationResult Accelerate(const AccelerationSetup& setup, std::span<AccelRow, kAccelRows> rows,
                               const AccelRow& secondOfStanding = {});
+
+/// The same run, step by step before the eyes of `sink`, which is told what happens (see Unwatched), gets each row by
+/// Takes(row), and at last why the run ended by Ends(why).
+/// @return the last row
+template <class Sink>
+int DriveBefore(Sink& sink, const AccelerationSetup& setup) {
+    RunSteps run(setup);
+    int last = -1;
+    do {
+        run.Step(sink);
+        sink.Takes(run.Row());
+        ++last;
+    } while (run.GoesOn() && last < kAccelRows - 1);
+    sink.Ends(run.Stands() ? RunEnd::Stands : run.GoesOn() ? RunEnd::TimeIsOver : RunEnd::GainsNoMore);
+    return last;
+}
 
 }  // namespace zolv

@@ -1,5 +1,7 @@
 #include "model/acceleration_targets.h"
 
+#include <algorithm>
+
 namespace zolv {
 
 AccelResults ResultsOf(std::span<const AccelRow> rows, const AccelTargets& targets) {
@@ -17,6 +19,19 @@ AccelResults ResultsOf(std::span<const AccelRow> rows, const AccelTargets& targe
         }
     }
     return results;
+}
+
+std::optional<Passing> PassingOf(std::span<const AccelRow> rows, AccelColumn column, double value) {
+    const auto beyond = std::ranges::find_if(rows, [&](const AccelRow& row) { return row[column] > value; });
+    if (beyond == rows.end()) return {};
+    const auto index = static_cast<double>(beyond - rows.begin());
+    const AccelRow before = beyond == rows.begin() ? AccelRow{} : *(beyond - 1);
+    const double share = (value - before[column]) / (static_cast<double>((*beyond)[column]) - before[column]);
+    const auto between = [&](AccelColumn of) {
+        return before[of] + share * (static_cast<double>((*beyond)[of]) - before[of]);
+    };
+    return Passing{std::max(0.0, (index - 1 + share) * kTimeStep), between(AccelColumn::Distance),
+                   between(AccelColumn::Speed)};
 }
 
 }  // namespace zolv

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <span>
 
 #include "model/acceleration_run.h"
@@ -37,5 +38,16 @@ struct AccelResults {
 /// The first row that passes a target counts; there is no interpolation between rows.
 /// @param rows  of the run, from its first to its last
 [[nodiscard]] AccelResults ResultsOf(std::span<const AccelRow> rows, const AccelTargets& targets);
+
+/// Where a run passes a value of one of its columns, on the straight line from the row before to the first row beyond.
+/// The time is the table's, which has 0 s at row 0.
+struct Passing {
+    double Time = 0;      // [s], 0 or more
+    double Distance = 0;  // [m]
+    double Speed = 0;     // [m/s]
+};
+/// @param column  Distance or Speed
+/// @return none where no row is beyond `value`
+[[nodiscard]] std::optional<Passing> PassingOf(std::span<const AccelRow> rows, AccelColumn column, double value);
 
 }  // namespace zolv

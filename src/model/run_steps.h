@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "model/aero_model.h"
+#include "model/run_events.h"
 #include "model/run_rows.h"
 #include "model/run_setup.h"
 #include "model/tyre_geometry.h"
@@ -28,7 +29,14 @@ public:
     RunSteps(const AccelerationSetup& setup, double entrySpeed);
 
     /// Drives one step of 0.05 s.
-    void Step();
+    void Step() {
+        Unwatched nobody;
+        Step(nobody);
+    }
+
+    /// The same step, digit for digit; the sink is told what happens in it.
+    template <class Sink>
+    void Step(Sink& sink);
 
     /// Whether another step follows, apart from the room for rows.
     [[nodiscard]] bool GoesOn() const { return !gainsNoMore_ && !stands_; }
@@ -44,12 +52,10 @@ public:
     [[nodiscard]] AccelRow Row() const;
 
 private:
-    static constexpr double kCentreOfGravity = 0.45;  // [m] above the road, for every car
-    static constexpr double kShiftTime = 0.4;         // [s] the drive is cut for a gear change
-    static constexpr double kShiftOver = 0.01;        // [s] less than this left is none left
-    static constexpr double kLaunchFactor = 2.5;      // launch speed of the engine over idle speed
-    static constexpr double kNoGain = 5;              // [N] of net force
-    static constexpr double kStandstill = 0.0001;     // [m/s]
+    static constexpr double kShiftTime = 0.4;      // [s] the drive is cut for a gear change
+    static constexpr double kShiftOver = 0.01;     // [s] less than this left is none left
+    static constexpr double kNoGain = 5;           // [N] of net force
+    static constexpr double kStandstill = 0.0001;  // [m/s]
 
     void LoadAxles(const AirForces& air);
     [[nodiscard]] double TorqueIn(std::size_t gear) const;
@@ -59,7 +65,8 @@ private:
     [[nodiscard]] double RevsIn(std::size_t gear) const;
     [[nodiscard]] std::size_t TopGear() const;
     void HoldByClutch();
-    void TurnEngine();
+    template <class Sink>
+    void TurnEngine(Sink& sink);
     void PickStrongestGear();
 
     const AccelerationSetup& setup_;
@@ -97,7 +104,8 @@ inline RunSteps::RunSteps(const AccelerationSetup& setup, double entrySpeed) : R
     PickStrongestGear();
 }
 
-inline void RunSteps::Step() {
+template <class Sink>
+void RunSteps::Step(Sink& sink) {
     const AirForces air = ForcesInRunAt(speed_, air_);
     LoadAxles(air);
     double torque = TorqueIn(gear_);
@@ -106,9 +114,10 @@ inline void RunSteps::Step() {
         torque = 0;
     }
     force_ = ForceOf(torque);
+    sink.Pulls(force_, GripLimit(), shifting_);
     resistance_ = air.TotalFriction;
     Move();
-    TurnEngine();
+    TurnEngine(sink);
     gainsNoMore_ = !shifting_ && distance_ > setup_.LongDistance && net_ < kNoGain;
     if (gainsNoMore_) return;
     if (shiftTimer_ < kShiftOver) shifting_ = false;
@@ -179,19 +188,24 @@ inline std::size_t RunSteps::TopGear() const {
 inline void RunSteps::HoldByClutch() {
     clutchSlipping_ = revs_ < launchRevs_;
     if (clutchSlipping_) {
-        clutchFactor_ = static_cast<float>(0.5 + (revs_ / launchRevs_) / 2);
+        clutchFactor_ = ClutchShare(revs_, launchRevs_);
         revs_ = launchRevs_;
     }
 }
 
 /// The engine at the new road speed; then the change up. The clutch is not looked at again behind a change, so that an
 /// engine can stand below the launch speed for one step.
-inline void RunSteps::TurnEngine() {
+template <class Sink>
+void RunSteps::TurnEngine(Sink& sink) {
+    const bool slipped = clutchSlipping_;
     revs_ = RevsIn(gear_);
     HoldByClutch();
+    if (slipped && !clutchSlipping_) sink.ClutchCloses();
     if (revs_ > setup_.ShiftRevs[gear_] && gear_ < TopGear()) {
         ++gear_;
+        const double before = revs_;
         revs_ = RevsIn(gear_);
+        sink.ChangesUp(gear_ - 1, before, revs_);
         shifting_ = true;
         shiftTimer_ = kShiftTime;
     }

@@ -2,6 +2,7 @@
 
 #include "fields/windows.h"
 #include "plots/run_plots.h"
+#include "plots/run_view.h"
 #include "plots/speed_plot.h"
 #include "plots/torque_plot.h"
 #include "text/texts.h"
@@ -10,8 +11,11 @@
 namespace zolv {
 namespace {
 
-/// Whether the list shows the graphs of that row, told by the exact name.
-bool IsChosen(std::size_t row) { return Zolv.Select_Graphs.Text() == texts.GraphNames[row]; }
+/// Whether the list picks the graphs of that row, told by the exact name.
+bool IsPicked(std::size_t row) { return Zolv.Select_Graphs.Text() == texts.GraphNames[row]; }
+
+/// Whether they are to be seen.
+bool IsChosen(std::size_t row) { return PresentRunView() == RunView::Graphs && IsPicked(row); }
 
 /// A redraw must not cover the table, which is why a list that shows neither page of canvases hides all four.
 void ShowChosenCanvases() {
@@ -32,12 +36,21 @@ void DrawGearingPlots() {
         DrawSpeedTimeGraph();
     }
     ShowChosenCanvases();
+    RefreshRunView();
 }
 
 void ShowChosenGraph() {
-    if (!IsChosen(0) && !IsChosen(1) && !IsChosen(2)) return;
+    if (!IsPicked(0) && !IsPicked(1) && !IsPicked(2)) return;
     ShowChosenCanvases();
     Zolv.AccelerationData.SetVisible(IsChosen(2));
+}
+
+void ShowChosenRunView() {
+    ShowChosenCanvases();
+    Zolv.AccelerationData.SetVisible(IsChosen(2));
+    Zolv.ForcePlot.SetVisible(PresentRunView() == RunView::Forces);
+    Zolv.RunLog.SetVisible(PresentRunView() == RunView::Log);
+    RefreshRunView();
 }
 
 }  // namespace zolv

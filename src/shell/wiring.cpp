@@ -20,6 +20,7 @@
 #include "platform/dialogs.h"
 #include "plots/engine_plot.h"
 #include "plots/gearing_plots.h"
+#include "plots/run_view.h"
 #include "shell/start_up.h"
 #include "studies/finder_inputs.h"
 #include "studies/finder_page.h"
@@ -135,7 +136,11 @@ void WireMenus() {
 
 void WireCarAndPages() {
     Zolv.Select_Car.OnClick = SelectCar;
-    Zolv.Select_Page.OnClick = [] { Zolv.Page[Zolv.Select_Page.Picked()].BringToFront(); };
+    Zolv.Select_Page.OnClick = [] {
+        Zolv.Page[Zolv.Select_Page.Picked()].BringToFront();
+        RefreshRunView();
+    };
+    Zolv.Select_RunView.OnClick = ShowChosenRunView;
     Zolv.Select_Graphs.OnClick = ShowChosenGraph;
     Zolv.Select_Tyres.OnClick = PickTyreType;
     Zolv.Select_Tyres2.OnClick = PickTyreTypeOnGearingPage;
@@ -249,6 +254,7 @@ void WireUnits() {
     unitFollowUps.Acc = [] {
         ShowCarInfo();
         RunAcceleration();
+        RefreshRunView();
     };
     unitFollowUps.Power = [] {
         ShowCarInfo();
@@ -277,7 +283,10 @@ void WireOptionsPanel() {
     OptionsPanel.RC_Auto.OnClick = ChooseAutoRevs;
     OptionsPanel.RC_Fixed.OnClick = ChooseFixedRevs;
     OptionsPanel.RC_FixedVal.OnChange = ChangeFixedRevs;
-    OptionsPanel.AccelerationTestingEnable.OnClick = SwitchAcceleration;
+    OptionsPanel.AccelerationTestingEnable.OnClick = [] {
+        SwitchAcceleration();
+        RefreshRunView();  // without runs there is no log
+    };
     OptionsPanel.OptionsLoad.OnClick = LoadOptions;
     OptionsPanel.OptionsSave.OnClick = SaveOptions;
 }

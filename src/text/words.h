@@ -18,6 +18,7 @@ struct WordRow {
 
 /// In the order of their names. A name is
 ///     that of a field, for its caption (a window's, its title): "CustomPresets", "UnitConv.Select_MassUnits"
+///     one tab of a strip, for its caption: "Select_RunView(1)"
 ///     a field's and ".ToolTip", also of one tab of a strip: "GearR.ToolTip", "Select_Page(1).ToolTip"
 ///     any other, for a word that code uses: words["Degrees"]
 // clang-format off
@@ -65,6 +66,7 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"DistanceNautical", "Nautical mile ET:"},
     {"DistanceQuarter", "Quarter mile ET:"},
     {"DistanceQuarterNautical", "¼ nautical mile ET:"},
+    {"DoesNotMoveOff", "The car does not move off"},
     {"Downforce", "Downforce"},
     {"EngineCurve", "Engine"},
     {"EngineSpeed", "Engine speed"},
@@ -106,6 +108,10 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"FinderWishesLeaveNothing", "No angle of the wings gives the downforce and the balance that are wished for."},
     {"FolderUnusable", "The folder {0} cannot be used: {1}"},
     {"Force", "Force"},
+    {"ForceGrip", "Limit of grip"},
+    {"ForcePlot.ToolTip", "Discs: from here on the next gear pulls harder. Rings: here you change up."},
+    {"ForceReached", "Reaches {0}"},
+    {"ForceReachedAtLimiter", "Limiter at {0}"},
     {"FoundFor", "Found for {0} among {1} set-ups tried."},
     {"FrontLoad", "Front load"},
     {"FrontLoadResult", "Load on Front Wheels"},
@@ -141,6 +147,20 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"LoadInFront", "Load in Front"},
     {"LoadOverWeight", "Load over Weight"},
     {"LocaleCode", "en"},  // of the language, for the words of the system's own dialogs: "de", "pt_BR"
+    {"LogChangeUp", "Change up, {0} to {1}"},
+    {"LogClutchCloses", "Clutch closes"},
+    {"LogCurveNotFitted", "The engine's curve could not be fitted"},
+    {"LogDistance", "Distance driven"},
+    {"LogEndNoGain", "End: no more gain"},
+    {"LogEndTime", "End: 90 s are over"},
+    {"LogEvent", "Event"},
+    {"LogGripLeft", "Limit of grip left"},
+    {"LogLargestAcceleration", "Largest acceleration"},
+    {"LogNeverHarder", "{0} pulls no harder up to the limiter"},
+    {"LogPullsHarder", "{0} pulls harder from {1}"},
+    {"LogPullsHarderEarly", "{0} pulls harder from {1}, {2} early"},
+    {"LogPullsHarderLate", "{0} pulls harder from {1}, {2} late"},
+    {"LogRemark", "Remark"},
     {"LongerThan", "Longer than {0} bytes"},
     {"MU.ToolTip", "This affects how much grip the tyre has"},
     {"ManualMissing", "There is no file \"{0}\". The manual is to be had at https://example.org/zolv/, and scripts/manual builds it from the sources."},
@@ -188,6 +208,7 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"RimDiameterTooSmall", "Rim Diameter cannot be less than 1mm"},
     {"RimSizeInput.ToolTip", "Input the rim height in mm"},
     {"RollingResistanceResult", "Rolling Resistance"},
+    {"RunLog.ToolTip", "What happens in the run, from the start to its end"},
     {"SaveAsCsv", "Save as CSV"},
     {"SaveAsPng", "Save as PNG"},
     {"SaveAsPngEntry", "Save as &PNG..."},
@@ -205,6 +226,10 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"Select_Page(3).ToolTip", "Analyse all the forces on the car caused by the vehicles aerodynamic properties"},
     {"Select_PressureF.ToolTip", "Change the pressure to see how this affects deformation."},
     {"Select_PressureR.ToolTip", "Change the pressure to see how this affects deformation."},
+    {"Select_RunView(0)", "Graphs"},
+    {"Select_RunView(1)", "Force vs Speed"},
+    {"Select_RunView(2)", "Log of the Run"},
+    {"ShiftAdviceLoses", "These shift points lose {0} against changing up where the next gear begins to pull harder ({1})"},
     {"ShiftPointNumber", "Shift Point {0}"},
     {"ShiftSpeedNumber", "Shift Speed {0}"},
     {"ShorterThanGearBelow", "Shorter than the gear below it"},

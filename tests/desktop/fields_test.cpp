@@ -16,6 +16,7 @@
 #include <set>
 
 #include "desktop/canvas_view.h"
+#include "desktop/log_table.h"
 #include "desktop/picture_view.h"
 #include "desktop/run_table.h"
 #include "desktop/text_table.h"
@@ -44,7 +45,7 @@ bool Suits(FieldKind kind, const QObject* object) {
         case FieldKind::Panel: return IsOneOf<QWidget>(object);
         case FieldKind::MenuEntry: return IsOneOf<QAction>(object);
         case FieldKind::Button: return IsOneOf<QPushButton>(object);
-        case FieldKind::TextBox: return IsOneOf<QLineEdit, RunTable, TextTable>(object);
+        case FieldKind::TextBox: return IsOneOf<QLineEdit, LogTable, RunTable, TextTable>(object);
         case FieldKind::Slider: return IsOneOf<QSlider>(object);
         case FieldKind::PickList: return IsOneOf<QComboBox, QListWidget>(object);
         case FieldKind::TabStrip: return IsOneOf<QTabBar>(object);

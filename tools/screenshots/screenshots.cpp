@@ -148,8 +148,16 @@ std::vector<Shot> PageShots() {
              Zolv.Select_Graphs.Pick(1);
          }},
         {"gearing-table", Zolv, [] { Zolv.Select_Graphs.Pick(2); }},
+        {"gearing-forces", Zolv,
+         [] {
+             Zolv.Select_RunView.Pick(1);
+             OptionsPanel.RC_Fixed.Choose();
+         }},
+        {"gearing-log", Zolv, [] { Zolv.Select_RunView.Pick(2); }},
         {"gearing-speeds", Zolv,
          [] {
+             OptionsPanel.RC_Auto.Choose();
+             Zolv.Select_RunView.Pick(0);
              Zolv.Select_Graphs.Pick(0);
              Zolv.Direction2.Choose();
          }},
@@ -233,6 +241,8 @@ std::vector<Shot> DocumentShots(const std::string& examples) {
              Zolv.Ratios.FinalDrive.Enter("3.5");
              Zolv.Select_Graphs.Pick(1);
          }},
+        {"forces", Zolv, [] { Zolv.Select_RunView.Pick(1); }},
+        {"log", Zolv, [] { Zolv.Select_RunView.Pick(2); }},
         {"tyres", Zolv,
          [=] {
              OpenSettingsFile(examples + "/sable_t_road.zolv");

@@ -252,6 +252,12 @@ void ZolvStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     }
 }
 
+int ZolvStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;  // buttons are plain in dialogs, too
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 int ZolvStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     if (metric == PM_HeaderMargin)
         return QProxyStyle::pixelMetric(PM_FocusFrameHMargin, option, widget) + 1;  // as a cell

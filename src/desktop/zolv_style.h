@@ -4,7 +4,7 @@
 
 namespace zolv {
 
-/// Set on a box whose text is to be mended: it gets a frame in the colour of a fault.
+/// Set on a box or a list whose content is to be mended: it gets a frame in the colour of a fault.
 inline constexpr const char* kFaultyProperty = "faulty";
 
 /// A plain look on top of Fusion: flat buttons, lists and tabs, sliders whose handle can be told on every ground,
@@ -19,6 +19,8 @@ public:
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget) const override;

@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/theme.h"
 
@@ -32,14 +33,31 @@ public:
     QSize minimumSizeHint() const override { return Fitted(widget()->minimumSizeHint()); }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
-        return QScrollArea::eventFilter(watched, event);
+        const bool done = QScrollArea::eventFilter(watched, event);
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+            updateGeometry();
+            MakeRoom();
+        }
+        return done;
     }
 
 private:
+    /// Lines that wrap, or whose letters are higher, make the body higher than a window that is open: the window grows
+    /// with it as far as the screen goes.
+    void MakeRoom() {
+        if (!isVisible() || !widget()->hasHeightForWidth()) return;
+        QWidget& top = *window();
+        const int lack = widget()->heightForWidth(viewport()->width()) - viewport()->height();
+        const int room = screen()->availableGeometry().bottom() - top.frameGeometry().bottom();
+        if (lack > 0 && room > 0) top.resize(top.width(), top.height() + std::min(lack, room));
+    }
+
     QSize Fitted(QSize wanted) const {
         constexpr QSize kRoomAround(2 * kMargin, 120);  // the window's frame, title and buttons
         const QSize room = screen()->availableSize() - kRoomAround;
+        if (widget()->hasHeightForWidth()) {
+            wanted.setHeight(std::max(wanted.height(), widget()->heightForWidth(wanted.width())));
+        }
         if (wanted.height() > room.height()) wanted.rwidth() += verticalScrollBar()->sizeHint().width();
         if (wanted.width() > room.width()) wanted.rheight() += horizontalScrollBar()->sizeHint().height();
         return wanted.boundedTo(room);

@@ -402,7 +402,8 @@ QWidget* GearingPageView::MakeViews() {
     auto* const tabs = new QTabBar(this);
     tabs->setExpanding(false);
     tabs->setDrawBase(false);
-    tabs->setUsesScrollButtons(false);  // all three have room
+    tabs->setUsesScrollButtons(false);
+    tabs->setElideMode(Qt::ElideRight);  // on a small screen, before the page gets wider than that
     binding_.Bind(Zolv.Select_RunView, *tabs);
     return tabs;
 }

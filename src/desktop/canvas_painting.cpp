@@ -157,8 +157,10 @@ private:
         painter_.setRenderHint(QPainter::Antialiasing);
         painter_.setPen(Qt::NoPen);
         painter_.setBrush(ToQt(FillOf(circle)));
-        // A dot on a curve stays round on a plot that is stretched.
-        const double scaleY = IsCurve(circle.meaning.role) ? map_.scaleX : map_.scaleY;
+        const Role role = circle.meaning.role;
+        // A dot on a curve or a map stays round on a plot that is stretched.
+        const bool isDot = IsCurve(role) || role == Role::PresentPoint || role == Role::BestPoint;
+        const double scaleY = isDot ? map_.scaleX : map_.scaleY;
         painter_.drawEllipse(QPointF(map_.X(circle.x1), map_.Y(circle.y1)), radius * map_.scaleX, radius * scaleY);
     }
 

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/note_lines.h"
 #include "desktop/page_parts.h"
 #include "desktop/straights_table.h"
 #include "desktop/text_table.h"
@@ -27,13 +28,6 @@ namespace {
 
 constexpr int kNumberCharacters = 7;
 constexpr int kBoundCharacters = 6;
-
-/// A line of words that wraps.
-QLabel* MakeLines(Binding& binding, Label& field, QWidget* parent) {
-    QLabel* const label = MakeWords(binding, field, parent);
-    label->setWordWrap(true);
-    return label;
-}
 
 QTableView* MakeTable(Binding& binding, TextBox& field, QWidget* parent, const Field& caption) {
     auto* const table = new TextTable(parent);
@@ -54,8 +48,8 @@ FinderView::FinderView(Binding& binding, QWidget* parent) : SecondaryWindow(bind
     columns->addLayout(asked);
     auto* const given = new QVBoxLayout;
     given->setSpacing(kSection);
-    given->addWidget(MakeResult(), 1);
-    given->addWidget(MakeStraights(), 1);
+    given->addWidget(MakeResult(), 2);
+    given->addWidget(MakeStraights(), 3);
     columns->addLayout(given, 1);
     AddButtons({}, {&Finder.CloseFinder});
     Complete();
@@ -136,7 +130,7 @@ QGroupBox* FinderView::MakeWishes() {
     grid->addWidget(MakeWords(Fields(), Finder.DownforceAt, group), 2, 0, Qt::AlignRight);
     number(Finder.DownforceSpeed, Finder.DownforceSpeedUnit, Finder.WishDownforce, 2);
     grid->addWidget(Make<QCheckBox>(Finder.WishBalance, group), 3, 0, 1, 3);
-    grid->addWidget(MakeLines(Fields(), Finder.Note, group), 4, 0, 1, 3);
+    grid->addWidget(MakeNoteLines(Fields(), Finder.Note, group, 3), 4, 0, 1, 3);
     grid->setColumnStretch(0, 1);
     return group;
 }
@@ -155,7 +149,7 @@ QGroupBox* FinderView::MakeResult() {
                  .progress = Finder.Progress,
                  .running = [] { return finderWork.Running(); },
                  .done = [] { return finder.Done; }});
-    column->addWidget(MakeLines(Fields(), Finder.Status, group));
+    column->addWidget(MakeNoteLines(Fields(), Finder.Status, group, 2));
 
     auto* const figures = new QHBoxLayout;
     figures->setSpacing(kGap);
@@ -202,7 +196,7 @@ QGroupBox* FinderView::MakeStraights() {
         &StraightsTable::RemoveStraights);
     column->addLayout(row);
     column->addWidget(table, 1);
-    column->addWidget(MakeLines(Fields(), Finder.StraightsNote, group));
+    column->addWidget(MakeNoteLines(Fields(), Finder.StraightsNote, group, 2));
     column->addWidget(MakeTable(Fields(), Finder.StraightTimes, group, Finder.StraightsFrame), 1);
     return group;
 }

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/canvas_view.h"
+#include "desktop/note_lines.h"
 #include "desktop/page_parts.h"
 #include "desktop/text_table.h"
 #include "desktop/texts_of_qt.h"
@@ -24,6 +25,7 @@ namespace {
 
 constexpr int kNumberCharacters = 7;
 constexpr int kStepCharacters = 5;
+constexpr int kTableWidth = 250;
 
 /// A plot that a sweep of two inputs fills well.
 class LargePlot : public CanvasView {
@@ -42,9 +44,7 @@ SweepView::SweepView(Binding& binding, QWidget* parent) : SecondaryWindow(bindin
     column->setSpacing(kMargin);
     column->addLayout(MakeInputs());
     column->addLayout(MakeWork());
-    QLabel* const status = MakeWords(binding, SweepPanel.Status, Body());
-    status->setWordWrap(true);
-    column->addWidget(status);
+    column->addWidget(MakeNoteLines(binding, SweepPanel.Status, Body(), 2));
 
     auto* const shown = new QSplitter(Body());
     auto* const plot = new LargePlot(SweepPanel.Plot, CanvasShape::Stretched, shown);
@@ -58,6 +58,7 @@ SweepView::SweepView(Binding& binding, QWidget* parent) : SecondaryWindow(bindin
     shown->setStretchFactor(0, 3);
     shown->setStretchFactor(1, 1);
     shown->setChildrenCollapsible(false);
+    table->setMinimumWidth(kTableWidth);
     column->addWidget(shown, 1);
     column->addLayout(MakePoint());
     AddButtons({&SweepPanel.SaveCsv, &SweepPanel.SaveSvg}, {&SweepPanel.CloseSweep});
@@ -133,6 +134,7 @@ void SweepView::AddSavePng(CanvasView& plot) {
     Fields().OnChanged(SweepPanel.SaveSvg, [button] {  // its words come with the language
         button->setText(ToQt(words["SavePng"]));
         button->setAccessibleName(button->text());
+        button->setMinimumWidth(button->sizeHint().width() + 2 * kGap);  // as the buttons beside it
     });
     AddNote(button);
 }

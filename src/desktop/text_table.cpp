@@ -50,7 +50,7 @@ Qt::ItemFlags TextTableModel::flags(const QModelIndex& index) const {
 }
 
 bool TextTableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (!OnEdit || role != Qt::EditRole) return false;
+    if (!OnEdit || !index.isValid() || role != Qt::EditRole) return false;
     OnEdit(index.row(), index.column(), value.toString());
     return true;
 }
@@ -72,7 +72,7 @@ TextTable::TextTable(QWidget* parent) : QTableView(parent) {
     setFocusPolicy(Qt::NoFocus);
 }
 
-QSize TextTable::sizeHint() const { return {420, 170}; }
+QSize TextTable::sizeHint() const { return {500, 170}; }
 
 void TextTable::Show(const TextBox& field) {
     field_ = &field;

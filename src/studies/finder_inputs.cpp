@@ -159,6 +159,7 @@ void ShowGoalBoxes() {
     };
     show({&Finder.FromSpeedCaption, &Finder.FromSpeed, &Finder.FromSpeedUnit}, between);
     show({&Finder.ToSpeedCaption, &Finder.ToSpeed, &Finder.ToSpeedUnit}, between || kind == GoalKind::ToSpeed);
+    Finder.StraightsFrame.SetVisible(kind == GoalKind::AlongStraights);
     show({&Finder.DistanceCaption, &Finder.Distance, &Finder.DistanceUnit}, kind == GoalKind::OverDistance);
 }
 

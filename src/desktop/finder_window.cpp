@@ -29,8 +29,10 @@ namespace {
 constexpr int kNumberCharacters = 7;
 constexpr int kBoundCharacters = 6;
 
-QTableView* MakeTable(Binding& binding, TextBox& field, QWidget* parent, const Field& caption) {
+/// @param rows  for which there is always room
+QTableView* MakeTable(Binding& binding, TextBox& field, QWidget* parent, const Field& caption, int rows) {
     auto* const table = new TextTable(parent);
+    table->KeepRoomFor(rows);
     binding.Bind(field, *table, &caption);
     return table;
 }
@@ -164,7 +166,7 @@ QGroupBox* FinderView::MakeResult() {
     Fields().OnChanged(Finder.Table, [takeOver] { takeOver->setEnabled(finder.Find.has_value()); });
     figures->addWidget(takeOver);
     column->addLayout(figures);
-    column->addWidget(MakeTable(Fields(), Finder.Table, group, Finder.ResultFrame), 1);
+    column->addWidget(MakeTable(Fields(), Finder.Table, group, Finder.ResultFrame, 8), 1);
     return group;
 }
 
@@ -174,6 +176,7 @@ QGroupBox* FinderView::MakeStraights() {
     SetGroupMargins(*column);
     column->setSpacing(kGap);
     auto* const table = new StraightsTable(Fields(), Finder.Straights, Finder.StraightsFrame, group);
+    table->KeepRoomFor(5);
     auto* const row = new QHBoxLayout;
     row->setSpacing(kGap);
     row->addWidget(MakeButton(Finder.StraightsOpen, group));
@@ -197,7 +200,7 @@ QGroupBox* FinderView::MakeStraights() {
     column->addLayout(row);
     column->addWidget(table, 1);
     column->addWidget(MakeNoteLines(Fields(), Finder.StraightsNote, group, 2));
-    column->addWidget(MakeTable(Fields(), Finder.StraightTimes, group, Finder.StraightsFrame), 1);
+    column->addWidget(MakeTable(Fields(), Finder.StraightTimes, group, Finder.StraightsFrame, 6), 1);
     return group;
 }
 

@@ -74,6 +74,10 @@ TextTable::TextTable(QWidget* parent) : QTableView(parent) {
 
 QSize TextTable::sizeHint() const { return {500, 170}; }
 
+void TextTable::KeepRoomFor(int rows) {
+    setMinimumHeight((rows + 2) * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
+}
+
 void TextTable::Show(const TextBox& field) {
     field_ = &field;
     stale_ = true;

@@ -41,6 +41,9 @@ public:
     /// The text has changed.
     void Show(const TextBox& field);
 
+    /// Is never lower than its head, so many rows and a scroll bar.
+    void KeepRoomFor(int rows);
+
     void Copy() const;
 
     QSize sizeHint() const override;

@@ -2,16 +2,12 @@
 
 #include "studies/finder_page.h"
 
-#include <condition_variable>
-#include <deque>
-#include <functional>
-#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "shell/start_up.h"
-#include "studies/background.h"
+#include "support/posted.h"
 #include "support/zolv_test.h"
 
 namespace zolv {
@@ -25,6 +21,8 @@ using Inputs = std::vector<std::pair<const char*, const char*>>;
 
 class FinderPage : public StartedTest {
 protected:
+    ~FinderPage() override { finderWork.Abandon(); }
+
     FinderPage() {
         Set("Select_Car", "Wisp 4");  // 58 m/s at the most, no wings
         SetAll({{"Finder.FreeFinalDrive", "on"}, {"Finder.LowFinalDrive", "3.9"}, {"Finder.HighFinalDrive", "4.1"}});
@@ -105,41 +103,6 @@ TEST_F(FinderPage, AFileThatIsNoneChangesNothing) {
     EXPECT_EQ(Requests().back().proposedName, "good.straights");
 }
 
-/// What searches post to the fields, until it is fetched.
-class Posted {
-public:
-    Posted() {
-        postToFields = [this](std::function<void()> work) {
-            const std::scoped_lock lock(mutex_);
-            queue_.push_back(std::move(work));
-            come_.notify_one();
-        };
-    }
-    ~Posted() {
-        finderWork.Abandon();
-        postToFields = {};
-    }
-    Posted(const Posted&) = delete;
-    Posted& operator=(const Posted&) = delete;
-
-    void RunOne() {
-        std::unique_lock lock(mutex_);
-        come_.wait(lock, [this] { return !queue_.empty(); });
-        const std::function<void()> work = std::move(queue_.front());
-        queue_.pop_front();
-        lock.unlock();
-        work();
-    }
-    void RunThose() {
-        while (!queue_.empty()) RunOne();
-    }
-
-private:
-    std::mutex mutex_;
-    std::condition_variable come_;
-    std::deque<std::function<void()>> queue_;
-};
-
 TEST_F(FinderPage, ASearchGoesOnForTheSetUpItWasStartedWith) {
     Posted posted;
     Finder.Start.Click();
@@ -169,7 +132,7 @@ TEST_F(FinderPage, ASearchCanBeStoppedAndTheProgramClosed) {
     Finder.Start.Click();
     ShutDown();
     EXPECT_FALSE(finderWork.Running());
-    posted.RunThose();
+    posted.RunRest();
     EXPECT_EQ(Finder.Table.Text(), "");
 }
 

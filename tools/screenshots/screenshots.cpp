@@ -25,6 +25,7 @@
 #include "shell/start_up.h"
 #include "studies/finder_page.h"
 #include "studies/sweep_page.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
@@ -67,10 +68,12 @@ void EnterTrack() {  // as in examples/kestrel_park.straights
         "Paddock,15,180\n");
 }
 
-void SweepGearsOfMap() {
+void SweepGears() {
     SweepPanel.SetVisible(true);
-    SweepPanel.First.Input.SetText(SweepPanel.First.Input.Rows()[1]);
-    SweepPanel.Second.Input.Pick(4);
+    SweepPanel.First.Input.Pick(2);
+    SweepPanel.Second.Input.SetText(words["FinalDriveInput"]);
+    SweepPanel.Second.From.Enter("3");
+    SweepPanel.Second.To.Enter("6");
     PressAndWait(SweepPanel.Start);
 }
 
@@ -98,7 +101,7 @@ std::vector<Shot> StudyShots() {
              SweepPanel.SetVisible(true);
              PressAndWait(SweepPanel.Start);
          }},
-        {"sweep-map", SweepPanel, SweepGearsOfMap},
+        {"sweep-map", SweepPanel, SweepGears},
     };
 }
 
@@ -271,11 +274,14 @@ std::vector<Shot> DocumentShots(const std::string& examples) {
          [=] {
              OpenSettingsFile(examples + "/wisp_4_track.zolv");
              Finder.SetVisible(true);
+             for (CheckBox* box : {&Finder.FreeRatios, &Finder.FreeFinalDrive}) box->SetChecked(true);
+             Finder.HighRatio[1].Enter("3.5");
+             Finder.LowRatio[6].Enter("0.9");
              Finder.Goal.Pick(4);
              EnterTrack();
              PressAndWait(Finder.Start);
          }},
-        {"sweep", SweepPanel, SweepGearsOfMap},
+        {"sweep", SweepPanel, SweepGears},
     };
 }
 
@@ -299,8 +305,8 @@ public:
     bool Take(const std::vector<Shot>& shots, const QString& suffix = {}) {
         for (const Shot& shot : shots) {
             desktop_.TheBinding().Act(shot.before);
-            QApplication::processEvents();
-            QApplication::processEvents();
+            constexpr int kLayouts = 6;  // a window that grows with what it shows learns so step by step
+            for (int i = 0; i < kLayouts; ++i) QApplication::processEvents();
             if (!Save(*WidgetOf(shot.window), QLatin1String(shot.name) + suffix)) return false;
         }
         return true;

@@ -37,6 +37,7 @@ constexpr const char* kUsage =
     "  write-language FILE    writes the built-in texts as a language file\n"
     "  write-words FILE       writes the words that no line of that file has\n"
     "  report                 prints the whole set-up for a reader\n"
+    "  sheet FILE             writes the set-up sheet: .html, .csv or .txt\n"
     "\n"
     "A line that starts with # is a comment. A line that cannot be used ends the run\n"
     "with status 2.\n";

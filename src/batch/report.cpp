@@ -6,12 +6,12 @@
 #include <vector>
 
 #include "batch/output.h"
-#include "batch/text_table.h"
 #include "fields/label_names.h"
 #include "fields/windows.h"
 #include "files/file_state.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
+#include "text/aligned_table.h"
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "units/option_state.h"
@@ -23,7 +23,7 @@ namespace {
 constexpr std::size_t kIndent = 2;
 constexpr const char* kNotKnown = "-";
 
-void PrintTable(const TextTable& table) {
+void PrintTable(const AlignedTable& table) {
     for (const std::string& line : table.Lines(kIndent)) PrintLine(line);
 }
 
@@ -57,7 +57,7 @@ struct Entry {
     const Field* second = nullptr;
 };
 
-void AddEntries(TextTable& table, std::initializer_list<Entry> entries) {
+void AddEntries(AlignedTable& table, std::initializer_list<Entry> entries) {
     for (const Entry& entry : entries) {
         if (!entry.value->Visible()) continue;
         std::vector<std::string> row{Shown(entry.name->Caption()), entry.value->Caption()};
@@ -67,7 +67,7 @@ void AddEntries(TextTable& table, std::initializer_list<Entry> entries) {
 }
 
 void PrintEntries(std::initializer_list<Entry> entries) {
-    TextTable table(TextTable::Values::Left);
+    AlignedTable table(AlignedTable::Values::Left);
     AddEntries(table, entries);
     PrintTable(table);
 }
@@ -86,7 +86,7 @@ void PrintCar() {
                   {&Zolv.InfoLabel[kInfoT2W], &Zolv.Info_T2W},
                   {&Zolv.InfoLabel[kInfoWheelbase], &Zolv.Info_WB}});
     PrintLine("");
-    TextTable wheels;
+    AlignedTable wheels;
     wheels.Add({Shown(Zolv.InfoPanel[kInfoWheels].Caption()), texts.TextFront, texts.TextRear});
     AddEntries(wheels, {{&Zolv.InfoLabel[kInfoRim], &Zolv.Info_RimF, &Zolv.Info_RimR},
                         {&Zolv.InfoLabel[kInfoTyreWidth], &Zolv.Info_TWF, &Zolv.Info_TWR},
@@ -113,7 +113,7 @@ void PrintOrderErrors(const std::vector<int>& wrong) {
 void PrintGears(GearingPanel& panel, bool known) {
     const auto result = [&](const Label& label) { return known ? label.Caption() : std::string(kNotKnown); };
     const auto title = [](int label) { return Zolv.GearingLabel[label].Caption(); };
-    TextTable table;
+    AlignedTable table;
     table.Add({"", "", "", title(kGearingEngineSpeed), "", ""});
     table.Add({title(kGearingGear), title(kGearingRatio), title(kGearingSpeed), title(kGearingBefore),
                title(kGearingAfter), title(kGearingTorque)});
@@ -133,7 +133,7 @@ void PrintGears(GearingPanel& panel, bool known) {
 
 void PrintAcceleration() {
     PrintHeading(Shown(Zolv.ShowAcc.Caption()));
-    TextTable table;
+    AlignedTable table;
     for (int i = 0; i < 5; ++i)
         AddEntries(table, {{&Zolv.GearingLabel[kGearingSpeedTime + i], &Zolv.AccDataLabel[kAccSpeedTime + i]}});
     for (int i = 0; i < 2; ++i) {
@@ -180,7 +180,7 @@ void PrintTyres() {
 /// The body and the fittings that the car has, side by side.
 void PrintAeroParts() {
     const auto withoutColon = [](const std::string& name) { return name.substr(0, name.find(':')); };
-    TextTable table;
+    AlignedTable table;
     table.Add({"", withoutColon(Zolv.AeroLabel[kAeroDrag].Caption()), withoutColon(Zolv.AeroLabel[kAeroLift].Caption()),
                withoutColon(Zolv.AeroLabel[kAeroLiftDragRatio].Caption())});
     const auto add = [&](int panel, const Label& drag, const Label& lift, const Label& ratio) {

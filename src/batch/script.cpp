@@ -13,6 +13,7 @@
 #include "fields/windows.h"
 #include "language/language_file.h"
 #include "platform/text_files.h"
+#include "reports/sheet_file.h"
 #include "shell/shell_state.h"
 #include "text/nearest_name.h"
 #include "text/words.h"
@@ -111,6 +112,11 @@ void RunWriteWords(std::string_view rest) {
     ExpectWritten(path, WriteTextFile(path, BuiltInWords()));
 }
 
+void RunSheet(std::string_view rest) {
+    const std::string failed = WriteSheet(TakePath(rest));
+    if (!failed.empty()) throw ScriptError(failed);
+}
+
 void RunReport(std::string_view rest) {
     ExpectNoMore(rest);
     PrintReport();
@@ -125,6 +131,7 @@ constexpr Command kCommands[] = {
     {"get", RunGet},         {"canvas", RunCanvas},
     {"picture", RunPicture}, {"write-language", RunWriteLanguage},
     {"report", RunReport},   {"write-words", RunWriteWords},
+    {"sheet", RunSheet},
 };
 constexpr const char* kAnswer = "answer";
 

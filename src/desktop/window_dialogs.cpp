@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "desktop/sheet_window.h"
 #include "desktop/texts_of_qt.h"
 #include "platform/text_files.h"
 #include "text/messages.h"
@@ -136,6 +137,11 @@ bool WindowDialogs::ShowManual() {
     } else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(manual).absoluteFilePath()))) {
         Message(words.Sentence("ManualUnreadable", {FromQt(QDir::toNativeSeparators(manual))}));
     }
+    return true;
+}
+
+bool WindowDialogs::ShowSheet() {
+    SheetWindow(Above(parent_)).exec();
     return true;
 }
 

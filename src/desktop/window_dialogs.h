@@ -31,6 +31,7 @@ public:
     void Message(const std::string& text) override;
     std::string AskForFile(const FileRequest& request) override;
     bool ShowManual() override;
+    bool ShowSheet() override;
 
     /// Readies a dialog for a request: the folder, the name proposed, the shipped examples at the side.
     void Prepare(QFileDialog& dialog, const FileRequest& request) const;

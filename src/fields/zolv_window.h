@@ -67,6 +67,7 @@ public:
     MenuEntry FileSave{*this, "FileSave", "FileMenu", "Ctrl+S"};
     MenuEntry FileSaveAs{*this, "FileSaveAs", "FileMenu"};
     MenuEntry FileClose{*this, "FileClose", "FileMenu"};
+    MenuEntry FileSheet{*this, "FileSheet", "FileMenu", "Ctrl+P"};
     MenuEntry FileExit{*this, "FileExit", "FileMenu"};
     MenuEntry ViewMenu{*this, "ViewMenu"};
     MenuEntry ViewNextPage{*this, "ViewNextPage", "ViewMenu", "Ctrl+Tab; Ctrl+PgDown"};

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "drawing/document.h"
 #include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "platform/dialogs.h"
@@ -41,17 +42,6 @@ constexpr std::array<ColumnContent, 10> kContents{{
     {AccelColumn::FrontLoad, &UnitState::Force},
     {AccelColumn::RearLoad, &UnitState::Force},
 }};
-
-/// A text as a cell of a CSV file, in quotes where it has a character of the format in it.
-std::string CsvCell(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-    std::string quoted = "\"";
-    for (const char character : text) {
-        if (character == '"') quoted += '"';
-        quoted += character;
-    }
-    return quoted + '"';
-}
 
 }  // namespace
 

@@ -19,4 +19,6 @@ std::string AskForFile(const FileRequest& request) {
 
 bool ShowManual() { return inUse != nullptr && inUse->ShowManual(); }
 
+bool ShowSheet() { return inUse != nullptr && inUse->ShowSheet(); }
+
 }  // namespace zolv

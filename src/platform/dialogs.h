@@ -31,15 +31,19 @@ public:
 
     /// Opens the manual for reading, or says where it is to be had; false where nobody could read it here.
     virtual bool ShowManual() { return false; }
+
+    /// Shows the set-up sheet as it prints; false where there is no window for it.
+    virtual bool ShowSheet() { return false; }
 };
 
 /// Makes `dialogs` the ones in use. They must outlive their use; nullptr takes them away again.
 void UseDialogs(Dialogs* dialogs);
 
 /// Through the dialogs in use. With none in use a message is dropped, a file dialog counts as cancelled, and there is
-/// no manual.
+/// no manual and no sheet.
 void ShowMessage(const std::string& text);
 std::string AskForFile(const FileRequest& request);
 bool ShowManual();
+bool ShowSheet();
 
 }  // namespace zolv

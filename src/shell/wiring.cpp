@@ -21,6 +21,7 @@
 #include "plots/engine_plot.h"
 #include "plots/gearing_plots.h"
 #include "plots/run_view.h"
+#include "reports/sheet_file.h"
 #include "shell/start_up.h"
 #include "studies/finder_inputs.h"
 #include "studies/finder_page.h"
@@ -114,6 +115,7 @@ void WireMenus() {
     Zolv.FileSave.OnClick = SaveSettings;
     Zolv.FileSaveAs.OnClick = SaveSettingsAs;
     Zolv.FileClose.OnClick = CloseSettings;
+    Zolv.FileSheet.OnClick = OpenSheet;
     Zolv.FileExit.OnClick = ShutDown;
     Zolv.OnClose = ShutDown;
     Zolv.ToolsCustom.OnClick = [] { CustomPresets.Show(); };

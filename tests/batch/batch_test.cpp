@@ -62,7 +62,7 @@ TEST_F(Batch, TellsItsUseAndItsVersion) {
     EXPECT_EQ(help.status, 0);
     const std::string manual = ContentOf(ZOLV_SOURCE_DIR "/packaging/man/zolv-batch.1.in");
     for (const char* command : {"set FIELD VALUE", "click FIELD", "get FIELD", "canvas FIELD", "picture FIELD FILE",
-                                "answer PATH", "write-language FILE", "write-words FILE", "report"}) {
+                                "answer PATH", "write-language FILE", "write-words FILE", "report", "sheet FILE"}) {
         EXPECT_THAT(help.output, HasSubstr(command));
         const std::string name =
             Replaced(std::string(command).substr(0, std::string_view(command).find(' ')), "-", "\\-");

@@ -1,4 +1,4 @@
-#include "batch/text_table.h"
+#include "text/aligned_table.h"
 
 #include <algorithm>
 #include <utility>
@@ -45,12 +45,12 @@ std::size_t ColumnsOf(std::string_view text) {
     return columns;
 }
 
-void TextTable::Add(std::vector<std::string> row) {
+void AlignedTable::Add(std::vector<std::string> row) {
     for (std::string& cell : row) cell = Flat(cell);
     rows_.push_back(std::move(row));
 }
 
-std::vector<std::string> TextTable::Lines(std::size_t indent) const {
+std::vector<std::string> AlignedTable::Lines(std::size_t indent) const {
     constexpr std::size_t kGap = 3;
     std::vector<std::size_t> widths;
     for (const auto& row : rows_) {

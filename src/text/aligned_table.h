@@ -9,11 +9,11 @@ namespace zolv {
 
 /// A table of text in columns as wide as their widest cell. The first column stands left; the others stand right, so
 /// that numbers with their units line up, or left where they are of many kinds.
-class TextTable {
+class AlignedTable {
 public:
     enum class Values : std::uint8_t { Left, Right };
 
-    explicit TextTable(Values values = Values::Right) : values_(values) {}
+    explicit AlignedTable(Values values = Values::Right) : values_(values) {}
 
     /// A row of cells, each of which stays on its line: a line end in it becomes a blank.
     void Add(std::vector<std::string> row);

@@ -1,0 +1,128 @@
+#include "desktop/sheet_window.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTextDocument>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "desktop/canvas_export.h"
+#include "desktop/texts_of_qt.h"
+#include "desktop/theme.h"
+#include "platform/dialogs.h"
+#include "platform/text_files.h"
+#include "reports/sheet_document.h"
+#include "reports/sheet_file.h"
+#include "text/words.h"
+
+namespace zolv {
+namespace {
+
+constexpr QPageSize::PageSizeId kPaper = QPageSize::A4;
+constexpr double kPaperMargin = 12;  // [mm]
+constexpr double kFontSize = 8;      // points, with which the figures fill the first page
+
+QString NameOfPicture(std::size_t number) { return QStringLiteral("picture:%1").arg(number); }
+
+std::string ImageOf(const Canvas& /*picture*/, std::size_t number) {
+    constexpr int kWidth = 320;  // half of a page
+    return "<img src=\"" + FromQt(NameOfPicture(number)) + "\" width=\"" + std::to_string(kWidth) + "\"/>";
+}
+
+std::vector<QImage> PicturesOf(const Document& sheet, const QFont& font) {
+    std::vector<QImage> pictures;
+    for (const DocumentSection& section : sheet.Sections) {
+        for (const Canvas& canvas : section.Pictures) pictures.push_back(PictureOf(canvas, UsualSize(canvas), font));
+    }
+    return pictures;
+}
+
+}  // namespace
+
+SheetWindow::SheetWindow(QWidget* parent)
+    : QDialog(parent), sheet_(SetUpSheet()), pictures_(PicturesOf(sheet_, font())), printer_(new QPrinter) {
+    constexpr QSize kRoomy(820, 900);
+    setObjectName(QStringLiteral("SheetWindow"));
+    setWindowTitle(ToQt(words["SheetTitle"]));
+    printer_->setPageSize(QPageSize(kPaper));
+    printer_->setPageMargins(QMarginsF(kPaperMargin, kPaperMargin, kPaperMargin, kPaperMargin),
+                             QPageLayout::Millimeter);
+    printer_->setDocName(ToQt(sheet_.Title));
+    auto* const column = new QVBoxLayout(this);
+    auto* const preview = new QPrintPreviewWidget(printer_, this);
+    preview->setViewMode(QPrintPreviewWidget::AllPagesView);
+    connect(preview, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) { PaintOn(*printer); });
+    connect(this, &QObject::destroyed, [printer = printer_] { delete printer; });
+    column->addWidget(preview, 1);
+    AddButtons(*column);
+    resize(kRoomy);
+}
+
+void SheetWindow::AddButtons(QBoxLayout& column) {
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(kGap);
+    const auto add = [&](const char* name, const std::string& words, auto clicked) {
+        auto* const button = new QPushButton(ToQt(words), this);
+        button->setObjectName(QLatin1String(name));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, clicked);
+        row->addWidget(button);
+    };
+    add("PrintSheet", words["SheetPrint"], [this] { Print(); });
+    add("SheetAsPdf", words["SheetAsPdf"], [this] { SavePdf(); });
+    add("SaveSheet", words["SheetSaveAs"], [] { SaveSheet(); });
+    add("CopySheet", words["SheetCopy"], [this] { QGuiApplication::clipboard()->setText(ToQt(TextOf(sheet_))); });
+    row->addStretch(1);
+    column.addLayout(row);
+}
+
+void SheetWindow::PaintOn(QPagedPaintDevice& device) const {
+    QTextDocument page;
+    for (std::size_t i = 0; i < pictures_.size(); ++i) {
+        page.addResource(QTextDocument::ImageResource, QUrl(NameOfPicture(i)), pictures_[i]);
+    }
+    QFont font = page.defaultFont();
+    font.setPointSizeF(kFontSize);
+    page.setDefaultFont(font);
+    page.setDefaultStyleSheet(QStringLiteral("h1{font-size:13pt}h2{font-size:10pt}td,th{padding-right:8px}"));
+    page.setHtml(ToQt(HtmlOf(sheet_, ImageOf)));
+    page.print(&device);
+}
+
+void SheetWindow::Print() {
+    QPrintDialog dialog(printer_, this);
+    if (dialog.exec() == QDialog::Accepted) PaintOn(*printer_);
+}
+
+/// Made in memory, so that the file is there whole or not at all.
+void SheetWindow::SavePdf() {
+    const FileRequest request{.forSaving = true,
+                              .title = words["SheetAsPdf"],
+                              .filterLabel = "PDF (*.pdf)",
+                              .presetName = "*.pdf",
+                              .defaultExtension = "pdf",
+                              .proposedName = sheet_.Title};
+    const std::string path = AskForFile(request);
+    if (path.empty() || path == request.presetName) return;
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&pdf);
+        writer.setPageLayout(printer_->pageLayout());
+        writer.setTitle(ToQt(sheet_.Title));
+        PaintOn(writer);
+    }
+    const QByteArray& bytes = pdf.data();
+    const std::string reason =
+        WriteTextFile(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    if (!reason.empty()) ShowMessage(CannotWrite(path, reason));
+}
+
+}  // namespace zolv

@@ -1,0 +1,188 @@
+#include "drawing/document.h"
+
+#include <algorithm>
+
+#include "drawing/svg.h"
+#include "text/aligned_table.h"
+
+namespace zolv {
+namespace {
+
+constexpr const char* kStyle =
+    "body{font-family:sans-serif;font-size:10pt;color:#282d34;max-width:60em;margin:2em auto;padding:0 1em}"
+    "h1{font-size:16pt;margin:0}h2{font-size:12pt;margin:1.2em 0 .3em;border-bottom:1px solid #969ca4}"
+    "table{border-collapse:collapse}td,th{padding:1px 12px 1px 0;text-align:left;vertical-align:top}"
+    "td.number{text-align:right}svg{width:100%;height:auto}table.columns{width:100%}"
+    "table.columns>tbody>tr>td{width:50%}"
+    "@media print{.new-page{page-break-before:always}body{margin:0}h2,svg{page-break-inside:avoid}}";
+
+std::string Escaped(const std::string& text) {
+    std::string escaped;
+    for (const char c : text) {
+        switch (c) {
+            case '&': escaped += "&amp;"; break;
+            case '<': escaped += "&lt;"; break;
+            case '>': escaped += "&gt;"; break;
+            case '"': escaped += "&quot;"; break;
+            default:
+                if (static_cast<unsigned char>(c) >= 0x20 || c == '\n') escaped += c;
+        }
+    }
+    return escaped;
+}
+
+std::string WithUnit(const DocumentFigure& figure) {
+    return figure.Unit.empty() ? figure.Number : figure.Number + ' ' + figure.Unit;
+}
+
+void AddCell(std::string& html, const char* tag, const std::string& text, const char* attributes = "") {
+    html.append("<").append(tag).append(attributes).append(">").append(Escaped(text));
+    html.append("</").append(tag).append(">");
+}
+
+void AddFigures(std::string& html, const DocumentSection& section) {
+    if (section.Figures.empty()) return;
+    html += "<table>\n";
+    for (const DocumentFigure& figure : section.Figures) {
+        html += "<tr>";
+        AddCell(html, "td", figure.Name);
+        AddCell(html, "td", figure.Number, " class=\"number\" align=\"right\"");
+        AddCell(html, "td", figure.Unit);
+        if (!figure.Held.empty()) AddCell(html, "td", figure.Held);
+        html += "</tr>\n";
+    }
+    html += "</table>\n";
+}
+
+void AddTable(std::string& html, const DocumentSection& section) {
+    if (section.Table.empty()) return;
+    html += "<table>\n";
+    for (const auto& row : section.Table) {
+        html += "<tr>";
+        for (const std::string& cell : row) AddCell(html, &row == &section.Table.front() ? "th" : "td", cell);
+        html += "</tr>\n";
+    }
+    html += "</table>\n";
+}
+
+constexpr const char* kColumns = "<table class=\"columns\" width=\"100%\"><tbody><tr><td width=\"50%\">\n";
+constexpr const char* kNextColumn = "</td><td width=\"50%\">\n";
+constexpr const char* kColumnsEnd = "</td></tr></tbody></table>\n";
+
+/// Two in a row.
+void AddPictures(std::string& html, const DocumentSection& section, PictureMarkup markup, std::size_t& number) {
+    for (std::size_t i = 0; i < section.Pictures.size(); ++i) {
+        html += i % 2 == 0 ? kColumns : kNextColumn;
+        html +=
+            "<b>" + Escaped(section.PictureTitles[i]) + "</b><br/>\n" + markup(section.Pictures[i], number++) + '\n';
+        if (i % 2 == 1) html += kColumnsEnd;
+    }
+    if (section.Pictures.size() % 2 == 1) html.append(kNextColumn).append(kColumnsEnd);
+}
+
+void AddSection(std::string& html, const DocumentSection& section, PictureMarkup markup, std::size_t& pictures) {
+    // The style of its own is for readers that know no media.
+    html += section.OnNewPage ? "<h2 class=\"new-page\" style=\"page-break-before:always\">" : "<h2>";
+    html += Escaped(section.Title) + "</h2>\n";
+    AddFigures(html, section);
+    AddTable(html, section);
+    AddPictures(html, section, markup, pictures);
+}
+
+/// The file of a picture without its declaration, which stands only at the start of a document.
+std::string InlineSvg(const Canvas& picture, std::size_t /*number*/) {
+    const std::string svg = SvgOf(picture);
+    return svg.substr(svg.find("<svg"));
+}
+
+void AddCsvLine(std::string& csv, std::vector<std::string> cells, bool held) {
+    cells.resize(held ? 5 : 4);
+    for (std::size_t i = 0; i < cells.size(); ++i) csv += CsvCell(cells[i]) + (i + 1 < cells.size() ? "," : "\r\n");
+}
+
+bool HoldsAny(const Document& document) {
+    return std::ranges::any_of(document.Sections, [](const DocumentSection& section) {
+        return std::ranges::any_of(section.Figures, [](const DocumentFigure& figure) { return !figure.Held.empty(); });
+    });
+}
+
+void AddLines(std::string& text, const AlignedTable& table) {
+    for (const std::string& line : table.Lines(2)) text += line + '\n';
+}
+
+void AddUnderlined(std::string& text, const std::string& title, char line) {
+    text += title + '\n' + std::string(ColumnsOf(title), line) + '\n';
+}
+
+}  // namespace
+
+std::string HtmlOf(const Document& document) { return HtmlOf(document, InlineSvg); }
+
+std::string HtmlOf(const Document& document, PictureMarkup markup) {
+    std::string html = "<!DOCTYPE html>\n<html lang=\"" + Escaped(document.LanguageCode) +
+                       "\">\n<head>\n<meta charset=\"utf-8\"/>\n<title>" + Escaped(document.Title) +
+                       "</title>\n<style>" + kStyle + "</style>\n</head>\n<body>\n<h1>" + Escaped(document.Title) +
+                       "</h1>\n";
+    if (!document.Subtitle.empty()) html += "<p>" + Escaped(document.Subtitle) + "</p>\n";
+    std::size_t pictures = 0;
+    for (std::size_t i = 0; i < document.Sections.size(); ++i) {
+        const bool two = i + 1 < document.Sections.size() && document.Sections[i + 1].Beside;
+        if (two) html += kColumns;
+        AddSection(html, document.Sections[i], markup, pictures);
+        if (!two) continue;
+        html += kNextColumn;
+        AddSection(html, document.Sections[++i], markup, pictures);
+        html += kColumnsEnd;
+    }
+    return html + "</body>\n</html>\n";
+}
+
+std::string CsvOf(const Document& document, const std::vector<std::string>& titles) {
+    const bool held = HoldsAny(document);
+    std::string csv;
+    AddCsvLine(csv, titles, held);
+    for (const DocumentSection& section : document.Sections) {
+        for (const DocumentFigure& figure : section.Figures) {
+            AddCsvLine(csv, {section.Title, figure.Name, figure.Number, figure.Unit, figure.Held}, held);
+        }
+        for (std::size_t row = 1; row < section.Table.size(); ++row) {
+            const auto& cells = section.Table[row];
+            for (std::size_t i = 1; i < cells.size(); ++i) {
+                if (cells[i].empty()) continue;
+                AddCsvLine(csv, {section.Title, cells.front() + ", " + section.Table.front()[i], cells[i]}, held);
+            }
+        }
+    }
+    return csv;
+}
+
+std::string TextOf(const Document& document) {
+    std::string text;
+    AddUnderlined(text, Flat(document.Title), '=');
+    if (!document.Subtitle.empty()) text += Flat(document.Subtitle) + '\n';
+    for (const DocumentSection& section : document.Sections) {
+        if (section.Figures.empty() && section.Table.empty()) continue;
+        text += '\n';
+        AddUnderlined(text, Flat(section.Title), '-');
+        AlignedTable figures(AlignedTable::Values::Left);
+        for (const DocumentFigure& figure : section.Figures) figures.Add({figure.Name, WithUnit(figure), figure.Held});
+        AddLines(text, figures);
+        if (!section.Figures.empty() && !section.Table.empty()) text += '\n';
+        AlignedTable table;
+        for (const auto& row : section.Table) table.Add(row);
+        AddLines(text, table);
+    }
+    return text;
+}
+
+std::string CsvCell(const std::string& text) {
+    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+    std::string quoted = "\"";
+    for (const char character : text) {
+        if (character == '"') quoted += '"';
+        quoted += character;
+    }
+    return quoted + '"';
+}
+
+}  // namespace zolv

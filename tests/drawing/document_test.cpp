@@ -1,0 +1,79 @@
+#include "drawing/document.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zolv {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+/// Cells with all that a format has to take care of.
+Document HandMade() {
+    Canvas plot(100, 50);
+    plot.SetAxes({.scale = 1, .end = 100}, {.origin = 50, .scale = -1, .start = 50});
+    return {.Title = "A & B",
+            .Subtitle = "<file>.zolv",
+            .LanguageCode = "en",
+            .Sections = {{.Title = "Car", .Figures = {{"Mass", "1027", "kg"}, {"Name", "\"Pell\", S"}}},
+                         {.Title = "Gears",
+                          .Table = {{"Gear", "Ratio", "After"}, {"1st", "3.5", "4800 rpm"}, {"2nd", "2.4", ""}},
+                          .Beside = true},
+                         {.Title = "Plots", .PictureTitles = {"Forces"}, .Pictures = {plot}, .OnNewPage = true}}};
+}
+
+/// The cells of a CSV text, read back by the rules of RFC 4180.
+std::vector<std::vector<std::string>> ReadCsv(const std::string& csv) {
+    std::vector<std::vector<std::string>> lines{{""}};
+    bool quoted = false;
+    for (std::size_t i = 0; i < csv.size(); ++i) {
+        std::string& cell = lines.back().back();
+        if (quoted && csv[i] == '"' && csv.substr(i, 2) == "\"\"") {
+            cell += csv[++i];
+        } else if (csv[i] == '"') {
+            quoted = !quoted;
+        } else if (!quoted && csv[i] == ',') {
+            lines.back().emplace_back();
+        } else if (!quoted && csv.substr(i, 2) == "\r\n") {
+            lines.push_back({""});
+            ++i;
+        } else {
+            cell += csv[i];
+        }
+    }
+    lines.pop_back();
+    return lines;
+}
+
+TEST(Document, ReadsBackFromCsvFigureByFigure) {
+    using Lines = std::vector<std::vector<std::string>>;
+    const std::vector<std::string> titles{"Section", "Figure", "Value", "Unit", "Held"};
+    EXPECT_EQ(ReadCsv(CsvOf(HandMade(), titles)), (Lines{{"Section", "Figure", "Value", "Unit"},
+                                                         {"Car", "Mass", "1027", "kg"},
+                                                         {"Car", "Name", "\"Pell\", S", ""},
+                                                         {"Gears", "1st, Ratio", "3.5", ""},
+                                                         {"Gears", "1st, After", "4800 rpm", ""},
+                                                         {"Gears", "2nd, Ratio", "2.4", ""}}));
+    Document held = HandMade();
+    held.Sections[0].Figures[0].Held = "900 kg";
+    EXPECT_EQ(ReadCsv(CsvOf(held, titles))[1], (std::vector<std::string>{"Car", "Mass", "1027", "kg", "900 kg"}));
+}
+
+TEST(Document, IsTextInColumns) {
+    EXPECT_EQ(TextOf(HandMade()),
+              "A & B\n=====\n<file>.zolv\n\nCar\n---\n  Mass   1027 kg\n  Name   \"Pell\", S\n\nGears\n-----\n"
+              "  Gear   Ratio      After\n  1st      3.5   4800 rpm\n  2nd      2.4\n");
+}
+
+TEST(Document, StandsAloneAsHtml) {
+    const std::string html = HtmlOf(HandMade());
+    EXPECT_THAT(html, HasSubstr("<h1>A &amp; B</h1>\n<p>&lt;file&gt;.zolv</p>"));
+    EXPECT_THAT(html, HasSubstr("<tr><td>Mass</td><td class=\"number\" align=\"right\">1027</td><td>kg</td></tr>"));
+    EXPECT_THAT(html, HasSubstr("<svg xmlns"));
+    EXPECT_THAT(html, Not(HasSubstr("<?xml")));
+    EXPECT_THAT(html, Not(HasSubstr("src=")));
+}
+
+}  // namespace
+}  // namespace zolv

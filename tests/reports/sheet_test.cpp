@@ -1,0 +1,70 @@
+#include <filesystem>
+
+#include "drawing/document.h"
+#include "reports/sheet_document.h"
+#include "reports/sheet_file.h"
+#include "support/zolv_test.h"
+
+namespace zolv {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class Sheet : public StartedTest {};
+
+/// The times are those of a calculation apart from the program (tools/accuracy): of the table, and interpolated.
+TEST_F(Sheet, HasAFigureALineAndTheRowsBesideIt) {
+    ASSERT_EQ(WriteSheet(InFolder("sheet.csv")), "");
+    const std::string csv = ContentOf(InFolder("sheet.csv"));
+    EXPECT_THAT(csv, HasSubstr("\r\nAcceleration,0-15 m/s,4.15,s\r\nAcceleration,0-15 m/s (interpolated),4.125,s\r\n"));
+    EXPECT_THAT(csv, HasSubstr("\r\nAcceleration,0-1000m (interpolated),31.261,s\r\n"));
+    EXPECT_THAT(csv, HasSubstr("\r\nLog of the Run,"));
+    EXPECT_THAT(csv, HasSubstr("\r\nYour Car,Mass,1027,kg\r\n"));
+    EXPECT_THAT(ContentOf(InFolder("sheet-run.csv")), HasSubstr("\r\n4.95,17.2,5736,2,0,219,-219,-0.21,5650,4421\r\n"));
+}
+
+TEST_F(Sheet, GoesByTheEndingOfItsName) {
+    EXPECT_EQ(WriteSheet(InFolder("sheet.HTML")), "");
+    EXPECT_THAT(ContentOf(InFolder("sheet.HTML")), HasSubstr("<!DOCTYPE html>"));
+    EXPECT_EQ(WriteSheet(InFolder("sheet.txt")), "");
+    EXPECT_THAT(ContentOf(InFolder("sheet.txt")), HasSubstr("Tarmaq Zolv: Pell S\n==================="));
+    EXPECT_THAT(WriteSheet(InFolder("sheet.doc")), HasSubstr("must end in"));
+    EXPECT_FALSE(std::filesystem::exists(InFolder("sheet.doc")));
+}
+
+TEST_F(Sheet, ThatCannotBeWrittenSaysWhyAndLeavesNothing) {
+    Answer(InFolder("missing/sheet.html"));
+    Set("FileSheet", "");
+    ExpectMessage(HasSubstr("missing/sheet.html"));
+    WriteContent(InFolder("sheet.csv"), "old");
+    const FullDisk full(100);
+    EXPECT_THAT(WriteSheet(InFolder("sheet.csv")), HasSubstr("sheet-run.csv"));
+    EXPECT_EQ(ContentOf(InFolder("sheet.csv")), "old");
+    EXPECT_FALSE(std::filesystem::exists(InFolder("sheet-run.csv")));
+}
+
+TEST_F(Sheet, LeavesOutWhatDoesNotFollowFromWrongGears) {
+    Set("Gear2", "4");
+    const std::string text = TextOf(SetUpSheet());
+    EXPECT_THAT(text, HasSubstr("The ratio for 2nd cannot be shorter than the ratio for 1st"));
+    EXPECT_THAT(text, Not(HasSubstr("0-15 m/s")));
+    WriteSheet(InFolder("sheet.csv"));
+    EXPECT_FALSE(std::filesystem::exists(InFolder("sheet-run.csv")));
+}
+
+TEST(SheetFigure, IsANumberAndItsUnitOrStandsWhole) {
+    const std::vector<std::array<std::string, 3>> rows{
+        {"12.5 m/s", "12.5", "m/s"}, {"4.15s", "4.15", "s"},
+        {"80%", "80", "%"},          {"0.98 : 1", "0.98 : 1", ""},
+        {"N/A", "N/A", ""},          {"86 kW @ 7033 rpm", "86 kW @ 7033 rpm", ""},
+        {"-5 N", "-5", "N"},         {"0.3 m / 1.9 m", "0.3 m / 1.9 m", ""}};
+    for (const auto& [text, number, unit] : rows) {
+        const DocumentFigure figure = FigureOf("", text);
+        EXPECT_EQ(figure.Number, number);
+        EXPECT_EQ(figure.Unit, unit);
+    }
+}
+
+}  // namespace
+}  // namespace zolv

@@ -1,6 +1,7 @@
 #include "drawing/document.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "drawing/svg.h"
 #include "text/aligned_table.h"
@@ -116,6 +117,16 @@ void AddUnderlined(std::string& text, const std::string& title, char line) {
 
 }  // namespace
 
+DocumentFigure FigureOf(std::string name, const std::string& text) {
+    const std::string flat = Flat(text);
+    const std::size_t end = std::min(flat.find_first_not_of("+-.0123456789"), flat.size());
+    const std::size_t unit = std::min(flat.find_first_not_of(' ', end), flat.size());
+    const bool whole = end == 0 || flat.find_first_of(":@,", unit) != std::string::npos ||
+                       flat.find(" / ", unit) != std::string::npos || flat.find("% ", unit) != std::string::npos;
+    if (whole) return {std::move(name), flat};
+    return {std::move(name), flat.substr(0, end), flat.substr(unit)};
+}
+
 std::string HtmlOf(const Document& document) { return HtmlOf(document, InlineSvg); }
 
 std::string HtmlOf(const Document& document, PictureMarkup markup) {
@@ -149,7 +160,8 @@ std::string CsvOf(const Document& document, const std::vector<std::string>& titl
             const auto& cells = section.Table[row];
             for (std::size_t i = 1; i < cells.size(); ++i) {
                 if (cells[i].empty()) continue;
-                AddCsvLine(csv, {section.Title, cells.front() + ", " + section.Table.front()[i], cells[i]}, held);
+                const DocumentFigure cell = FigureOf(cells.front() + ", " + section.Table.front()[i], cells[i]);
+                AddCsvLine(csv, {section.Title, cell.Name, cell.Number, cell.Unit}, held);
             }
         }
     }

@@ -35,6 +35,10 @@ struct Document {
     std::vector<DocumentSection> Sections = {};
 };
 
+/// A text of a page as a figure: "12.5 m/s" is 12.5 with the unit m/s. One that is more than a number and its unit, as
+/// "0.98 : 1", stays whole.
+[[nodiscard]] DocumentFigure FigureOf(std::string name, const std::string& text);
+
 /// How the place of a picture is written into HTML.
 /// @param number  from 0, through all sections
 using PictureMarkup = std::string (*)(const Canvas& picture, std::size_t number);

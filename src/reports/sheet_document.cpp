@@ -14,7 +14,6 @@
 #include "gearing/run_log_page.h"
 #include "model/acceleration_targets.h"
 #include "plots/force_plot.h"
-#include "text/aligned_table.h"
 #include "text/messages.h"
 #include "text/number_text.h"
 #include "text/texts.h"
@@ -58,7 +57,7 @@ bool HasRun() { return gearing.WrongOrder.empty() && options.AccelerationOn && g
 GearingPanel& PresentPanel() { return gearing.RatiosMode ? Zolv.Ratios : Zolv.Speeds; }
 
 DocumentSection CarSection() {
-    DocumentSection section{.Title = NameOf(Zolv.Label_Car)};
+    DocumentSection section{.Title = Zolv.Select_Page.Rows()[0]};
     section.Figures.push_back({.Name = NameOf(Zolv.Label_Car), .Number = Zolv.Select_Car.Text()});
     AddEntries(section, {{&Zolv.InfoLabel[kInfoPower], &Zolv.Info_Power},
                          {&Zolv.InfoLabel[kInfoTorque], &Zolv.Info_Torque},
@@ -215,16 +214,6 @@ DocumentSection PlotSection() {
 }
 
 }  // namespace
-
-DocumentFigure FigureOf(std::string name, const std::string& text) {
-    const std::string flat = Flat(text);
-    const std::size_t end = std::min(flat.find_first_not_of("+-.0123456789"), flat.size());
-    const std::size_t unit = std::min(flat.find_first_not_of(' ', end), flat.size());
-    const bool whole = end == 0 || flat.find_first_of(":@,", unit) != std::string::npos ||
-                       flat.find(" / ", unit) != std::string::npos || flat.find("% ", unit) != std::string::npos;
-    if (whole) return {std::move(name), flat};
-    return {std::move(name), flat.substr(0, end), flat.substr(unit)};
-}
 
 Document SetUpSheet() {
     Document sheet{.Title = "Tarmaq Zolv: " + Zolv.Select_Car.Text(),

@@ -11,8 +11,4 @@ namespace zolv {
 /// Reads:  the fields of all pages, vehicle, gearing, tyres, aero, options, units, files
 [[nodiscard]] Document SetUpSheet();
 
-/// A text of a page as a figure: "12.5 m/s" is 12.5 with the unit m/s. One that is more than a number and its unit, as
-/// "0.98 : 1", stays whole.
-[[nodiscard]] DocumentFigure FigureOf(std::string name, const std::string& text);
-
 }  // namespace zolv

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
@@ -12,12 +13,17 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
+#include <QXmlStreamReader>
 
 #include "desktop/picture_view.h"
+#include "desktop/sheet_window.h"
 #include "desktop/window_dialogs.h"
+#include "reports/sheet_document.h"
 #include "suites.h"
 
 namespace zolv {
@@ -55,6 +61,7 @@ private Q_SLOTS:
     void CarPictureInItsProportions();
     void PictureThatIsNone_data();
     void PictureThatIsNone();
+    void SheetIsWholeAndPrintsOnTwoPages();
 };
 
 /// A file of settings for the Sable T with a third gear of 1.9.
@@ -263,6 +270,30 @@ void FilesAndPictures::PictureThatIsNone() {
     PickWithKeys(Find<QComboBox>("Select_Car"), "Ondo T");
     QCOMPARE(TextOf("Info_Mass"), QStringLiteral("1244 kg"));
     QVERIFY(!Green(Find<PictureView>("Info_CarPic")).isEmpty());  // unknown.jpg
+}
+
+/// HTML that is XML as well, with each plot inside it: the engine, the forces, and the four of the gearing.
+void FilesAndPictures::SheetIsWholeAndPrintsOnTwoPages() {
+    QXmlStreamReader html(ToQt(HtmlOf(SetUpSheet())));
+    int plots = 0;
+    int sections = 0;
+    while (!html.atEnd()) {
+        if (html.readNext() != QXmlStreamReader::StartElement) continue;
+        if (html.name() == QLatin1String("h2")) ++sections;
+        if (html.name() == QLatin1String("svg") && html.attributes().hasAttribute(QLatin1String("viewBox"))) ++plots;
+    }
+    QVERIFY2(!html.hasError(), qPrintable(html.errorString()));
+    QCOMPARE(plots, 6);
+    QCOMPARE(sections, 8);
+
+    SheetWindow sheet;
+    sheet.show();
+    auto* const preview = sheet.findChild<QPrintPreviewWidget*>();
+    QVERIFY(preview != nullptr);
+    preview->updatePreview();
+    QCOMPARE(preview->pageCount(), 2);
+    sheet.findChild<QPushButton*>(QStringLiteral("CopySheet"))->click();
+    QVERIFY(QApplication::clipboard()->text().startsWith(QLatin1String("Tarmaq Zolv: ")));
 }
 
 const bool added = AddSuite<FilesAndPictures>("FilesAndPictures");

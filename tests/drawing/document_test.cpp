@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace zolv {
 namespace {
 
@@ -53,7 +55,7 @@ TEST(Document, ReadsBackFromCsvFigureByFigure) {
                                                          {"Car", "Mass", "1027", "kg"},
                                                          {"Car", "Name", "\"Pell\", S", ""},
                                                          {"Gears", "1st, Ratio", "3.5", ""},
-                                                         {"Gears", "1st, After", "4800 rpm", ""},
+                                                         {"Gears", "1st, After", "4800", "rpm"},
                                                          {"Gears", "2nd, Ratio", "2.4", ""}}));
     Document held = HandMade();
     held.Sections[0].Figures[0].Held = "900 kg";
@@ -73,6 +75,19 @@ TEST(Document, StandsAloneAsHtml) {
     EXPECT_THAT(html, HasSubstr("<svg xmlns"));
     EXPECT_THAT(html, Not(HasSubstr("<?xml")));
     EXPECT_THAT(html, Not(HasSubstr("src=")));
+}
+
+TEST(Document, HasNumberAndUnitOfAFigureOrItsTextWhole) {
+    const std::vector<std::array<std::string, 3>> rows{
+        {"12.5 m/s", "12.5", "m/s"}, {"4.15s", "4.15", "s"},
+        {"80%", "80", "%"},          {"0.98 : 1", "0.98 : 1", ""},
+        {"N/A", "N/A", ""},          {"86 kW @ 7033 rpm", "86 kW @ 7033 rpm", ""},
+        {"-5 N", "-5", "N"},         {"0.3 m / 1.9 m", "0.3 m / 1.9 m", ""}};
+    for (const auto& [text, number, unit] : rows) {
+        const DocumentFigure figure = FigureOf("", text);
+        EXPECT_EQ(figure.Number, number);
+        EXPECT_EQ(figure.Unit, unit);
+    }
 }
 
 }  // namespace

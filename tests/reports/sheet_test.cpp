@@ -20,7 +20,7 @@ TEST_F(Sheet, HasAFigureALineAndTheRowsBesideIt) {
     EXPECT_THAT(csv, HasSubstr("\r\nAcceleration,0-15 m/s,4.15,s\r\nAcceleration,0-15 m/s (interpolated),4.125,s\r\n"));
     EXPECT_THAT(csv, HasSubstr("\r\nAcceleration,0-1000m (interpolated),31.261,s\r\n"));
     EXPECT_THAT(csv, HasSubstr("\r\nLog of the Run,"));
-    EXPECT_THAT(csv, HasSubstr("\r\nYour Car,Mass,1027,kg\r\n"));
+    EXPECT_THAT(csv, HasSubstr("\r\nInfo,Mass,1027,kg\r\n"));
     EXPECT_THAT(ContentOf(InFolder("sheet-run.csv")), HasSubstr("\r\n4.95,17.2,5736,2,0,219,-219,-0.21,5650,4421\r\n"));
 }
 
@@ -51,19 +51,6 @@ TEST_F(Sheet, LeavesOutWhatDoesNotFollowFromWrongGears) {
     EXPECT_THAT(text, Not(HasSubstr("0-15 m/s")));
     WriteSheet(InFolder("sheet.csv"));
     EXPECT_FALSE(std::filesystem::exists(InFolder("sheet-run.csv")));
-}
-
-TEST(SheetFigure, IsANumberAndItsUnitOrStandsWhole) {
-    const std::vector<std::array<std::string, 3>> rows{
-        {"12.5 m/s", "12.5", "m/s"}, {"4.15s", "4.15", "s"},
-        {"80%", "80", "%"},          {"0.98 : 1", "0.98 : 1", ""},
-        {"N/A", "N/A", ""},          {"86 kW @ 7033 rpm", "86 kW @ 7033 rpm", ""},
-        {"-5 N", "-5", "N"},         {"0.3 m / 1.9 m", "0.3 m / 1.9 m", ""}};
-    for (const auto& [text, number, unit] : rows) {
-        const DocumentFigure figure = FigureOf("", text);
-        EXPECT_EQ(figure.Number, number);
-        EXPECT_EQ(figure.Unit, unit);
-    }
 }
 
 }  // namespace

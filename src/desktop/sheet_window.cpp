@@ -12,6 +12,7 @@
 #include <QTextDocument>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <string_view>
 
 #include "desktop/canvas_export.h"
 #include "desktop/texts_of_qt.h"
@@ -47,7 +48,10 @@ std::vector<QImage> PicturesOf(const Document& sheet, const QFont& font) {
 }  // namespace
 
 SheetWindow::SheetWindow(QWidget* parent)
-    : QDialog(parent), sheet_(SetUpSheet()), pictures_(PicturesOf(sheet_, font())), printer_(new QPrinter) {
+    : QDialog(parent),
+      sheet_(SetUpSheet()),
+      pictures_(PicturesOf(sheet_, font())),
+      printer_(std::make_unique<QPrinter>()) {
     constexpr QSize kRoomy(820, 900);
     setObjectName(QStringLiteral("SheetWindow"));
     setWindowTitle(ToQt(words["SheetTitle"]));
@@ -56,20 +60,22 @@ SheetWindow::SheetWindow(QWidget* parent)
                              QPageLayout::Millimeter);
     printer_->setDocName(ToQt(sheet_.Title));
     auto* const column = new QVBoxLayout(this);
-    auto* const preview = new QPrintPreviewWidget(printer_, this);
-    preview->setViewMode(QPrintPreviewWidget::AllPagesView);
-    connect(preview, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) { PaintOn(*printer); });
-    connect(this, &QObject::destroyed, [printer = printer_] { delete printer; });
-    column->addWidget(preview, 1);
+    preview_ = new QPrintPreviewWidget(printer_.get(), this);
+    preview_->setViewMode(QPrintPreviewWidget::AllPagesView);
+    connect(preview_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) { PaintOn(*printer); });
+    column->addWidget(preview_, 1);
     AddButtons(*column);
     resize(kRoomy);
 }
 
+/// The preview goes before the printer that it shows.
+SheetWindow::~SheetWindow() { delete preview_; }
+
 void SheetWindow::AddButtons(QBoxLayout& column) {
     auto* const row = new QHBoxLayout;
     row->setSpacing(kGap);
-    const auto add = [&](const char* name, const std::string& words, auto clicked) {
-        auto* const button = new QPushButton(ToQt(words), this);
+    const auto add = [&](const char* name, const std::string& caption, auto clicked) {
+        auto* const button = new QPushButton(ToQt(caption), this);
         button->setObjectName(QLatin1String(name));
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, clicked);
@@ -97,7 +103,7 @@ void SheetWindow::PaintOn(QPagedPaintDevice& device) const {
 }
 
 void SheetWindow::Print() {
-    QPrintDialog dialog(printer_, this);
+    QPrintDialog dialog(printer_.get(), this);
     if (dialog.exec() == QDialog::Accepted) PaintOn(*printer_);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QImage>
+#include <memory>
 #include <vector>
 
 #include "drawing/document.h"
@@ -9,6 +10,7 @@
 class QBoxLayout;
 class QPagedPaintDevice;
 class QPrinter;
+class QPrintPreviewWidget;
 
 namespace zolv {
 
@@ -17,6 +19,7 @@ namespace zolv {
 class SheetWindow : public QDialog {
 public:
     explicit SheetWindow(QWidget* parent = nullptr);
+    ~SheetWindow() override;
 
 private:
     void AddButtons(QBoxLayout& column);
@@ -26,7 +29,8 @@ private:
 
     Document sheet_;
     std::vector<QImage> pictures_;
-    QPrinter* printer_ = nullptr;
+    std::unique_ptr<QPrinter> printer_;
+    QPrintPreviewWidget* preview_ = nullptr;
 };
 
 }  // namespace zolv

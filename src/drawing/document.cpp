@@ -119,9 +119,10 @@ void AddUnderlined(std::string& text, const std::string& title, char line) {
 
 DocumentFigure FigureOf(std::string name, const std::string& text) {
     const std::string flat = Flat(text);
-    const std::size_t end = std::min(flat.find_first_not_of("+-.0123456789"), flat.size());
+    const std::size_t end = std::min(flat.find_first_not_of(".0123456789", flat.starts_with('-') ? 1 : 0), flat.size());
     const std::size_t unit = std::min(flat.find_first_not_of(' ', end), flat.size());
-    const bool whole = end == 0 || flat.find_first_of(":@,", unit) != std::string::npos ||
+    const bool whole = end == 0 || flat.substr(unit).starts_with('-') ||
+                       flat.find_first_of(":@,", unit) != std::string::npos ||
                        flat.find(" / ", unit) != std::string::npos || flat.find("% ", unit) != std::string::npos;
     if (whole) return {std::move(name), flat};
     return {std::move(name), flat.substr(0, end), flat.substr(unit)};

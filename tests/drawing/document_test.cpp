@@ -78,11 +78,15 @@ TEST(Document, StandsAloneAsHtml) {
 }
 
 TEST(Document, HasNumberAndUnitOfAFigureOrItsTextWhole) {
-    const std::vector<std::array<std::string, 3>> rows{
-        {"12.5 m/s", "12.5", "m/s"}, {"4.15s", "4.15", "s"},
-        {"80%", "80", "%"},          {"0.98 : 1", "0.98 : 1", ""},
-        {"N/A", "N/A", ""},          {"86 kW @ 7033 rpm", "86 kW @ 7033 rpm", ""},
-        {"-5 N", "-5", "N"},         {"0.3 m / 1.9 m", "0.3 m / 1.9 m", ""}};
+    const std::vector<std::array<std::string, 3>> rows{{"12.5 m/s", "12.5", "m/s"},
+                                                       {"4.15s", "4.15", "s"},
+                                                       {"80%", "80", "%"},
+                                                       {"0-15 m/s", "0-15 m/s", ""},
+                                                       {"0.98 : 1", "0.98 : 1", ""},
+                                                       {"N/A", "N/A", ""},
+                                                       {"86 kW @ 7033 rpm", "86 kW @ 7033 rpm", ""},
+                                                       {"-5 N", "-5", "N"},
+                                                       {"0.3 m / 1.9 m", "0.3 m / 1.9 m", ""}};
     for (const auto& [text, number, unit] : rows) {
         const DocumentFigure figure = FigureOf("", text);
         EXPECT_EQ(figure.Number, number);

@@ -15,6 +15,7 @@ class Sheet : public StartedTest {};
 
 /// The times are those of a calculation apart from the program (tools/accuracy): of the table, and interpolated.
 TEST_F(Sheet, HasAFigureALineAndTheRowsBesideIt) {
+    Set("Select_Tyres", "Road Super");
     ASSERT_EQ(WriteSheet(InFolder("sheet.csv")), "");
     const std::string csv = ContentOf(InFolder("sheet.csv"));
     EXPECT_THAT(csv, HasSubstr("\r\nAcceleration,0-15 m/s,4.15,s\r\nAcceleration,0-15 m/s (interpolated),4.125,s\r\n"));
@@ -35,7 +36,7 @@ TEST_F(Sheet, GoesByTheEndingOfItsName) {
 
 TEST_F(Sheet, ThatCannotBeWrittenSaysWhyAndLeavesNothing) {
     Answer(InFolder("missing/sheet.html"));
-    Set("FileSheet", "");
+    Zolv.FileSheet.Click();
     ExpectMessage(HasSubstr("missing/sheet.html"));
     WriteContent(InFolder("sheet.csv"), "old");
     const FullDisk full(100);

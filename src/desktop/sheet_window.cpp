@@ -37,6 +37,16 @@ std::string ImageOf(const Canvas& /*picture*/, std::size_t number) {
     return "<img src=\"" + FromQt(NameOfPicture(number)) + "\" width=\"" + std::to_string(kWidth) + "\"/>";
 }
 
+/// Figures on the first page, plots on the second: a page that holds too little is laid out larger, and prints smaller.
+void FitOnTwoPages(QTextDocument& page, const QSizeF& paper) {
+    constexpr double kPixelsPerPoint = 96.0 / 72;
+    constexpr double kSmallest = 2;
+    for (double scale = 1; scale <= kSmallest; scale += 0.05) {
+        page.setPageSize(paper * (kPixelsPerPoint * scale));
+        if (page.pageCount() <= 2) return;
+    }
+}
+
 std::vector<QImage> PicturesOf(const Document& sheet, const QFont& font) {
     std::vector<QImage> pictures;
     for (const DocumentSection& section : sheet.Sections) {
@@ -98,7 +108,9 @@ void SheetWindow::PaintOn(QPagedPaintDevice& device) const {
     font.setPointSizeF(kFontSize);
     page.setDefaultFont(font);
     page.setDefaultStyleSheet(QStringLiteral("h1{font-size:13pt}h2{font-size:10pt}td,th{padding-right:8px}"));
+    page.setDocumentMargin(0);
     page.setHtml(ToQt(HtmlOf(sheet_, ImageOf)));
+    FitOnTwoPages(page, device.pageLayout().paintRect(QPageLayout::Point).size());
     page.print(&device);
 }
 

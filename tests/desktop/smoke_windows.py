@@ -40,6 +40,15 @@ def write_png(path, pixels):
                      chunk(b"IDAT", zlib.compress(bytes(rows))) + chunk(b"IEND", b""))
 
 
+def check_resources(wine, program):
+    """The version that the program says is among its file's properties, and its icon is in the file."""
+    said = subprocess.run([wine, program, "--version"], stdout=subprocess.PIPE, text=True, check=True).stdout.split()
+    check(said and said[0] == "zolv", f"--version says {said}")
+    content = program.read_bytes()
+    check(f"ProductVersion\0{said[1]}\0".encode("utf-16-le") in content, "the file has another version")
+    check(content.count(b"\x89PNG\r\n\x1a\n") >= 7, "the file lacks its icon")
+
+
 def type_and_save(display, wine, program, set_up, ratio):
     """One visit; returns the picture behind the typing."""
     environment = {**os.environ, "DISPLAY": display.name, "LC_ALL": "C.UTF-8"}
@@ -81,6 +90,7 @@ def main():
         folder = Path(shutil.copytree(unpacked, Path(home, "Zölv")))
         languages = folder / "languages.lst"
         languages.write_bytes(languages.read_bytes().replace(b": 0\r", b": 1\r"))
+        check_resources(wine, folder / "zolv.exe")
         display = Display(screen)
         try:
             users = next(Path(os.environ["WINEPREFIX"], "drive_c/users").glob("*/AppData/Roaming"), None)

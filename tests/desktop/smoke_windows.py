@@ -17,8 +17,11 @@ import tempfile
 import zlib
 from pathlib import Path
 
-from smoke import PATIENCE, SIZE, Display, changed_rows, check, colours_of, open_file_menu, reach_third_gear, third_gear
+import smoke
+from smoke import SIZE, Display, changed_rows, check, colours_of, open_file_menu, reach_third_gear, third_gear
 from smoke import wait_for
+
+smoke.PATIENCE = 90  # seconds; Wine looks at every font of the system before the first window
 
 NAME = "Größe ギヤ.zolv"
 
@@ -69,7 +72,7 @@ def type_and_save(display, wine, program, set_up, ratio):
         wait_for("the saved ratio", lambda: third_gear(set_up) == ratio)
         open_file_menu(display)
         display.do("key", "x")
-        check(zolv.wait(PATIENCE) == 0, f"ended with status {zolv.returncode}")
+        check(zolv.wait(smoke.PATIENCE) == 0, f"ended with status {zolv.returncode}")
         return after
     finally:
         if zolv.poll() is None:

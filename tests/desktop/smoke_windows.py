@@ -21,6 +21,7 @@ import smoke
 from smoke import SIZE, Display, changed_rows, check, colours_of, open_file_menu, reach_third_gear, third_gear
 from smoke import wait_for
 
+os.environ["LC_ALL"] = "C.UTF-8"
 smoke.PATIENCE = 90  # seconds; Wine looks at every font of the system before the first window
 
 NAME = "Größe ギヤ.zolv"
@@ -55,10 +56,9 @@ def check_resources(wine, program):
 
 def type_and_save(display, wine, program, set_up, ratio):
     """One visit; returns the picture behind the typing."""
-    environment = {**os.environ, "DISPLAY": display.name, "LC_ALL": "C.UTF-8"}
-    zolv = subprocess.Popen([wine, program, set_up.name], cwd=set_up.parent, env=environment)
+    zolv = subprocess.Popen([wine, program, set_up.name], cwd=set_up.parent)
     try:
-        title = f"^Tarmaq Zolv .*{set_up.stem}"
+        title = "^Tarmaq Zolv .*zolv"  # with the file that it was started with
         window = wait_for("the window", lambda: display.do("search", "--onlyvisible", "--name", title))[0]
         display.do("windowfocus", window)
         before = display.settled_picture()
@@ -94,9 +94,10 @@ def main():
         folder = Path(shutil.copytree(unpacked, Path(home, "Zölv")))
         languages = folder / "languages.lst"
         languages.write_bytes(languages.read_bytes().replace(b": 0\r", b": 1\r"))
-        check_resources(wine, folder / "zolv.exe")
         display = Display(screen)
+        os.environ["DISPLAY"] = display.name  # a Wine that has started without one draws nothing
         try:
+            check_resources(wine, folder / "zolv.exe")
             users = next(Path(os.environ["WINEPREFIX"], "drive_c/users").glob("*/AppData/Roaming"), None)
             check(users, "Wine has no user")
             type_and_save(display, wine, folder / "zolv.exe", set_up, "1.875")
@@ -106,6 +107,9 @@ def main():
             write_png(picture, type_and_save(display, wine, folder / "zolv.exe", set_up, "1.625"))
             folder.chmod(0o755)
             check_kept(users / "Zolv", folder, "1.625")
+        except SystemExit:
+            write_png(picture, display.picture())
+            raise
         finally:
             display.server.terminate()
             display.server.wait()

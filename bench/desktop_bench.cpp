@@ -16,7 +16,7 @@
 #include "desktop/desktop.h"
 #include "desktop/main_window.h"
 #include "desktop/theme.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
 

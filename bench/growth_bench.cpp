@@ -8,7 +8,7 @@
 
 #include "drawing/canvas.h"
 #include "drawing/svg.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/acceleration_page.h"
 #include "gearing/gearing_state.h"
 #include "model/acceleration_run.h"

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "shell/fresh_start.h"
 #include "shell/start_up.h"
 

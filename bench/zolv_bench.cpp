@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/acceleration_page.h"
 #include "gearing/gearing_state.h"
 #include "language/language_file.h"

@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "shell/all_state.h"
 
 namespace zolv {

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "aero/aero_state.h"
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "model/air_sheet.h"
 #include "model/whole_number.h"
 #include "text/number_text.h"

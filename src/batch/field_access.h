@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 
 /// What a script does with one field. What cannot be done throws ScriptError.
 namespace zolv {

@@ -2,39 +2,29 @@
 
 #include <initializer_list>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "batch/output.h"
+#include "fields/all_windows.h"
 #include "fields/label_names.h"
-#include "fields/windows.h"
 #include "files/file_state.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
+#include "reports/page_figures.h"
 #include "text/aligned_table.h"
+#include "text/caption_name.h"
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "units/option_state.h"
-#include "vehicle/vehicle_state.h"
 
 namespace zolv {
 namespace {
 
 constexpr std::size_t kIndent = 2;
-constexpr const char* kNotKnown = "-";
 
 void PrintTable(const AlignedTable& table) {
     for (const std::string& line : table.Lines(kIndent)) PrintLine(line);
-}
-
-/// A caption as it reads on the screen: "&&" is one ampersand, a single "&" marks a key and is not shown.
-std::string Shown(const std::string& caption) {
-    std::string shown;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && ++i == caption.size()) break;
-        shown += caption[i];
-    }
-    return shown;
 }
 
 /// One line of the report, whatever line ends its captions bring.
@@ -60,10 +50,17 @@ struct Entry {
 void AddEntries(AlignedTable& table, std::initializer_list<Entry> entries) {
     for (const Entry& entry : entries) {
         if (!entry.value->Visible()) continue;
-        std::vector<std::string> row{Shown(entry.name->Caption()), entry.value->Caption()};
+        std::vector<std::string> row{WithoutKeyMark(entry.name->Caption()), entry.value->Caption()};
         if (entry.second != nullptr) row.push_back(entry.second->Caption());
         table.Add(std::move(row));
     }
+}
+
+/// Names and one value each.
+void PrintFigures(const std::vector<NamedFigure>& figures) {
+    AlignedTable table(AlignedTable::Values::Left);
+    for (const NamedFigure& figure : figures) AddEntries(table, {{figure.name, figure.value}});
+    PrintTable(table);
 }
 
 void PrintEntries(std::initializer_list<Entry> entries) {
@@ -75,19 +72,10 @@ void PrintEntries(std::initializer_list<Entry> entries) {
 void PrintCar() {
     PrintUnderlined("Tarmaq Zolv: " + Zolv.Select_Car.Text(), '=');
     if (!files.CurrentFileName.empty()) Print("  " + files.CurrentFileName);
-    PrintEntries({{&Zolv.InfoLabel[kInfoPower], &Zolv.Info_Power},
-                  {&Zolv.InfoLabel[kInfoTorque], &Zolv.Info_Torque},
-                  {&Zolv.InfoLabel[kInfoDrivetrain], &Zolv.Info_DT},
-                  {&Zolv.InfoLabel[kInfoGears], &Zolv.Info_Gears},
-                  {&Zolv.InfoLabel[kInfoEfficiency], &Zolv.Info_Efficiency},
-                  {&Zolv.InfoLabel[kInfoMass], &Zolv.Info_Mass},
-                  {&Zolv.InfoLabel[kInfoWeightDist], &Zolv.Info_WD},
-                  {&Zolv.InfoLabel[kInfoP2W], &Zolv.Info_P2W},
-                  {&Zolv.InfoLabel[kInfoT2W], &Zolv.Info_T2W},
-                  {&Zolv.InfoLabel[kInfoWheelbase], &Zolv.Info_WB}});
+    PrintFigures(FiguresOfCar());
     PrintLine("");
     AlignedTable wheels;
-    wheels.Add({Shown(Zolv.InfoPanel[kInfoWheels].Caption()), texts.TextFront, texts.TextRear});
+    wheels.Add({WithoutKeyMark(Zolv.InfoPanel[kInfoWheels].Caption()), texts.TextFront, texts.TextRear});
     AddEntries(wheels, {{&Zolv.InfoLabel[kInfoRim], &Zolv.Info_RimF, &Zolv.Info_RimR},
                         {&Zolv.InfoLabel[kInfoTyreWidth], &Zolv.Info_TWF, &Zolv.Info_TWR},
                         {&Zolv.InfoLabel[kInfoTyreProfile], &Zolv.Info_TPF, &Zolv.Info_TPR},
@@ -97,10 +85,6 @@ void PrintCar() {
     PrintTable(wheels);
 }
 
-int GearsOfCar() { return vehicle.CurrentCar.NumGears < kGears ? vehicle.CurrentCar.NumGears : kGears; }
-
-std::string GearName(int gear) { return texts.GearNames[static_cast<std::size_t>(gear)]; }
-
 void PrintOrderErrors(const std::vector<int>& wrong) {
     const OrderWords words = OrderWordsOf(gearing.From());
     Print("  " + words.notUpdated + ' ' + texts.TextBecauseOfThe + ' ' + NumberText(static_cast<int>(wrong.size())) +
@@ -109,30 +93,18 @@ void PrintOrderErrors(const std::vector<int>& wrong) {
     PrintLine("");
 }
 
-/// @param known  whether the results belong to the inputs; if not, a dash stands in their place
-void PrintGears(GearingPanel& panel, bool known) {
-    const auto result = [&](const Label& label) { return known ? label.Caption() : std::string(kNotKnown); };
+void PrintGears() {
     const auto title = [](int label) { return Zolv.GearingLabel[label].Caption(); };
     AlignedTable table;
     table.Add({"", "", "", title(kGearingEngineSpeed), "", ""});
     table.Add({title(kGearingGear), title(kGearingRatio), title(kGearingSpeed), title(kGearingBefore),
                title(kGearingAfter), title(kGearingTorque)});
-    for (int gear = 1; gear <= GearsOfCar(); ++gear) {
-        const std::string& input = panel.Input[gear].Text();
-        const std::string found = result(panel.Result[gear]);
-        table.Add({GearName(gear), gearing.RatiosMode ? input : found,
-                   gearing.RatiosMode ? found : input + Zolv.Label_SPD[gear].Caption(), result(panel.RPM[gear]),
-                   gear < GearsOfCar() ? result(panel.RAC[gear]) : "", result(panel.Torque[gear])});
-    }
-    if (panel.GearR.Visible()) {
-        table.Add({title(kGearingReverse), panel.GearR.Caption(), result(panel.SpeedR), result(panel.RPMR), "",
-                   result(panel.TorqueR)});
-    }
+    for (std::vector<std::string>& line : GearLines()) table.Add(std::move(line));
     PrintTable(table);
 }
 
 void PrintAcceleration() {
-    PrintHeading(Shown(Zolv.ShowAcc.Caption()));
+    PrintHeading(WithoutKeyMark(Zolv.ShowAcc.Caption()));
     AlignedTable table;
     for (int i = 0; i < 5; ++i)
         AddEntries(table, {{&Zolv.GearingLabel[kGearingSpeedTime + i], &Zolv.AccDataLabel[kAccSpeedTime + i]}});
@@ -147,17 +119,17 @@ void PrintAcceleration() {
 void PrintGearing() {
     GearingPanel& panel = gearing.RatiosMode ? Zolv.Ratios : Zolv.Speeds;
     const OptionButton& direction = gearing.RatiosMode ? Zolv.Direction1 : Zolv.Direction2;
-    PrintHeading(Shown(Zolv.Select_Page.Rows()[1]) + ": " + Shown(direction.Caption()));
+    PrintHeading(WithoutKeyMark(Zolv.Select_Page.Rows()[1]) + ": " + WithoutKeyMark(direction.Caption()));
     const std::vector<int>& wrong = gearing.WrongOrder;
     if (!wrong.empty()) PrintOrderErrors(wrong);
     Print("  " + Zolv.GearingLabel[kGearingFinalDrive].Caption() + ' ' + panel.FinalDrive.Text());
     PrintLine("");
-    PrintGears(panel, wrong.empty());
+    PrintGears();
     if (wrong.empty() && options.AccelerationOn) PrintAcceleration();
 }
 
 void PrintTyres() {
-    PrintHeading(Shown(Zolv.Select_Page.Rows()[2]) + ": " + Zolv.Select_Tyres.Text());
+    PrintHeading(WithoutKeyMark(Zolv.Select_Page.Rows()[2]) + ": " + Zolv.Select_Tyres.Text());
     PrintEntries({{&Zolv.TyreLabel[kTyrePressureF], &Zolv.Label_PressureF},
                   {&Zolv.TyreLabel[kTyrePressureR], &Zolv.Label_PressureR},
                   {&Zolv.TyreLabel[kTyreGrip], &Zolv.MU},
@@ -165,16 +137,7 @@ void PrintTyres() {
     PrintLine("");
     // The tyre page analyses one axle at a time.
     Print("  " + (Zolv.FrontTyreAnal.Checked() ? texts.TextFront : texts.TextRear));
-    PrintEntries({{&Zolv.TyreLabel[kTyrePatchWidth], &Zolv.CPW},
-                  {&Zolv.TyreLabel[kTyrePatchLength], &Zolv.CPL},
-                  {&Zolv.TyreLabel[kTyrePatchArea], &Zolv.CPA},
-                  {&Zolv.TyreLabel[kTyrePatchAspect], &Zolv.CPAR},
-                  {&Zolv.TyreLabel[kTyreStiffness], &Zolv.TS},
-                  {&Zolv.TyreLabel[kTyreFrequency], &Zolv.TF},
-                  {&Zolv.TyreLabel[kTyreUnloadedRadius], &Zolv.UTR},
-                  {&Zolv.TyreLabel[kTyreDeformation], &Zolv.TD},
-                  {&Zolv.TyreLabel[kTyreRollingRadius], &Zolv.TRRC},
-                  {&Zolv.TyreLabel[kTyreWallHeight], &Zolv.TWH}});
+    PrintFigures(FiguresOfTyre());
 }
 
 /// The body and the fittings that the car has, side by side.
@@ -185,7 +148,7 @@ void PrintAeroParts() {
                withoutColon(Zolv.AeroLabel[kAeroLiftDragRatio].Caption())});
     const auto add = [&](int panel, const Label& drag, const Label& lift, const Label& ratio) {
         if (!Zolv.AeroPanel[panel].Visible()) return;
-        table.Add({Shown(Zolv.AeroPanel[panel].Caption()), drag.Caption(), lift.Caption(), ratio.Caption()});
+        table.Add({WithoutKeyMark(Zolv.AeroPanel[panel].Caption()), drag.Caption(), lift.Caption(), ratio.Caption()});
     };
     add(kAeroBody, Zolv.Aero_BodyAirDrag, Zolv.Aero_BodyLift, Zolv.Aero_BodyLDR);
     add(kAeroUndertray, Zolv.Undertray.Drag, Zolv.Undertray.Lift, Zolv.Undertray.LDR);
@@ -196,7 +159,7 @@ void PrintAeroParts() {
 }
 
 void PrintAero() {
-    PrintHeading(Shown(Zolv.Select_Page.Rows()[3]));
+    PrintHeading(WithoutKeyMark(Zolv.Select_Page.Rows()[3]));
     PrintEntries(
         {{&Zolv.AeroLabel[kAeroTopSpeed], &Zolv.Aero_TopSpeed},
          {&Zolv.AeroLabel[kAeroCarSpeed], Zolv.UseFixedSpeed.Checked() ? &Zolv.Aero_TopSpeed : &Zolv.AeroSpeed},

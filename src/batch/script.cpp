@@ -10,7 +10,7 @@
 #include "batch/report.h"
 #include "batch/script_error.h"
 #include "drawing/svg.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "language/language_file.h"
 #include "platform/text_files.h"
 #include "reports/sheet_file.h"

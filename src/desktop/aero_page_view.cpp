@@ -11,7 +11,7 @@
 #include "desktop/page_parts.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "plots/air_plot.h"
 #include "plots/plot_frame.h"
 #include "text/words.h"

@@ -8,7 +8,7 @@
 #include "desktop/colours.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "text/words.h"
 
 namespace zolv {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "desktop/typed_box.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 
 class QAbstractButton;
 class QAction;

@@ -1,6 +1,6 @@
 #include "desktop/box_sliders.h"
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 
 namespace zolv {
 

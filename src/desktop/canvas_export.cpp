@@ -6,7 +6,7 @@
 #include "desktop/canvas_painting.h"
 #include "desktop/plot_marks.h"
 #include "desktop/theme.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "text/words.h"

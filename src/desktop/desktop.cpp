@@ -12,7 +12,7 @@
 #include "desktop/presets_window.h"
 #include "desktop/sweep_window.h"
 #include "desktop/texts_of_qt.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "studies/finder_page.h"
 #include "studies/sweep_page.h"
 

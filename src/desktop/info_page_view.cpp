@@ -15,7 +15,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "text/texts.h"
 
 namespace zolv {

@@ -6,7 +6,7 @@
 #include "desktop/main_window.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/window_dialogs.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "files/options_file.h"
 #include "files/settings_file.h"
 #include "platform/data_folder.h"

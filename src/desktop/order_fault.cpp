@@ -10,7 +10,7 @@
 #include "desktop/binding.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
 

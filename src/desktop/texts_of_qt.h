@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/caption_name.h"
+
 /// Between the program's UTF-8 and Qt's strings.
 namespace zolv {
 
@@ -19,12 +21,7 @@ inline QString PlainCaption(std::string_view caption) {
     if (caption.size() >= 4 && caption.ends_with(')') && caption.substr(caption.size() - 4).starts_with("(&")) {
         caption.remove_suffix(4);
     }
-    std::string plain;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && ++i == caption.size()) break;
-        plain += caption[i];
-    }
-    return ToQt(plain);
+    return ToQt(WithoutKeyMark(caption));
 }
 
 }  // namespace zolv

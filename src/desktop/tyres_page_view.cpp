@@ -14,7 +14,7 @@
 #include "desktop/page_parts.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "text/words.h"
 #include "tyres/tyres_page.h"
 

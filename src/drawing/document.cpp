@@ -5,6 +5,7 @@
 
 #include "drawing/svg.h"
 #include "text/aligned_table.h"
+#include "text/xml_text.h"
 
 namespace zolv {
 namespace {
@@ -17,20 +18,7 @@ constexpr const char* kStyle =
     "table.columns>tbody>tr>td{width:50%}"
     "@media print{.new-page{page-break-before:always}body{margin:0}h2,svg{page-break-inside:avoid}}";
 
-std::string Escaped(const std::string& text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-            case '&': escaped += "&amp;"; break;
-            case '<': escaped += "&lt;"; break;
-            case '>': escaped += "&gt;"; break;
-            case '"': escaped += "&quot;"; break;
-            default:
-                if (static_cast<unsigned char>(c) >= 0x20 || c == '\n') escaped += c;
-        }
-    }
-    return escaped;
-}
+std::string Escaped(const std::string& text) { return XmlText(text, "\n"); }
 
 std::string WithUnit(const DocumentFigure& figure) {
     return figure.Unit.empty() ? figure.Number : figure.Number + ' ' + figure.Unit;

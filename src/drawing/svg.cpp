@@ -9,6 +9,7 @@
 #include "drawing/stroke_style.h"
 #include "drawing/text_measure.h"
 #include "text/number_text.h"
+#include "text/xml_text.h"
 
 namespace zolv {
 namespace {
@@ -46,21 +47,11 @@ void AddColour(std::string& svg, std::string_view name, Rgb colour) {
     AddAttribute(svg, name, std::string_view(text));
 }
 
-/// Text as XML holds it. Control characters have no place there, not even escaped.
+/// A tab keeps words apart.
 std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-            case '&': escaped += "&amp;"; break;
-            case '<': escaped += "&lt;"; break;
-            case '>': escaped += "&gt;"; break;
-            case '"': escaped += "&quot;"; break;
-            case '\t': escaped += ' '; break;
-            default:
-                if (static_cast<unsigned char>(c) >= 0x20) escaped += c;
-        }
-    }
-    return escaped;
+    std::string spaced(text);
+    std::ranges::replace(spaced, '\t', ' ');
+    return XmlText(spaced);
 }
 
 void AddFill(std::string& svg, const Fill& fill) {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "files/file_state.h"
 #include "files/preset_text.h"
 #include "platform/dialogs.h"

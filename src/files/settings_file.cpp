@@ -5,7 +5,7 @@
 #include <string>
 
 #include "desk/present.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "files/file_state.h"
 #include "files/settings_text.h"
 #include "model/whole_number.h"

@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "aero/aero_state.h"
+#include "fields/all_windows.h"
 #include "fields/label_names.h"
-#include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "model/acceleration_run.h"
 #include "model/acceleration_targets.h"

@@ -3,7 +3,7 @@
 #include <span>
 #include <string>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "tyres/tyre_state.h"

@@ -1,7 +1,7 @@
 #include "gearing/gearing_inputs.h"
 
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "gearing/ratios_page.h"
 #include "gearing/speeds_page.h"

@@ -1,8 +1,8 @@
 #include "gearing/ratios_page.h"
 
 #include "aero/aero_state.h"
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "gearing/acceleration_page.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"

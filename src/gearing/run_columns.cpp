@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "drawing/document.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/gearing_state.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
@@ -44,10 +44,6 @@ constexpr std::array<ColumnContent, 10> kContents{{
 }};
 
 }  // namespace
-
-std::string TitleOf(const std::string& caption) {
-    return caption.ends_with(':') ? caption.substr(0, caption.size() - 1) : caption;
-}
 
 std::vector<RunColumn> RunColumns() {
     const std::string speed = UnitOf(units.Speed.Suffix);

@@ -15,9 +15,6 @@ struct RunColumn {
     bool operator==(const RunColumn&) const = default;
 };
 
-/// A caption as the title of a column: "Rear Wheels:" is "Rear Wheels".
-[[nodiscard]] std::string TitleOf(const std::string& caption);
-
 /// The ten columns: time, speed, engine speed, gear, three forces, acceleration, the loads on both axles.
 [[nodiscard]] std::vector<RunColumn> RunColumns();
 

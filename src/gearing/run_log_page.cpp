@@ -3,11 +3,12 @@
 #include <cmath>
 #include <utility>
 
+#include "fields/all_windows.h"
 #include "fields/label_names.h"
-#include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "gearing/run_columns.h"
 #include "model/shift_advice.h"
+#include "text/caption_name.h"
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "text/words.h"
@@ -23,7 +24,7 @@ const std::string& GearName(int gear) { return texts.GearNames[static_cast<std::
 
 std::string Revs(double revs) { return WithUnit(revs, 0, texts.RpmSuffix); }
 
-std::string TargetName(int label) { return TitleOf(Zolv.GearingLabel[label].Caption()); }
+std::string TargetName(int label) { return CaptionName(Zolv.GearingLabel[label].Caption()); }
 
 /// Where the next gear would have begun to pull harder, and how far from there the driver changed up.
 std::string RemarkOnChange(const RunEvent& change) {

@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "aero/aero_state.h"
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "gearing/acceleration_page.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"

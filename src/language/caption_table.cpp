@@ -2,7 +2,7 @@
 
 #include <cassert>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "text/version.h"
 
 namespace zolv {

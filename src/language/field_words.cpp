@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "text/number_text.h"

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "language/caption_table.h"
 #include "language/field_words.h"
 #include "language/language_state.h"

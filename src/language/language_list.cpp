@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "language/language_list_text.h"
 #include "language/language_state.h"
 #include "platform/dialogs.h"

@@ -5,7 +5,7 @@
 
 #include "aero/aero_state.h"
 #include "drawing/chart.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "plots/plot_frame.h"
 #include "text/texts.h"
 #include "text/words.h"

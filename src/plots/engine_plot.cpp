@@ -1,7 +1,7 @@
 #include "plots/engine_plot.h"
 
+#include "fields/all_windows.h"
 #include "fields/label_names.h"
-#include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "model/engine_curve.h"
 #include "plots/plot_frame.h"

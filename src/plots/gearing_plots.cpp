@@ -1,6 +1,6 @@
 #include "plots/gearing_plots.h"
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "plots/run_plots.h"
 #include "plots/run_view.h"
 #include "plots/speed_plot.h"

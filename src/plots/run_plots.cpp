@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "aero/aero_state.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/gearing_state.h"
 #include "plots/plot_frame.h"
 #include "text/texts.h"

@@ -1,6 +1,6 @@
 #include "plots/run_view.h"
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/run_log_page.h"
 #include "plots/force_plot.h"
 

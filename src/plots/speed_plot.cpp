@@ -1,6 +1,6 @@
 #include "plots/speed_plot.h"
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/gearing_state.h"
 #include "plots/plot_frame.h"
 #include "text/texts.h"

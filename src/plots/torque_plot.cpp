@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "fields/all_windows.h"
 #include "fields/label_names.h"
-#include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "model/engine_curve.h"
 #include "plots/plot_frame.h"

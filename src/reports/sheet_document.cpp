@@ -1,12 +1,10 @@
 #include "reports/sheet_document.h"
 
-#include <algorithm>
-#include <initializer_list>
 #include <span>
 #include <utility>
 
+#include "fields/all_windows.h"
 #include "fields/label_names.h"
-#include "fields/windows.h"
 #include "files/file_state.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
@@ -14,37 +12,25 @@
 #include "gearing/run_log_page.h"
 #include "model/acceleration_targets.h"
 #include "plots/force_plot.h"
+#include "reports/page_figures.h"
+#include "text/caption_name.h"
 #include "text/messages.h"
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "text/words.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
-#include "vehicle/vehicle_state.h"
 
 namespace zolv {
 namespace {
 
 /// A caption as a name: without its colon, and without the mark of a key.
-std::string NameOf(const Field& field) {
-    std::string name;
-    const std::string caption = InWords(field.Caption());
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && ++i == caption.size()) break;
-        name += caption[i];
-    }
-    return TitleOf(name);
-}
+std::string NameOf(const Field& field) { return CaptionName(WithoutKeyMark(InWords(field.Caption()))); }
 
-/// A name and its figure. What is hidden on its page is left out here too.
-struct Entry {
-    const Field* name;
-    const Field* value;
-};
-
-void AddEntries(DocumentSection& section, std::initializer_list<Entry> entries) {
-    for (const Entry& entry : entries) {
-        if (entry.value->Visible()) section.Figures.push_back(FigureOf(NameOf(*entry.name), entry.value->Caption()));
+/// What is hidden on its page is left out here too.
+void AddFigures(DocumentSection& section, const std::vector<NamedFigure>& figures) {
+    for (const NamedFigure& figure : figures) {
+        if (figure.value->Visible()) section.Figures.push_back(FigureOf(NameOf(*figure.name), figure.value->Caption()));
     }
 }
 
@@ -59,16 +45,7 @@ GearingPanel& PresentPanel() { return gearing.RatiosMode ? Zolv.Ratios : Zolv.Sp
 DocumentSection CarSection() {
     DocumentSection section{.Title = Zolv.Select_Page.Rows()[0]};
     section.Figures.push_back({.Name = NameOf(Zolv.Label_Car), .Number = Zolv.Select_Car.Text()});
-    AddEntries(section, {{&Zolv.InfoLabel[kInfoPower], &Zolv.Info_Power},
-                         {&Zolv.InfoLabel[kInfoTorque], &Zolv.Info_Torque},
-                         {&Zolv.InfoLabel[kInfoDrivetrain], &Zolv.Info_DT},
-                         {&Zolv.InfoLabel[kInfoGears], &Zolv.Info_Gears},
-                         {&Zolv.InfoLabel[kInfoEfficiency], &Zolv.Info_Efficiency},
-                         {&Zolv.InfoLabel[kInfoMass], &Zolv.Info_Mass},
-                         {&Zolv.InfoLabel[kInfoWeightDist], &Zolv.Info_WD},
-                         {&Zolv.InfoLabel[kInfoP2W], &Zolv.Info_P2W},
-                         {&Zolv.InfoLabel[kInfoT2W], &Zolv.Info_T2W},
-                         {&Zolv.InfoLabel[kInfoWheelbase], &Zolv.Info_WB}});
+    AddFigures(section, FiguresOfCar());
     return section;
 }
 
@@ -79,7 +56,7 @@ DocumentSection InputSection() {
     section.Figures.push_back(
         {.Name = NameOf(Zolv.GearingLabel[kGearingFinalDrive]), .Number = PresentPanel().FinalDrive.Text()});
     section.Figures.push_back({.Name = NameOf(Zolv.GearingLabel[38]), .Number = Zolv.Select_Tyres.Text()});
-    AddEntries(section, {{&Zolv.TyreLabel[kTyrePressureF], &Zolv.Label_PressureF},
+    AddFigures(section, {{&Zolv.TyreLabel[kTyrePressureF], &Zolv.Label_PressureF},
                          {&Zolv.TyreLabel[kTyrePressureR], &Zolv.Label_PressureR},
                          {&Zolv.AeroLabel[kAeroFrontWingAngle], &Zolv.WingAngleFront},
                          {&Zolv.AeroLabel[kAeroRearWingAngle], &Zolv.WingAngleRear},
@@ -87,8 +64,6 @@ DocumentSection InputSection() {
                           Zolv.UseFixedSpeed.Checked() ? &Zolv.Aero_TopSpeed : &Zolv.AeroSpeed}});
     return section;
 }
-
-int GearsOfCar() { return vehicle.CurrentCar.NumGears < kGears ? vehicle.CurrentCar.NumGears : kGears; }
 
 std::vector<std::string> GearTitles() {
     std::vector<std::string> titles;
@@ -101,25 +76,14 @@ std::vector<std::string> GearTitles() {
 
 DocumentSection GearSection() {
     DocumentSection section{.Title = Zolv.Select_Page.Rows()[1]};
-    GearingPanel& panel = PresentPanel();
-    const bool known = gearing.WrongOrder.empty();
-    const auto result = [known](const Label& label) { return known ? label.Caption() : std::string("-"); };
     const OrderWords order = OrderWordsOf(gearing.From());
     for (const int gear : gearing.WrongOrder) {
         section.Figures.push_back({.Name = order.notUpdated, .Number = OrderSentence(order, gear)});
     }
     section.Table.push_back(GearTitles());
-    for (int gear = 1; gear <= GearsOfCar(); ++gear) {
-        const std::string& input = panel.Input[gear].Text();
-        const std::string found = result(panel.Result[gear]);
-        section.Table.push_back({texts.GearNames[static_cast<std::size_t>(gear)], gearing.RatiosMode ? input : found,
-                                 gearing.RatiosMode ? found : input + Zolv.Label_SPD[gear].Caption(),
-                                 result(panel.RPM[gear]), gear < GearsOfCar() ? result(panel.RAC[gear]) : "",
-                                 result(panel.Torque[gear])});
-    }
-    if (panel.GearR.Visible()) {
-        section.Table.push_back({NameOf(Zolv.GearingLabel[kGearingReverse]), panel.GearR.Caption(),
-                                 result(panel.SpeedR), result(panel.RPMR), "", result(panel.TorqueR)});
+    for (std::vector<std::string>& line : GearLines()) {
+        line.front() = CaptionName(line.front());
+        section.Table.push_back(std::move(line));
     }
     return section;
 }
@@ -147,7 +111,7 @@ DocumentSection RunSection() {
         AddTarget(section, kGearingDistanceTime + k, kAccDistanceTime + 2 * k, AccelColumn::Distance,
                   targets.Distances[static_cast<std::size_t>(k)]);
     }
-    AddEntries(section, {{&Zolv.GearingLabel[kGearingEndSpeed], &Zolv.AccDataLabel[kAccEndSpeed]}});
+    AddFigures(section, {{&Zolv.GearingLabel[kGearingEndSpeed], &Zolv.AccDataLabel[kAccEndSpeed]}});
     return section;
 }
 
@@ -161,26 +125,17 @@ DocumentSection LogSection() {
 
 DocumentSection TyreSection() {
     DocumentSection section{.Title = Zolv.Select_Page.Rows()[2]};
-    AddEntries(section, {{&Zolv.TyreLabel[kTyreGrip], &Zolv.MU}, {&Zolv.TyreLabel[kTyrePatchRatio], &Zolv.FRCPR}});
+    AddFigures(section, {{&Zolv.TyreLabel[kTyreGrip], &Zolv.MU}, {&Zolv.TyreLabel[kTyrePatchRatio], &Zolv.FRCPR}});
     // The tyre page analyses one axle at a time.
     section.Figures.push_back(
         {.Name = NameOf(Zolv.TyreNumAnal), .Number = Zolv.FrontTyreAnal.Checked() ? texts.TextFront : texts.TextRear});
-    AddEntries(section, {{&Zolv.TyreLabel[kTyrePatchWidth], &Zolv.CPW},
-                         {&Zolv.TyreLabel[kTyrePatchLength], &Zolv.CPL},
-                         {&Zolv.TyreLabel[kTyrePatchArea], &Zolv.CPA},
-                         {&Zolv.TyreLabel[kTyrePatchAspect], &Zolv.CPAR},
-                         {&Zolv.TyreLabel[kTyreStiffness], &Zolv.TS},
-                         {&Zolv.TyreLabel[kTyreFrequency], &Zolv.TF},
-                         {&Zolv.TyreLabel[kTyreUnloadedRadius], &Zolv.UTR},
-                         {&Zolv.TyreLabel[kTyreDeformation], &Zolv.TD},
-                         {&Zolv.TyreLabel[kTyreRollingRadius], &Zolv.TRRC},
-                         {&Zolv.TyreLabel[kTyreWallHeight], &Zolv.TWH}});
+    AddFigures(section, FiguresOfTyre());
     return section;
 }
 
 DocumentSection AirSection() {
     DocumentSection section{.Title = Zolv.Select_Page.Rows()[3], .Beside = true};
-    AddEntries(section, {{&Zolv.AeroLabel[kAeroTopSpeed], &Zolv.Aero_TopSpeed},
+    AddFigures(section, {{&Zolv.AeroLabel[kAeroTopSpeed], &Zolv.Aero_TopSpeed},
                          {&Zolv.AeroLabel[kAeroDrag], &Zolv.Aero_TotalDrag},
                          {&Zolv.AeroLabel[kAeroLift], &Zolv.Aero_TotalLift},
                          {&Zolv.AeroLabel[kAeroLiftDragRatio], &Zolv.Aero_TotalLDR},

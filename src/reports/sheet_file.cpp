@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/gearing_state.h"
 #include "gearing/run_columns.h"
 #include "platform/dialogs.h"

@@ -1,7 +1,7 @@
 #include "shell/fresh_start.h"
 
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "language/caption_table.h"
 #include "language/field_words.h"
 #include "shell/all_state.h"

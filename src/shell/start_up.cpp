@@ -1,8 +1,8 @@
 #include "shell/start_up.h"
 
 #include "aero/aero_page.h"
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "files/options_file.h"
 #include "language/language_list.h"
 #include "language/language_state.h"

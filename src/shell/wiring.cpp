@@ -3,8 +3,8 @@
 #include "aero/aero_page.h"
 #include "aero/aero_state.h"
 #include "desk/present.h"
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "files/file_state.h"
 #include "files/options_file.h"
 #include "files/preset_file.h"
@@ -314,6 +314,13 @@ void WireUnitConverter() {
     }
 }
 
+/// A comma typed into a box of the window is a point.
+void TakeNumbers(Window& window) {
+    for (Field* field : window.Fields()) {
+        if (field->Kind() == FieldKind::TextBox) static_cast<TextBox&>(*field).OnKeyPress = CommaToPoint;
+    }
+}
+
 void WireFinder() {
     Finder.Goal.OnClick = ShowGoalBoxes;
     for (TextBox* box :
@@ -323,10 +330,8 @@ void WireFinder() {
     for (CheckBox* box : {&Finder.FreeFrontWing, &Finder.FreeRearWing, &Finder.WishDownforce}) {
         box->OnClick = ShowWingNote;
     }
-    for (Field* field : Finder.Fields()) {
-        if (field->Kind() != FieldKind::TextBox || field == &Finder.Straights) continue;
-        static_cast<TextBox&>(*field).OnKeyPress = CommaToPoint;
-    }
+    TakeNumbers(Finder);
+    Finder.Straights.OnKeyPress = {};  // a table, whose commas part its columns
     Finder.Start.OnClick = StartFinder;
     Finder.Stop.OnClick = StopFinder;
     Finder.TakeOver.OnClick = TakeOverFind;
@@ -341,9 +346,7 @@ void WireSweep() {
     for (TextBox* box : {&SweepPanel.First.From, &SweepPanel.First.To}) box->OnChange = [] { TakeSweepEnds(0); };
     for (TextBox* box : {&SweepPanel.Second.From, &SweepPanel.Second.To}) box->OnChange = [] { TakeSweepEnds(1); };
     for (TextBox* box : {&SweepPanel.Point, &SweepPanel.Point2}) box->OnChange = ShowPointResult;
-    for (Field* field : SweepPanel.Fields()) {
-        if (field->Kind() == FieldKind::TextBox) static_cast<TextBox&>(*field).OnKeyPress = CommaToPoint;
-    }
+    TakeNumbers(SweepPanel);
     SweepPanel.Start.OnClick = StartSweep;
     SweepPanel.Stop.OnClick = StopSweep;
     SweepPanel.TakeOver.OnClick = TakeOverSweepPoint;

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "desk/present.h"
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "model/acceleration_targets.h"
 #include "studies/finder_state.h"
 #include "studies/study_text.h"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "desk/present.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "model/sheet.h"
 #include "platform/dialogs.h"
 #include "studies/finder_inputs.h"

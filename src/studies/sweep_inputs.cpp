@@ -4,8 +4,8 @@
 #include <array>
 
 #include "desk/present.h"
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "model/whole_number.h"
 #include "studies/study_text.h"
 #include "studies/sweep_names.h"

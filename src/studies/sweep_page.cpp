@@ -8,7 +8,7 @@
 
 #include "desk/present.h"
 #include "drawing/svg.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "studies/study_text.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,16 @@ namespace zolv {
         }
     }
     return std::string(caption);
+}
+
+/// A caption as it reads on the screen: "&&" is one ampersand, a single "&" marks a key and is not shown.
+[[nodiscard]] inline std::string WithoutKeyMark(std::string_view caption) {
+    std::string shown;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == '&' && ++i == caption.size()) break;
+        shown += caption[i];
+    }
+    return shown;
 }
 
 }  // namespace zolv

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "model/tyre_geometry.h"
 #include "text/number_text.h"
 #include "text/words.h"

@@ -1,8 +1,8 @@
 #include "tyres/tyres_page.h"
 
 #include "aero/aero_state.h"
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "model/tyre_sheet.h"
 #include "text/number_text.h"
 #include "text/texts.h"

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "text/number_text.h"
 #include "units/option_state.h"
 #include "units/options_panel.h"

@@ -1,6 +1,6 @@
 #include "units/options_panel.h"
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "model/whole_number.h"
 #include "text/number_text.h"
 #include "text/texts.h"

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "units/unit_catalogue.h"
 
 namespace zolv {

@@ -1,8 +1,8 @@
 #include "vehicle/car_selection.h"
 
+#include "fields/all_windows.h"
 #include "fields/guards.h"
 #include "fields/label_names.h"
-#include "fields/windows.h"
 #include "model/whole_number.h"
 #include "text/number_text.h"
 #include "vehicle/vehicle_state.h"

@@ -9,8 +9,8 @@
 #include <variant>
 #include <vector>
 
+#include "fields/all_windows.h"
 #include "fields/label_names.h"
-#include "fields/windows.h"
 #include "model/whole_number.h"
 #include "platform/dialogs.h"
 #include "text/number_text.h"

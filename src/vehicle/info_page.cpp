@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "model/aero_model.h"
 #include "model/tyre_geometry.h"
 #include "platform/dialogs.h"

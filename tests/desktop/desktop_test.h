@@ -14,7 +14,7 @@
 #include "desktop/desktop.h"
 #include "desktop/main_window.h"
 #include "desktop/texts_of_qt.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "platform/dialogs.h"
 
 class QComboBox;

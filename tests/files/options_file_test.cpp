@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "files/file_state.h"
 #include "support/zolv_test.h"
 #include "units/option_state.h"

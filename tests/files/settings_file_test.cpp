@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "desk/present.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "files/file_state.h"
 #include "support/zolv_test.h"
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "shell/fresh_start.h"
 #include "text/words.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "language/caption_table.h"
 #include "support/zolv_test.h"
 #include "text/words.h"

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "language/caption_table.h"
 #include "language/language_state.h"
 #include "platform/text_files.h"

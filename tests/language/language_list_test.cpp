@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "language/caption_table.h"
 #include "language/language_state.h"
 #include "platform/text_files.h"

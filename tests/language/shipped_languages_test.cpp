@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "files/options_file.h"
 #include "language/caption_table.h"
 #include "language/language_state.h"

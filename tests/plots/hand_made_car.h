@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "gearing/gearing_state.h"
 #include "shell/fresh_start.h"
 #include "text/texts.h"

@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "model/car_record.h"
 #include "platform/dialogs.h"
 

@@ -6,7 +6,7 @@
 #include <limits>
 #include <tuple>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "shell/fresh_start.h"
 #include "tyres/tyre_state.h"
 #include "units/unit_catalogue.h"

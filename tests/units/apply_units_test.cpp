@@ -4,8 +4,8 @@
 #include <variant>
 #include <vector>
 
+#include "fields/all_windows.h"
 #include "fields/guards.h"
-#include "fields/windows.h"
 #include "gearing/gearing_state.h"
 #include "support/zolv_test.h"
 #include "units/option_state.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "support/zolv_test.h"
 
 namespace zolv {

@@ -18,7 +18,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/window_dialogs.h"
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 #include "files/settings_file.h"
 #include "platform/dialogs.h"
 #include "shell/fresh_start.h"

@@ -1,4 +1,4 @@
-#include "fields/windows.h"
+#include "fields/all_windows.h"
 
 #include "text/nearest_name.h"
 

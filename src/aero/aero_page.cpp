@@ -31,33 +31,33 @@ std::string SplitText(double first, double second, int decimals) {
     return WithUnit(first, decimals, "% / ") + WithUnit(second, decimals, "%");
 }
 
-void ShowBody(const CarRecord& car) {
-    Zolv.Aero_BodyCd.SetCaption(NumberText(car.Cd));
-    Zolv.Aero_BodyCl.SetCaption(NumberText(car.Cl));
-    Zolv.Aero_FrontalArea.SetCaption(units.Area.Text(car.FrontalArea));
-    Zolv.Aero_BodyCdA.SetCaption(units.Area.NumberOf(static_cast<double>(car.Cd) * car.FrontalArea));
-    Zolv.Aero_BodyAirDrag.SetCaption(units.Force.Text(aero.Forces.BodyDrag));
-    Zolv.Aero_BodyLift.SetCaption(units.Force.Text(aero.Forces.BodyLift));
-    Zolv.Aero_BodyLDR.SetCaption(RatioText(aero.Forces.BodyLift, aero.Forces.BodyDrag));
+void ShowBody(Showing which, const CarRecord& car, const StoredForces& air) {
+    Zolv.Aero_BodyCd.Write(which, NumberText(car.Cd));
+    Zolv.Aero_BodyCl.Write(which, NumberText(car.Cl));
+    Zolv.Aero_FrontalArea.Write(which, units.Area.Text(car.FrontalArea));
+    Zolv.Aero_BodyCdA.Write(which, units.Area.NumberOf(static_cast<double>(car.Cd) * car.FrontalArea));
+    Zolv.Aero_BodyAirDrag.Write(which, units.Force.Text(air.BodyDrag));
+    Zolv.Aero_BodyLift.Write(which, units.Force.Text(air.BodyLift));
+    Zolv.Aero_BodyLDR.Write(which, RatioText(air.BodyLift, air.BodyDrag));
 }
 
-void ShowFitting(FittingLabels& labels, const Fitting& fitting, float drag, float lift) {
-    labels.CdA.SetCaption(units.Area.NumberOf(fitting.CdA));
-    labels.ClA.SetCaption(units.Area.NumberOf(fitting.ClA));
-    labels.Drag.SetCaption(units.Force.Text(drag));
-    labels.Lift.SetCaption(units.Force.Text(lift));
-    labels.LDR.SetCaption(RatioText(lift, drag));
+void ShowFitting(Showing which, FittingLabels& labels, const Fitting& fitting, float drag, float lift) {
+    labels.CdA.Write(which, units.Area.NumberOf(fitting.CdA));
+    labels.ClA.Write(which, units.Area.NumberOf(fitting.ClA));
+    labels.Drag.Write(which, units.Force.Text(drag));
+    labels.Lift.Write(which, units.Force.Text(lift));
+    labels.LDR.Write(which, RatioText(lift, drag));
 }
 
-void ShowTotals() {
-    Zolv.Aero_TotalDrag.SetCaption(units.Force.Text(aero.Forces.TotalDrag));
-    Zolv.Aero_TotalLift.SetCaption(units.Force.Text(aero.Forces.TotalLift));
-    Zolv.Aero_TotalLDR.SetCaption(RatioText(aero.Forces.TotalLift, aero.Forces.TotalDrag));
-    const double friction = aero.Forces.TotalFriction;
-    Zolv.Aero_DragSplit.SetCaption(
-        SplitText(aero.Forces.TotalDrag / friction * 100, aero.Forces.RollingResistance / friction * 100, 0));
-    Zolv.Aero_RR.SetCaption(units.Force.Text(aero.Forces.RollingResistance));
-    Zolv.Aero_TotalFriction.SetCaption(units.Force.Text(aero.Forces.TotalFriction));
+void ShowTotals(Showing which, const StoredForces& air) {
+    Zolv.Aero_TotalDrag.Write(which, units.Force.Text(air.TotalDrag));
+    Zolv.Aero_TotalLift.Write(which, units.Force.Text(air.TotalLift));
+    Zolv.Aero_TotalLDR.Write(which, RatioText(air.TotalLift, air.TotalDrag));
+    const double friction = air.TotalFriction;
+    Zolv.Aero_DragSplit.Write(which,
+                              SplitText(air.TotalDrag / friction * 100, air.RollingResistance / friction * 100, 0));
+    Zolv.Aero_RR.Write(which, units.Force.Text(air.RollingResistance));
+    Zolv.Aero_TotalFriction.Write(which, units.Force.Text(air.TotalFriction));
 }
 
 /// What counts as neutral, either side of the weight's distribution.
@@ -83,51 +83,44 @@ void ShowBalance() {
     }
 }
 
-void ShowAeroDistribution(double share, double weightDist) {
-    aero.Balance = BalanceOf(share, weightDist);
-    ShowBalance();
-    Zolv.Aero_AeroDistribution.SetCaption(
-        aero.Balance == AirBalance::None ? "N/A" : SplitText(100 * share, (1 - share) * 100, 1));
+void ShowAeroDistribution(Showing which, double share, double weightDist) {
+    const AirBalance balance = BalanceOf(share, weightDist);
+    if (which == Showing::Present) {
+        aero.Balance = balance;
+        ShowBalance();
+    }
+    Zolv.Aero_AeroDistribution.Write(
+        which, balance == AirBalance::None ? "N/A" : SplitText(100 * share, (1 - share) * 100, 1));
 }
 
-void ShowDistribution(const AirSheet& air) {
-    Zolv.Aero_ForceFrontWheels.SetCaption(units.Force.Text(aero.FrontWheelForce));
-    Zolv.Aero_ForceRearWheels.SetCaption(units.Force.Text(aero.RearWheelForce));
-    Zolv.Aero_ForceDistribution.SetCaption(
-        SplitText(100 * air.ForceDistribution, (1 - air.ForceDistribution) * 100, 1));
-    ShowAeroDistribution(air.AeroDistribution, vehicle.CurrentCar.WeightDist);
-    Zolv.Aero_WeightMultiple.SetCaption(RoundedText(air.WeightMultiple, 2));
+void ShowDistribution(Showing which, const CarRecord& car, const AirSheet& sheet) {
+    Zolv.Aero_ForceFrontWheels.Write(which, units.Force.Text(sheet.FrontWheelForce));
+    Zolv.Aero_ForceRearWheels.Write(which, units.Force.Text(sheet.RearWheelForce));
+    Zolv.Aero_ForceDistribution.Write(which,
+                                      SplitText(100 * sheet.ForceDistribution, (1 - sheet.ForceDistribution) * 100, 1));
+    ShowAeroDistribution(which, sheet.AeroDistribution, car.WeightDist);
+    Zolv.Aero_WeightMultiple.Write(which, RoundedText(sheet.WeightMultiple, 2));
 }
 
-void ShowAeroSpeed() {
-    const std::string speed = units.Speed.Text(Zolv.Select_AeroSpeed.Value());
-    Zolv.AeroSpeed.SetCaption(speed);
-    Zolv.AeroSpeed_TyreTab.SetCaption(speed);
+void ShowAeroSpeed(Showing which, double speed) {
+    for (Label* label : {&Zolv.AeroSpeed, &Zolv.AeroSpeed_TyreTab}) label->Write(which, units.Speed.Text(speed));
 }
+void ShowAeroSpeed() { ShowAeroSpeed(Showing::Present, Zolv.Select_AeroSpeed.Value()); }
 
-void ShowWingAngles() {
+void ShowWingAngles(Showing which, int front, int rear) {
     const std::string degrees = ' ' + words["Degrees"];
-    Zolv.WingAngleFront.SetCaption(NumberText(Zolv.Select_FrontWingAngle.Value()) + degrees);
-    Zolv.WingAngleRear.SetCaption(NumberText(Zolv.Select_RearWingAngle.Value()) + degrees);
+    Zolv.WingAngleFront.Write(which, NumberText(front) + degrees);
+    Zolv.WingAngleRear.Write(which, NumberText(rear) + degrees);
+}
+void ShowWingAngles() {
+    ShowWingAngles(Showing::Present, Zolv.Select_FrontWingAngle.Value(), Zolv.Select_RearWingAngle.Value());
 }
 
-void ShowGeneral() {
+/// The air itself is the same for every set-up.
+void ShowAirItself() {
     constexpr double kZeroCelsius = 273.15;  // [K]
-    Zolv.Aero_TopSpeed.SetCaption(units.Speed.Text(aero.TopSpeed));
     Zolv.Aero_AirDensity.SetCaption(WithUnit(aero.AirDensity, 3, " kg/m^3"));
     Zolv.Aero_AirTemp.SetCaption(WithUnit(aero.AirTemperature - kZeroCelsius, 2, "\u00B0C"));
-    ShowWingAngles();
-    ShowAeroSpeed();
-}
-
-void ShowAeroPage(const AirSheet& air) {
-    ShowBody(vehicle.CurrentCar);
-    ShowFitting(Zolv.Undertray, aero.Parts.Undertray, aero.Forces.UndertrayDrag, aero.Forces.UndertrayLift);
-    ShowFitting(Zolv.FrontWing, aero.Parts.FrontWing, aero.Forces.FrontWingDrag, aero.Forces.FrontWingLift);
-    ShowFitting(Zolv.RearWing, aero.Parts.RearWing, aero.Forces.RearWingDrag, aero.Forces.RearWingLift);
-    ShowTotals();
-    ShowDistribution(air);
-    ShowGeneral();
 }
 
 void EnableSpeedSliders(bool enabled) {
@@ -163,7 +156,25 @@ void CalcAeroForces() {
     aero.AeroDistribution = air.AeroDistribution;
     aero.FrontWheelForce = air.FrontWheelForce;
     aero.RearWheelForce = air.RearWheelForce;
-    ShowAeroPage(air);
+    ShowAirOf(Showing::Present, vehicle.CurrentCar, air,
+              {.topSpeed = aero.TopSpeed,
+               .speed = static_cast<double>(Zolv.Select_AeroSpeed.Value()),
+               .frontWing = Zolv.Select_FrontWingAngle.Value(),
+               .rearWing = Zolv.Select_RearWingAngle.Value()});
+    ShowAirItself();
+}
+
+void ShowAirOf(Showing which, const CarRecord& car, const AirSheet& air, const AirChoices& choices) {
+    const StoredForces& forces = air.Forces;
+    ShowBody(which, car, forces);
+    ShowFitting(which, Zolv.Undertray, air.Parts.Undertray, forces.UndertrayDrag, forces.UndertrayLift);
+    ShowFitting(which, Zolv.FrontWing, air.Parts.FrontWing, forces.FrontWingDrag, forces.FrontWingLift);
+    ShowFitting(which, Zolv.RearWing, air.Parts.RearWing, forces.RearWingDrag, forces.RearWingLift);
+    ShowTotals(which, forces);
+    ShowDistribution(which, car, air);
+    Zolv.Aero_TopSpeed.Write(which, units.Speed.Text(choices.topSpeed));
+    ShowWingAngles(which, choices.frontWing, choices.rearWing);
+    ShowAeroSpeed(which, choices.speed);
 }
 
 BalanceMarks PresentBalanceMarks() {

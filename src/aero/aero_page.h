@@ -2,6 +2,9 @@
 
 #include <optional>
 
+#include "fields/kinds.h"
+#include "model/air_sheet.h"
+
 namespace zolv {
 
 /// Takes the coefficients of the fittings at their present angles and finds the top speed. Unless the program is
@@ -28,6 +31,16 @@ struct BalanceMarks {
 
 /// The language has changed: writes the words among the page's figures anew and calculates nothing.
 void ShowAeroWords();
+
+/// What the driver chose of the air, and the top speed that follows.
+struct AirChoices {
+    double topSpeed = 0;              // [m/s]
+    double speed = 0;                 // [m/s] at which the air is looked at
+    int frontWing = 0, rearWing = 0;  // [degrees]
+};
+
+/// Writes the figures of the page for any car under its air.
+void ShowAirOf(Showing which, const CarRecord& car, const AirSheet& air, const AirChoices& choices);
 
 /// The user moved one of the twin speed sliders: the other follows, and in slider mode the forces.
 void MoveAeroSpeed();

@@ -97,6 +97,11 @@ const Slider& SliderOf(const Field& field) {
     return static_cast<const Slider&>(field);
 }
 
+const Label& LabelOf(const Field& field) {
+    if (field.Kind() != FieldKind::Label) throw ScriptError(field.Name() + " is no label and has no held and change");
+    return static_cast<const Label&>(field);
+}
+
 std::string RowsOf(const Field& field) {
     if (field.Kind() != FieldKind::PickList && field.Kind() != FieldKind::TabStrip) {
         throw ScriptError(field.Name() + " is no list and has no rows");
@@ -119,6 +124,8 @@ constexpr Property kProperties[] = {
     {"min", [](const Field& field) { return NumberText(SliderOf(field).Min()); }},
     {"max", [](const Field& field) { return NumberText(SliderOf(field).Max()); }},
     {"rows", RowsOf},
+    {"held", [](const Field& field) { return LabelOf(field).Held(); }},
+    {"change", [](const Field& field) { return LabelOf(field).Change(); }},
 };
 
 std::string OperationText(const Canvas& canvas, const DrawingOperation& operation) {

@@ -9,6 +9,7 @@
 #include "batch/output.h"
 #include "batch/report.h"
 #include "batch/script_error.h"
+#include "desk/history.h"
 #include "drawing/svg.h"
 #include "fields/all_windows.h"
 #include "language/language_file.h"
@@ -50,6 +51,7 @@ void RunSet(std::string_view rest) {
     std::string_view name;
     Field& field = TakeField(rest, name);
     SetField(field, rest);
+    NoteInput(field);
 }
 
 void RunClick(std::string_view rest) {
@@ -57,6 +59,7 @@ void RunClick(std::string_view rest) {
     Field& field = TakeField(rest, name);
     ExpectNoMore(rest);
     ClickField(field);
+    NoteInput(field);
 }
 
 void RunGet(std::string_view rest) {

@@ -1,5 +1,7 @@
 #include "desk/present.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <utility>
@@ -7,12 +9,15 @@
 #include "aero/aero_state.h"
 #include "fields/all_windows.h"
 #include "fields/guards.h"
+#include "gearing/gearing_inputs.h"
 #include "gearing/gearing_state.h"
 #include "model/whole_number.h"
 #include "text/number_text.h"
+#include "text/words.h"
 #include "tyres/tyre_state.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
+#include "vehicle/car_selection.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
@@ -111,6 +116,31 @@ void WriteInputs(const SetUp& setUp) {
     Zolv.Select_RearWingAngle.SetValue(setUp.RearWingAngle);
 }
 
+/// The boxes of both gearboxes with their texts, one after the other.
+template <class Texts, class Work>
+void ForEachBox(Texts& texts, Work work) {
+    for (std::size_t mode = 0; mode < 2; ++mode) {
+        GearingPanel& panel = Zolv.GearingOf(static_cast<int>(mode));
+        work(panel.FinalDrive, texts.FinalDrive[mode]);
+        for (int gear = 1; gear <= kGears; ++gear) work(panel.Input[gear], texts.Inputs[mode][gear]);
+    }
+}
+
+/// @param writeMore  what else is to stand before everything is worked out
+template <class Work>
+bool Lay(const SetUp& setUp, Work writeMore) {
+    if (Zolv.Select_Car.Find(setUp.CarName) < 0) return false;
+    {
+        const Raised busy(guards.Busy);
+        PlaceChoices(setUp, PresentSetUp());
+        Zolv.Select_Car.SetText(setUp.CarName);
+        WriteInputs(setUp);
+        writeMore();
+    }
+    deskFollowUps.LaidOut();
+    return true;
+}
+
 PerGear<double> NumbersOf(GearingPanel& panel, double factor) {
     PerGear<double> numbers;
     for (int gear = 1; gear <= kGears; ++gear) numbers[gear] = Val(panel.Input[gear].Text()) / factor;
@@ -141,15 +171,49 @@ SetUp PresentSetUp() {
 }
 
 bool LayOut(const SetUp& setUp) {
-    if (Zolv.Select_Car.Find(setUp.CarName) < 0) return false;
-    {
-        const Raised busy(guards.Busy);
-        PlaceChoices(setUp, PresentSetUp());
-        Zolv.Select_Car.SetText(setUp.CarName);
+    return Lay(setUp, [] {});
+}
+
+BoxTexts PresentBoxTexts() {
+    BoxTexts texts;
+    texts.SpeedUnit = units.Speed.Unit;
+    ForEachBox(texts, [](TextBox& box, std::string& text) { text = box.Text(); });
+    return texts;
+}
+
+bool LayOutExactly(SetUp setUp, const BoxTexts* texts) {
+    setUp.Shifts = PresentShiftOptions();
+    return Lay(setUp, [&] {
         WriteInputs(setUp);
+        if (texts == nullptr || texts->SpeedUnit != units.Speed.Unit) return;
+        ForEachBox(*texts, [](TextBox& box, const std::string& text) { Place(box, text); });
+    });
+}
+
+SetUp WithinRanges(SetUp setUp) {
+    for (const GearingInputs& inputs : BothGearingInputs()) {
+        const bool ratios = &inputs.panel == &Zolv.Ratios;
+        double& finalDrive = setUp.FinalDrive[ratios ? 0 : 1];
+        finalDrive = WithinRange(finalDrive, inputs.panel.FinalDriveSlider, kThousandths);
+        const double unit = ratios ? 1 : units.Speed.Factor;
+        for (int gear = 1; gear <= kGears; ++gear) {
+            double& number = (ratios ? setUp.Ratios : setUp.Speeds)[gear];
+            number = WithinRange(number * unit, inputs.panel.InputSlider[gear], inputs.scale) / unit;
+        }
     }
-    deskFollowUps.LaidOut();
-    return true;
+    const CarRecord& car = setUp.Car;
+    setUp.FrontPressure = PressureRange(car.FMinPressure, car.FMaxPressure).Limit(setUp.FrontPressure);
+    setUp.RearPressure = PressureRange(car.RMinPressure, car.RMaxPressure).Limit(setUp.RearPressure);
+    const auto within = [](int value, const Slider& slider) { return std::clamp(value, slider.Min(), slider.Max()); };
+    setUp.FrontWingAngle = within(setUp.FrontWingAngle, Zolv.Select_FrontWingAngle);
+    setUp.RearWingAngle = within(setUp.RearWingAngle, Zolv.Select_RearWingAngle);
+    return setUp;
+}
+
+std::string WhyNotLaidOut(const SetUp& setUp) {
+    const std::optional<CarRecord> car = vehicle.RecordNamed(setUp.CarName);
+    if (!car) return words.Sentence("CarIsGone", {setUp.CarName});
+    return *car == setUp.Car ? std::string() : words.Sentence("CarHasChanged", {setUp.CarName});
 }
 
 }  // namespace zolv

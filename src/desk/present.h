@@ -1,5 +1,9 @@
 #pragma once
 
+#include <array>
+#include <string>
+
+#include "model/by_gear.h"
 #include "model/set_up.h"
 #include "platform/hook.h"
 
@@ -18,6 +22,29 @@ namespace zolv {
 /// @param setUp  Targets is not laid out: it goes by the unit of speed
 /// @return false, with nothing touched, where the car list lacks the car
 bool LayOut(const SetUp& setUp);
+
+/// The texts of the boxes of both gearboxes: what was typed, which may say more than its number.
+struct BoxTexts {
+    std::array<std::string, 2> FinalDrive;  // by Direction
+    std::array<PerGear<std::string>, 2> Inputs;
+    int SpeedUnit = 0;  // of the speeds among them
+
+    bool operator==(const BoxTexts&) const = default;
+};
+[[nodiscard]] BoxTexts PresentBoxTexts();
+
+/// The same with each box at its own number: a slider that moves rewrites its box in the slider's own steps, so that
+/// the boxes are written once more when all sliders stand. The choice of shift points, which is an option, stays.
+/// @param texts  what the boxes read, where the unit is still the same; nullptr for the numbers' own texts
+bool LayOutExactly(SetUp setUp, const BoxTexts* texts = nullptr);
+
+/// The set-up with each number moved into the range of its field, as it is when it is laid out.
+/// @param setUp  with the record of its car
+[[nodiscard]] SetUp WithinRanges(SetUp setUp);
+
+/// Why a set-up that was taken earlier cannot lie on the pages again: its car, a preset, is gone or has been changed
+/// since. Empty where it can.
+[[nodiscard]] std::string WhyNotLaidOut(const SetUp& setUp);
 
 /// What follows; shell/wiring says what that is.
 struct DeskFollowUps {

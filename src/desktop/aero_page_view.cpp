@@ -145,9 +145,9 @@ QWidget* MakePlot(Binding& binding, Canvas& canvas, QWidget* parent) {
         view->setAccessibleName(ToQt(CurveName(Zolv.AeroLabel[3]) + " / " + words["Downforce"]));
         view->update();
     };
-    const std::initializer_list<const Field*> follows{&Zolv.AeroSpeed,      &Zolv.WingAngleFront, &Zolv.WingAngleRear,
-                                                      &Zolv.Select_Car,     &Zolv.UseFixedSpeed,  &Zolv.Aero_TopSpeed,
-                                                      &Zolv.Aero_TotalDrag, &Zolv.Aero_BodyCdA,   &Zolv.AeroLabel[3]};
+    const std::initializer_list<const Field*> follows{
+        &Zolv.AeroSpeed,     &Zolv.WingAngleFront, &Zolv.WingAngleRear, &Zolv.Select_Car,   &Zolv.UseFixedSpeed,
+        &Zolv.Aero_TopSpeed, &Zolv.Aero_TotalDrag, &Zolv.Aero_BodyCdA,  &Zolv.AeroLabel[3], &Zolv.Label_Held};
     for (const Field* field : follows) binding.OnChanged(*field, draw);
     return view;
 }

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -62,6 +63,25 @@ void StepByRatio(QSlider& slider) {
         }
     });
 }
+
+/// Which moves of a slider are one step of the user: a drag, or moves by keys or the wheel that follow each other soon.
+class SliderMoves {
+public:
+    int GestureOf(const QSlider& slider) {
+        constexpr qint64 kSoon_ms = 1000;
+        const bool goesOn = last_.isValid() && last_.elapsed() < kSoon_ms;
+        const bool drags = slider.isSliderDown();
+        if (!(drags && dragged_) && (drags || dragged_ || !goesOn)) gesture_ = NewGesture();
+        dragged_ = drags;
+        last_.start();
+        return gesture_;
+    }
+
+private:
+    QElapsedTimer last_;
+    bool dragged_ = false;
+    int gesture_ = 0;
+};
 
 }  // namespace
 
@@ -155,7 +175,7 @@ void Binding::BindPress(const Field& field, QAbstractButton& button) {
 
 void Binding::Bind(Button& field, QPushButton& button) {
     BindPress(field, button);
-    QObject::connect(&button, &QPushButton::clicked, this, [this, &field] { Act([&] { field.Click(); }); });
+    QObject::connect(&button, &QPushButton::clicked, this, [this, &field] { Input(field, [&] { field.Click(); }); });
 }
 
 void Binding::Bind(MenuEntry& field, QAction& action) {
@@ -166,7 +186,7 @@ void Binding::Bind(MenuEntry& field, QAction& action) {
         action.setEnabled(field.Enabled());
         action.setVisible(field.Visible());
     });
-    QObject::connect(&action, &QAction::triggered, this, [this, &field] { Act([&] { field.Click(); }); });
+    QObject::connect(&action, &QAction::triggered, this, [this, &field] { Input(field, [&] { field.Click(); }); });
 }
 
 void Binding::Bind(TextBox& field, QLineEdit& edit, const Field* caption) {
@@ -229,7 +249,10 @@ void Binding::Bind(Slider& field, QSlider& slider, const Field* caption) {
     });
     if (HoldsRatio(field)) StepByRatio(slider);
     QObject::connect(&slider, &QSlider::valueChanged, this,
-                     [this, &field](int value) { Act([&] { field.Drag(value); }); });
+                     [this, &field, &slider, moves = SliderMoves()](int value) mutable {
+                         Input(
+                             field, [&] { field.Drag(value); }, moves.GestureOf(slider));
+                     });
 }
 
 void Binding::Bind(PickList& field, QComboBox& box, const Field* caption) {
@@ -243,7 +266,8 @@ void Binding::Bind(PickList& field, QComboBox& box, const Field* caption) {
         box.setCurrentIndex(field.Picked());
         PaintLook(field, box);
     });
-    QObject::connect(&box, &QComboBox::activated, this, [this, &field](int row) { Act([&] { field.Pick(row); }); });
+    QObject::connect(&box, &QComboBox::activated, this,
+                     [this, &field](int row) { Input(field, [&] { field.Pick(row); }); });
 }
 
 void Binding::Bind(TabStrip& field, QTabBar& bar) {
@@ -258,7 +282,8 @@ void Binding::Bind(TabStrip& field, QTabBar& bar) {
         }
         bar.setCurrentIndex(field.Picked());
     });
-    QObject::connect(&bar, &QTabBar::currentChanged, this, [this, &field](int row) { Act([&] { field.Pick(row); }); });
+    QObject::connect(&bar, &QTabBar::currentChanged, this,
+                     [this, &field](int row) { Input(field, [&] { field.Pick(row); }); });
 }
 
 void Binding::Bind(CheckBox& field, QCheckBox& box) {
@@ -268,7 +293,7 @@ void Binding::Bind(CheckBox& field, QCheckBox& box) {
         box.setChecked(field.Checked());
     });
     QObject::connect(&box, &QCheckBox::clicked, this,
-                     [this, &field](bool checked) { Act([&] { field.SetChecked(checked); }); });
+                     [this, &field](bool checked) { Input(field, [&] { field.SetChecked(checked); }); });
 }
 
 void Binding::Bind(OptionButton& field, QRadioButton& button) {
@@ -277,7 +302,7 @@ void Binding::Bind(OptionButton& field, QRadioButton& button) {
         const QSignalBlocker quiet(button);
         button.setChecked(field.Checked());
     });
-    QObject::connect(&button, &QRadioButton::clicked, this, [this, &field] { Act([&] { field.Choose(); }); });
+    QObject::connect(&button, &QRadioButton::clicked, this, [this, &field] { Input(field, [&] { field.Choose(); }); });
 }
 
 void Binding::Bind(Picture& field, PictureView& view) {
@@ -300,7 +325,8 @@ void Binding::Bind(CanvasField& field, CanvasView& view) {
 void Binding::Bind(Window& field, QWidget& widget) {
     Name(widget, field);
     OnChanged(field, [&] {
-        widget.setWindowTitle(PlainCaption(field.Title()));
+        // The place of the system's mark for what is not saved, in windows that have one.
+        widget.setWindowTitle(PlainCaption(field.Title()) + QStringLiteral("[*]"));
         if (field.Visible() != widget.isVisible()) widget.setVisible(field.Visible());
         if (field.TakeToFront()) {
             widget.raise();

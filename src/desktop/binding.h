@@ -73,8 +73,18 @@ public:
         user_.Act(std::move(work));
     }
 
+    /// The same for an input of the user with `field`, which the history notes.
+    /// @param gesture  as NoteInput has it
+    template <class Work>
+    void Input(const Field& field, Work work, int gesture = 0) {
+        user_.Input(field, std::move(work), gesture);
+    }
+
     /// Paints the fields that changed since the last time, each once.
     void PaintChanged();
+
+    /// Runs `work` behind each act of the user, when what it changed has been painted.
+    void AfterEachAct(std::function<void()> work) { afterEachAct_.push_back(std::move(work)); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -86,7 +96,11 @@ private:
     void BindPress(const Field& field, QAbstractButton& button);
 
     std::unordered_map<const Field*, std::vector<std::function<void()>>> painters_;
-    User user_{[this] { PaintChanged(); }};
+    std::vector<std::function<void()>> afterEachAct_;
+    User user_{[this] {
+        PaintChanged();
+        for (const auto& work : afterEachAct_) work();
+    }};
 };
 
 }  // namespace zolv

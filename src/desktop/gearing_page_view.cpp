@@ -1,5 +1,6 @@
 #include "desktop/gearing_page_view.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGraphicsOpacityEffect>
 #include <QGridLayout>
@@ -122,6 +123,13 @@ ValueLabel* MakeRevs(Binding& binding, Label& field, QWidget* parent) {
     binding.OnChanged(field, [revs] {
         const QString suffix = ToQt(texts.RpmSuffix);
         if (revs->text().endsWith(suffix)) revs->setText(revs->text().chopped(suffix.size()));
+    ValueLabel* const revs = MakeFigure(binding, field, parent, {}, ChangePlace::Below);
+    binding.OnChanged(OptionsPanel.SpeedPlotY.Units, [revs] {  // the same line of a language
+        revs->ReserveFor({QStringLiteral("24226") + ToQt(texts.RpmSuffix)});
+    ValueLabel* const revs = MakeFigure(binding, field, parent, {QStringLiteral("24226")}, ChangePlace::Below);
+    binding.OnChanged(field, [revs] {
+        const QString suffix = ToQt(texts.RpmSuffix);
+        if (revs->text().endsWith(suffix)) revs->setText(revs->text().chopped(suffix.size()));
     });
     return revs;
 }
@@ -192,6 +200,7 @@ QWidget* GearingPageView::MakePanel(int mode) {
     SetGroupMargins(*grid);
     grid->setHorizontalSpacing(kGap);
     grid->setVerticalSpacing(kGap / 2);
+    grid->setVerticalSpacing(1);  // the rows have room for the changes below the figures
     grid->setColumnStretch(kSlider, 1);
     AddTitles(*grid, mode);
     for (int gear = 1; gear <= 6; ++gear) AddGear(*grid, mode, gear);
@@ -255,7 +264,8 @@ void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
 
     const WidestOf widest =
         mode == 0 ? WidestTexts(&UnitState::Speed, kWidestSpeed) : WidestOf{QStringLiteral("88.888")};
-    ValueLabel* const result = addFigure(MakeFigure(binding_, panel.Result[gear], parent, widest), kResult);
+    ValueLabel* const result =
+        addFigure(MakeFigure(binding_, panel.Result[gear], parent, widest, ChangePlace::Below), kResult);
     ValueLabel* const before = addFigure(MakeRevs(binding_, panel.RPM[gear], parent), kBefore);
     // The engine speed after the change out of this gear; the car's top gear has none.
     if (gear < 6) {
@@ -263,7 +273,8 @@ void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
         ExplainMark(binding_, panel.RAC[gear], *after, WhyBelowPeakTorque);
     }
     const WidestOf torque = WidestTexts(&UnitState::Torque, kWidestTorque);
-    addFigure(MakeFigure(binding_, panel.Torque[gear], parent, torque), kTorque)->SetMarkRoom(false);
+    addFigure(MakeFigure(binding_, panel.Torque[gear], parent, torque, ChangePlace::Below), kTorque)
+        ->SetMarkRoom(false);
 
     ExplainMark(binding_, panel.RPM[gear], *before, WhyAboveRevLimit);
     if (mode == 0) {
@@ -298,15 +309,15 @@ void GearingPageView::AddReverse(QGridLayout& grid, int mode) {
     const int speed = mode == 0 ? kResult : kInput;
     grid.setRowMinimumHeight(row, fontMetrics().height() + kGap);
     grid.addWidget(MakeWords(binding_, PanelLabel(mode, 14), parent), row, kName);
-    ValueLabel* const reverseRatio = MakeFigure(binding_, panel.GearR, parent);
+    ValueLabel* const reverseRatio = MakeFigure(binding_, panel.GearR, parent, {}, ChangePlace::None);
     if (ratio == kInput) reverseRatio->setFixedWidth(BoxWidth(*reverseRatio, mode));
     grid.addWidget(reverseRatio, row, ratio);
-    ValueLabel* const reverseSpeed = MakeFigure(binding_, panel.SpeedR, parent);
+    ValueLabel* const reverseSpeed = MakeFigure(binding_, panel.SpeedR, parent, {}, ChangePlace::Below);
     ExplainMark(binding_, panel.SpeedR, *reverseSpeed, WhyAboveTopSpeed);
     grid.addWidget(reverseSpeed, row, speed, 1, speed == kInput ? 2 : 1);
     ValueLabel* const revs = MakeRevs(binding_, panel.RPMR, parent);
     grid.addWidget(revs, row, kBefore);
-    ValueLabel* const torque = MakeFigure(binding_, panel.TorqueR, parent);
+    ValueLabel* const torque = MakeFigure(binding_, panel.TorqueR, parent, {}, ChangePlace::Below);
     torque->SetMarkRoom(false);
     grid.addWidget(torque, row, kTorque);
     for (ValueLabel* figure : {reverseSpeed, revs, torque}) others_.push_back(figure);
@@ -416,6 +427,9 @@ QWidget* GearingPageView::MakeChoices() {
     row->setSpacing(kGap);
     row->addWidget(MakeWords(binding_, Zolv.GearingLabel[39], choices));
     row->addWidget(MakeList(binding_, Zolv.Select_Graphs, Zolv.GearingLabel[39], choices), 1);
+    auto* const difference = new QCheckBox(choices);
+    row->addWidget(difference);
+    binding_.Bind(Zolv.TimeDifference, *difference);
     row->addWidget(MakeExport(choices));
     return choices;
 }
@@ -451,6 +465,7 @@ QWidget* GearingPageView::MakePlots() {
     log_ = new LogTable(plots);
     column->addWidget(log_, 1);
     binding_.Bind(Zolv.RunLog, *log_);
+    binding_.OnChanged(Zolv.Label_Held, [this] { table_->SetStale(); });
     return plots;
 }
 

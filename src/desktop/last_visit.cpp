@@ -4,13 +4,12 @@
 
 #include "desktop/desktop.h"
 #include "desktop/main_window.h"
+#include "desktop/recent_files.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/window_dialogs.h"
 #include "fields/all_windows.h"
 #include "files/options_file.h"
-#include "files/settings_file.h"
 #include "platform/data_folder.h"
-#include "units/unit_state.h"
 
 namespace zolv {
 namespace {
@@ -23,6 +22,7 @@ const QString kSetUp = QStringLiteral("SetUp/Settings");
 const QString kSpeedUnit = QStringLiteral("SetUp/SpeedUnit");  // the one of the speeds in it
 const QString kFromSpeeds = QStringLiteral("SetUp/FromSpeeds");
 const QString kTyres = QStringLiteral("SetUp/Tyres");
+const QString kRecent = QStringLiteral("Window/RecentFiles");
 const QString kFolders = QStringLiteral("Folders");
 
 /// The row is picked if there is such a one.
@@ -51,7 +51,7 @@ void LastVisit::BringBack() {
     if (window.restoreGeometry(settings_.value(kPlace).toByteArray())) {
         window.setWindowState(window.windowState() & ~(Qt::WindowFullScreen | Qt::WindowMinimized));
     }
-    BringBackSetUp();
+    window.Recent().SetFiles(settings_.value(kRecent).toStringList());
     Pick(Zolv.Select_Graphs, settings_.value(kGraph));
     Pick(Zolv.Select_RunView, settings_.value(kRunView));
     Pick(Zolv.Select_Page, settings_.value(kPage));
@@ -63,17 +63,6 @@ void LastVisit::BringBack() {
     dialogs_.SetFolders(folders);
 }
 
-/// A direction takes over what the other one has found, so that it comes first and the numbers behind it.
-void LastVisit::BringBackSetUp() {
-    if (settings_.value(kSpeedUnit).toInt() != units.Speed.Unit) return;
-    const std::string text = FromQt(settings_.value(kSetUp).toString());
-    if (text.empty()) return;
-    if (settings_.value(kFromSpeeds).toBool()) Zolv.Direction2.Choose();
-    Pick(Zolv.Select_Tyres, settings_.value(kTyres));
-    // A slider that moves rewrites its box in its own steps; once all stand, the boxes take what they had.
-    for (int pass = 0; pass < 2; ++pass) OpenSettingsText(text);
-}
-
 void LastVisit::Keep() {
     settings_.setValue(kPlace, desktop_.Main().saveGeometry());
     settings_.setValue(kPage, Zolv.Select_Page.Picked());
@@ -83,6 +72,7 @@ void LastVisit::Keep() {
     settings_.setValue(kSpeedUnit, units.Speed.Unit);
     settings_.setValue(kFromSpeeds, Zolv.Direction2.Checked());
     settings_.setValue(kTyres, Zolv.Select_Tyres.Picked());
+    settings_.setValue(kRecent, desktop_.Main().Recent().Files());
     settings_.beginGroup(kFolders);
     for (const auto& [kind, folder] : dialogs_.Folders().asKeyValueRange()) settings_.setValue(kind.mid(2), folder);
     settings_.endGroup();

@@ -7,8 +7,8 @@ namespace zolv {
 class Desktop;
 class WindowDialogs;
 
-/// What comes back at the next start: the main window's size and place, the page and the graph in front, the car with
-/// its set-up, and the folders of the file dialogs. It is kept in the user's own settings, apart from the program's
+/// What comes back at the next start: the main window's size and place, the page and the graph in front, the files
+/// opened last, and the folders of the file dialogs. It is kept in the user's own settings, apart from the program's
 /// files. Of what is broken, or is not of this program, nothing comes back.
 class LastVisit {
 public:
@@ -26,8 +26,6 @@ public:
     void Keep();
 
 private:
-    void BringBackSetUp();
-
     QSettings settings_;
     Desktop& desktop_;
     WindowDialogs& dialogs_;

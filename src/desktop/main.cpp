@@ -6,7 +6,9 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "desk/history.h"
 #include "desktop/desktop.h"
+#include "desktop/kept_set_up.h"
 #include "desktop/last_visit.h"
 #include "desktop/main_window.h"
 #include "desktop/theme.h"
@@ -50,16 +52,20 @@ int main(int argc, char** argv) {
     zolv::FreshStart();
     zolv::Desktop desktop;
     zolv::LastVisit visit(zolv::LastVisit::UsersFile(), desktop, dialogs);
-    zolv::shellFollowUps.Ending = [&visit] {
+    zolv::KeptSetUp kept(zolv::KeptSetUp::UsersFile(), desktop.TheBinding());
+    zolv::shellFollowUps.Ending = [&] {
         visit.Keep();
+        kept.Keep();
         QApplication::exit();  // quit() would ask each open window
     };
     dialogs.Gather();
     zolv::EnterDataFolder();
     zolv::LoadZolv();
+    kept.BringBack();
     visit.BringBack();
     dialogs.SetParent(&desktop.Main());
     zolv::OpenNamedFile(line);
+    zolv::StartHistory();
     desktop.Open();
     QTimer::singleShot(0, [&dialogs] { dialogs.ShowGathered(); });
     const int result = QApplication::exec();

@@ -19,11 +19,14 @@
 #include <map>
 
 #include "desktop/aero_page_view.h"
+#include "desktop/beside_tabs.h"
 #include "desktop/gearing_page_view.h"
+#include "desktop/held_strip.h"
 #include "desktop/info_page_view.h"
 #include "desktop/order_fault.h"
 #include "desktop/page_parts.h"
 #include "desktop/picture_view.h"
+#include "desktop/recent_files.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/tyres_page_view.h"
@@ -81,6 +84,7 @@ MainWindow::MainWindow(Binding& binding, QWidget* parent) : QMainWindow(parent),
     column->addWidget(MakePages(), 1);
     setCentralWidget(centre);
     PlaceOnScreen();
+    binding_.AfterEachAct([this] { setWindowModified(SettingsChanged()); });
 }
 
 void MainWindow::PlaceOnScreen() {
@@ -105,7 +109,9 @@ void MainWindow::MakeMenus() {
         }
         QMenu* const menu = menus.at(entry.Parent());
         if (&entry == &Zolv.FileExit) menu->addSeparator();
-        binding_.Bind(entry, *menu->addAction(QString()));
+        QAction* const action = menu->addAction(QString());
+        binding_.Bind(entry, *action);
+        if (&entry == &Zolv.FileExit) recent_ = new RecentFiles(binding_, *menu, *action);
     }
     for (const MenuEntry* entry : {&Zolv.FileOpen, &Zolv.FileSaveAs}) {
         auto* const action = findChild<QAction*>(ToQt(entry->Name()));
@@ -169,7 +175,9 @@ QWidget* MainWindow::MakePages() {
     }
     binding_.BindStack(*stack, panels);
     binding_.Bind(Zolv.Select_Page, *tabs);
-    new OrderFaultLine(binding_, *tabs);
+    auto* const beside = new BesideTabs(*tabs);
+    beside->Add(new HeldStrip(binding_, beside));
+    beside->Add(new OrderFaultLine(binding_, beside));
     return pages;
 }
 
@@ -203,7 +211,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
     const QString path = SettingsFileIn(*event->mimeData());
     if (path.isEmpty()) return;
     event->acceptProposedAction();
-    binding_.Act([&] { OpenSettingsFile(FromQt(path)); });
+    binding_.Input(Zolv.FileOpen, [&] { OpenSettingsFile(FromQt(path)); });
 }
 
 }  // namespace zolv

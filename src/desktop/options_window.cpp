@@ -133,7 +133,7 @@ QLayout* OptionsWindow::MakeSystems(QWidget* page) {
         auto* const button = new QPushButton(page);
         button->setObjectName(QLatin1String(name));
         connect(button, &QPushButton::clicked, this,
-                [this, system] { Fields().Act([system] { PickUnitSystem(system); }); });
+                [this, system] { Fields().Input(OptionsPanel, [system] { PickUnitSystem(system); }); });
         Fields().OnChanged(OptionsPanel.Title_Options, [button, word] {
             button->setText(ToQt(word()));
             button->setAccessibleName(button->text());

@@ -1,10 +1,7 @@
 #include "desktop/order_fault.h"
 
-#include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
-#include <QTabBar>
-#include <algorithm>
 #include <functional>
 
 #include "desktop/binding.h"
@@ -35,10 +32,10 @@ void OnOrderChanged(Binding& binding, const std::function<void()>& paint) {
     for (Panel* page : {&Zolv.Ratios.Frame, &Zolv.Speeds.Frame}) binding.OnChanged(*page, paint);
 }
 
-OrderFaultLine::OrderFaultLine(Binding& binding, QTabBar& tabs) : QPushButton(&tabs), binding_(binding), tabs_(tabs) {
+OrderFaultLine::OrderFaultLine(Binding& binding, QWidget* parent) : QPushButton(parent), binding_(binding) {
     setObjectName(QStringLiteral("OrderFault"));
     setCursor(Qt::PointingHandCursor);
-    tabs.installEventFilter(this);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(this, &QPushButton::clicked, this, [this] { LeadThere(); });
     OnOrderChanged(binding, [this] { Refresh(); });
 }
@@ -50,20 +47,7 @@ void OrderFaultLine::Refresh() {
     setText(Headline());
     setToolTip(text());
     setAccessibleName(text());
-    Place();
-}
-
-/// Right of the last tab, as wide as its words or as there is room.
-void OrderFaultLine::Place() {
-    const int left = tabs_.count() == 0 ? 0 : tabs_.tabRect(tabs_.count() - 1).right() + kSection;
-    const int width = std::min(sizeHint().width(), tabs_.width() - left - kMargin);
-    const int height = std::min(sizeHint().height(), tabs_.height());
-    setGeometry(tabs_.width() - kMargin - width, (tabs_.height() - height) / 2, std::max(width, 0), height);
-}
-
-bool OrderFaultLine::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) Place();
-    return QPushButton::eventFilter(watched, event);
+    updateGeometry();
 }
 
 QSize OrderFaultLine::sizeHint() const {

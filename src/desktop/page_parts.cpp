@@ -10,10 +10,12 @@
 #include <utility>
 
 #include "aero/aero_state.h"
+#include "desk/held.h"
 #include "desktop/state_mark.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
+#include "text/difference.h"
 #include "units/unit_catalogue.h"
 
 namespace zolv {
@@ -85,10 +87,23 @@ QLabel* MakeTitle(Binding& binding, Label& field, QWidget* parent) {
     return label;
 }
 
-ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const WidestOf& widest) {
+void ShowChange(ValueLabel& label, const Label& field, std::string_view present, std::string_view held) {
+    const std::string change = DifferenceText(present, held);
+    const BetterWay better = BetterWayOf(field);
+    ChangeSide side = ChangeSide::Neutral;
+    if (!change.empty() && better != BetterWay::Neither) {
+        side = (change.front() == '+') == (better == BetterWay::Up) ? ChangeSide::Better : ChangeSide::Worse;
+    }
+    label.SetChange(ToQt(change), side);
+    label.setAccessibleName(change.empty() ? label.text() : label.text() + QStringLiteral(", ") + ToQt(change));
+}
+
+ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const WidestOf& widest, ChangePlace change) {
     auto* const label = new ValueLabel(parent);
+    label->SetChangePlace(change);
     label->ReserveFor(widest);
     binding.Bind(field, *label);
+    binding.OnChanged(field, [&field, label] { ShowChange(*label, field, field.Caption(), field.Held()); });
     return label;
 }
 
@@ -155,10 +170,11 @@ void AddAirSpeedRow(Binding& binding, QGridLayout& grid, int line, int column, c
     place.widest = WidestTexts(&UnitState::Speed, 188.8);
     QSlider* const slider = PlaceSliderRow(binding, grid, line, column, place);
     auto* const figure = grid.itemAtPosition(line, column + 2)->widget();
-    const auto show = [&row = row.value, &field = row.slider, slider, label = static_cast<QLabel*>(figure)] {
+    const auto show = [&row = row.value, &field = row.slider, slider, label = static_cast<ValueLabel*>(figure)] {
         const bool atTopSpeed = Zolv.UseFixedSpeed.Checked();
-        label->setText(ToQt(atTopSpeed ? Zolv.Aero_TopSpeed.Caption() : row.Caption()));
-        label->setAccessibleName(label->text());
+        const Label& shown = atTopSpeed ? Zolv.Aero_TopSpeed : row;
+        label->setText(ToQt(shown.Caption()));
+        ShowChange(*label, shown, shown.Caption(), row.Held());
         const QSignalBlocker quiet(slider);
         slider->setValue(atTopSpeed ? qRound(aero.TopSpeed) : field.Value());
     };

@@ -3,9 +3,11 @@
 #include <QString>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "desktop/binding.h"
+#include "desktop/value_label.h"
 #include "units/unit_state.h"
 
 class QGridLayout;
@@ -41,8 +43,12 @@ void BreakBetweenWords(Binding& binding, const Label& field, QLabel& label);
 /// The title of a narrow column, in bold.
 QLabel* MakeColumnTitle(Binding& binding, Label& field, QWidget* parent);
 
-/// A figure, right-aligned, with room for `widest`.
-ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const WidestOf& widest = {});
+/// A figure, right-aligned, with room for `widest` and for its change.
+ValueLabel* MakeFigure(Binding& binding, Label& field, QWidget* parent, const WidestOf& widest = {},
+                       ChangePlace change = ChangePlace::Beside);
+
+/// Shows in `label` by how much one text of a figure differs from the held one.
+void ShowChange(ValueLabel& label, const Label& field, std::string_view present, std::string_view held);
 
 /// While `field` has the colour of a state, tells why: in the widget's tool tip and to a screen reader.
 /// @param widget  the one that the field is bound to

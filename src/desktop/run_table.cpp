@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <algorithm>
 
+#include "desk/held.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "gearing/run_columns.h"
@@ -12,10 +13,19 @@ namespace zolv {
 namespace {
 
 constexpr int kGearColumn = 3;
+constexpr int kTimeLostColumn = 10;  // behind those of the run
+constexpr int kRowHeight = 18;
 constexpr int kCellRoom = 10;  // beside the text of a cell
 
 QString HeadOf(const RunColumn& column) {
     return ToQt(column.Unit.empty() ? column.Title : column.Title + "\n[" + column.Unit + ']');
+}
+
+/// Those of the run, and where a set-up is held, how much later than its run each speed is reached.
+std::vector<RunColumn> ShownColumns() {
+    std::vector<RunColumn> columns = RunColumns();
+    if (desk.Held != nullptr) columns.push_back({words["TimeLost"], "s"});
+    return columns;
 }
 
 /// The widest word of a title: it breaks between words.
@@ -28,6 +38,11 @@ int WidestWord(const QFontMetrics& metrics, const QString& title) {
 }  // namespace
 
 void RunModel::Refresh() {
+    if (const int columns = static_cast<int>(ShownColumns().size()); columns != columns_) {
+        beginResetModel();
+        columns_ = columns;
+        endResetModel();
+    }
     const int rows = RowsOfRun();
     if (rows < rows_) {
         beginRemoveRows({}, rows, rows_ - 1);
@@ -42,15 +57,14 @@ void RunModel::Refresh() {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
-int RunModel::columnCount(const QModelIndex& parent) const {
-    static const int columns = static_cast<int>(RunColumns().size());
-    return parent.isValid() ? 0 : columns;
-}
+int RunModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : columns_; }
 
 QVariant RunModel::data(const QModelIndex& index, int role) const {
     if (index.row() >= RowsOfRun()) return {};
     switch (role) {
-        case Qt::DisplayRole: return ToQt(RunNumber(index.row(), index.column()));
+        case Qt::DisplayRole:
+            return ToQt(index.column() == kTimeLostColumn ? TimeLostAtRow(index.row())
+                                                          : RunNumber(index.row(), index.column()));
         case Qt::TextAlignmentRole: return QVariant(Qt::AlignRight | Qt::AlignVCenter);
         case Qt::BackgroundRole:
             if (IsGearChange(index.row())) return GearTint(GearOfRow(index.row()), 0.3, QGuiApplication::palette());
@@ -63,7 +77,7 @@ QVariant RunModel::data(const QModelIndex& index, int role) const {
 
 QVariant RunModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    return HeadOf(RunColumns()[static_cast<std::size_t>(section)]);
+    return HeadOf(ShownColumns()[static_cast<std::size_t>(section)]);
 }
 
 RunTable::RunTable(QWidget* parent) : CopiedTable(parent) {
@@ -103,7 +117,7 @@ void RunTable::Fill() {
 void RunTable::MeasureColumns() {
     const QFontMetrics head = horizontalHeader()->fontMetrics();
     narrowest_.clear();
-    for (const RunColumn& column : RunColumns()) {
+    for (const RunColumn& column : ShownColumns()) {
         const bool isGear = static_cast<int>(narrowest_.size()) == kGearColumn;
         const int number = fontMetrics().horizontalAdvance(isGear ? QStringLiteral("8") : QStringLiteral("88888"));
         const int title = WidestWord(head, ToQt(column.Title));
@@ -117,7 +131,7 @@ void RunTable::MeasureColumns() {
 void RunTable::SpreadColumns() {
     constexpr int kAnyHeight = 1000;
     const QFontMetrics head = horizontalHeader()->fontMetrics();
-    const std::vector<RunColumn> titles = RunColumns();
+    const std::vector<RunColumn> titles = ShownColumns();
     int left = viewport()->width();
     for (const int width : narrowest_) left -= width;
     int height = 0;

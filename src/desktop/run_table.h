@@ -22,6 +22,7 @@ public:
 
 private:
     int rows_ = 0;
+    int columns_ = 0;
 };
 
 /// Shows the table of an acceleration run under a head that stays: units in the head, bare numbers below, the rows in

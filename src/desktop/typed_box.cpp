@@ -38,6 +38,10 @@ bool HasDigit(const QString& text) {
     return std::ranges::any_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
+bool IsStepOfHistory(const QKeyEvent& key) {
+    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+}
+
 }  // namespace
 
 void User::TypesInto(TypedBox& box) {
@@ -84,8 +88,14 @@ void TypedBox::Paint() {
     edit_.setCursorPosition(std::min(caret, static_cast<int>(edit_.text().size())));
 }
 
+void TypedBox::Begin() {
+    if (before_) return;
+    before_ = ToQt(field_.Text());
+    gesture_ = NewGesture();
+}
+
 void TypedBox::Edited() {
-    if (!before_) before_ = ToQt(field_.Text());
+    Begin();
     user_.TypesInto(*this);
     pause_.start();
 }
@@ -106,7 +116,8 @@ void TypedBox::GiveToField(Moment moment) {
     user_.TypesNoMoreInto(*this);
     if (open) {
         giving_ = true;
-        user_.Act([&] { field_.Enter(FromQt(typed)); });
+        user_.Input(
+            field_, [&] { field_.Enter(FromQt(typed)); }, gesture_);
         giving_ = false;
     }
     if (open && moment == Moment::Pause && StandsFor(typed)) return;
@@ -134,6 +145,10 @@ bool TypedBox::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::ShortcutOverride:
             // Escape is the box's own while there is something to bring back.
             if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && before_) event->accept();
+            if (IsStepOfHistory(*static_cast<QKeyEvent*>(event)) && !user_.IsTypingInto(*this)) {
+                event->ignore();  // a box whose text is finished has nothing of its own to undo
+                return true;
+            }
             break;
         case QEvent::KeyPress:
             if (TakesKey(*static_cast<QKeyEvent*>(event))) return true;
@@ -172,13 +187,16 @@ void TypedBox::Restore() {
     const std::string before = FromQt(*before_);
     before_.reset();
     // Not by Enter: the program's own text may be longer than what a user may type.
-    user_.Act([&] { field_.SetText(before); });
+    user_.Input(
+        field_, [&] { field_.SetText(before); }, gesture_);
     Rewrite();
 }
 
 void TypedBox::Step(int direction) {
-    const QString before = before_.value_or(ToQt(field_.Text()));
-    user_.Act([&] { slider_->Drag(slider_->Value() + direction * slider_->SmallStep()); });
+    Begin();
+    const QString before = *before_;
+    user_.Input(
+        field_, [&] { slider_->Drag(slider_->Value() + direction * slider_->SmallStep()); }, gesture_);
     before_ = before;
     Rewrite();
 }

@@ -7,6 +7,8 @@
 #include <optional>
 #include <utility>
 
+#include "desk/history.h"
+
 class QKeyEvent;
 class QLineEdit;
 
@@ -28,6 +30,16 @@ public:
         HandOver();
         work();
         after_();
+    }
+
+    /// An act that is an input with `field`; the history notes it.
+    /// @param gesture  as NoteInput has it
+    template <class Work>
+    void Input(const Field& field, Work work, int gesture = 0) {
+        Act([&] {
+            work();
+            NoteInput(field, gesture);
+        });
     }
 
     /// The box has a text that its field does not have yet. There is one such box at a time.
@@ -68,6 +80,7 @@ private:
     bool HoldsNumber() const;
     bool IsOpen() const;
     QString Typed() const;
+    void Begin();
     void Edited();
     void Paused();
     void GiveToField(Moment moment);
@@ -84,6 +97,7 @@ private:
     Slider* slider_;  // that the box's number goes to; nullptr for none
     QTimer pause_;
     std::optional<QString> before_;  // the text with which the typing began
+    int gesture_ = 0;                // what follows until the box is left is one step
     bool giving_ = false;            // the field is at work on what was typed
     bool composing_ = false;         // an input method has text that is not in the box yet
 };

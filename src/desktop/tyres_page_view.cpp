@@ -80,11 +80,13 @@ void AddInputs(Binding& binding, QVBoxLayout& page) {
 /// In metres the lengths of a tyre read 0.1 m or nothing at all; they are shown in millimetres then.
 void ShowFiner(Binding& binding, const QWidget& box) {
     for (Label* field : {&Zolv.CPW, &Zolv.CPL, &Zolv.CPA, &Zolv.UTR, &Zolv.TD, &Zolv.TRRC, &Zolv.TWH}) {
-        auto* const figure = box.findChild<QLabel*>(ToQt(field->Name()));
+        auto* const figure = static_cast<ValueLabel*>(box.findChild<QLabel*>(ToQt(field->Name())));
         const auto show = [field, figure] {
-            const std::string finer = FinerTyreText(*field);
-            figure->setText(ToQt(finer.empty() ? field->Caption() : finer));
-            figure->setAccessibleName(figure->text());
+            const std::string finer = FinerTyreText(Showing::Present, *field);
+            const bool isFiner = !finer.empty();
+            figure->setText(ToQt(isFiner ? finer : field->Caption()));
+            ShowChange(*figure, *field, isFiner ? finer : field->Caption(),
+                       isFiner ? FinerTyreText(Showing::Held, *field) : field->Held());
         };
         binding.OnChanged(*field, show);
         binding.OnChanged(Zolv.CPS, show);  // drawn with each analysis, also where the caption stays

@@ -26,6 +26,7 @@ void Canvas::Clear() {
     axes_.present = false;
     names_.clear();
     scale_.reset();
+    legend_.clear();
 }
 
 void Canvas::FillRectangle(Meaning meaning, double x1, double y1, double x2, double y2, Rgb colour) {

@@ -132,6 +132,10 @@ public:
     const std::vector<PartName>& Names() const { return names_; }
     void AddName(Meaning meaning, std::string name, std::string unit = {});
 
+    /// What the legend of the present drawing is to say beside names that find no place; cleared with it.
+    const std::vector<PartName>& Legend() const { return legend_; }
+    void AddLegend(PartName entry) { legend_.push_back(std::move(entry)); }
+
 private:
     void Record(const DrawingOperation& operation) {
         const bool finite = std::isfinite(operation.x1) && std::isfinite(operation.y1) && std::isfinite(operation.x2) &&
@@ -148,6 +152,7 @@ private:
     Axes axes_;
     std::optional<ColourScale> scale_;
     std::vector<PartName> names_;
+    std::vector<PartName> legend_;
 };
 
 }  // namespace zolv

@@ -244,11 +244,7 @@ private:
             const PartName& name = *part.name;
             if (part.points.empty() || !IsCurve(name.meaning.role)) continue;
             if (name.name == canvas_.PresentAxes().y.title) continue;
-            if (name.meaning.standing == Standing::Held) {
-                found_.left.push_back(name);
-            } else if (!PlaceCurve(part, shortened)) {
-                good = false;
-            }
+            if (name.meaning.standing != Standing::Held && !PlaceCurve(part, shortened)) good = false;
         }
         return good;
     }

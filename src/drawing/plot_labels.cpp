@@ -197,7 +197,9 @@ PlotLabels LabelsOf(const Canvas& canvas, const PlotPlace& place, const TextMeas
     labeller.Scale(canvas);
     labeller.Measures(canvas);
     labeller.Points(canvas);
-    labeller.Names(PlaceNames(canvas, place, measure));
+    NamesOnPlot names = PlaceNames(canvas, place, measure);
+    names.left.insert(names.left.begin(), canvas.Legend().begin(), canvas.Legend().end());
+    labeller.Names(std::move(names));
     return labeller.Labels();
 }
 

@@ -12,7 +12,8 @@ StrokeStyle StyleOf(Meaning curveOrMark) {
 
 StrokeStyle StyleOf(const DrawingOperation& line) {
     const Role role = line.meaning.role;
-    if (IsCurve(role) || IsMark(role)) return StyleOf(line.meaning);
+    const bool held = line.meaning.standing == Standing::Held;
+    if (IsCurve(role) || IsMark(role) || held) return StyleOf(line.meaning);
     return {.colour = Softened(line.colour), .width = static_cast<double>(line.width)};
 }
 

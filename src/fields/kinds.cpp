@@ -4,6 +4,8 @@
 #include <cassert>
 #include <utility>
 
+#include "text/difference.h"
+
 namespace zolv {
 namespace {
 
@@ -21,7 +23,18 @@ std::size_t BytesOf(std::string_view text, std::size_t characters) {
 }  // namespace
 
 Label::Label(Window& owner, std::string name, Look design)
-    : Field(owner, std::move(name), FieldKind::Label, std::move(design)) {}
+    : FieldWith(owner, std::move(name), FieldKind::Label, {.look = std::move(design)}) {}
+
+void Label::Write(Showing which, std::string_view text) {
+    if (which == Showing::Present) {
+        SetCaption(text);
+    } else if (state_.held != text) {
+        state_.held = text;
+        MarkChanged();
+    }
+}
+
+std::string Label::Change() const { return DifferenceText(Caption(), state_.held); }
 
 Panel::Panel(Window& owner, std::string name, PanelState design)
     : FieldWith(owner, std::move(name), FieldKind::Panel, std::move(design)) {}
@@ -41,8 +54,8 @@ void Panel::SetFront(bool front) {
 Button::Button(Window& owner, std::string name, Look design)
     : Field(owner, std::move(name), FieldKind::Button, std::move(design)) {}
 
-MenuEntry::MenuEntry(Window& owner, std::string name, std::string parent, std::string shortcut)
-    : Field(owner, std::move(name), FieldKind::MenuEntry, {}),
+MenuEntry::MenuEntry(Window& owner, std::string name, std::string parent, std::string shortcut, Look design)
+    : Field(owner, std::move(name), FieldKind::MenuEntry, std::move(design)),
       parent_(std::move(parent)),
       shortcut_(std::move(shortcut)) {}
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -32,9 +33,26 @@ protected:
     State state_;
 };
 
-class Label : public Field {
+/// Which of the two set-ups a figure belongs to: the one on the pages, or the one that is held beside it.
+enum class Showing : std::uint8_t { Present, Held };
+
+struct LabelState {
+    std::string held = {};  // the caption for the held set-up; empty where there is none
+    Look look = {};
+};
+
+class Label : public FieldWith<LabelState> {
 public:
     Label(Window& owner, std::string name, Look design = {});
+
+    /// Writes the figure of one of the two set-ups: the caption, or what stands for it where a set-up is held.
+    void Write(Showing which, std::string_view text);
+
+    const std::string& Held() const { return state_.held; }
+
+    /// By how much the figure differs from the held one, in the unit shown: "+1.4". Empty where there is none, or no
+    /// difference that could be seen.
+    [[nodiscard]] std::string Change() const;
 };
 
 struct PanelState {
@@ -68,7 +86,7 @@ public:
 /// An entry of a menu. An entry without a parent is a menu of the menu bar, and has no click of its own.
 class MenuEntry : public Field {
 public:
-    MenuEntry(Window& owner, std::string name, std::string parent = {}, std::string shortcut = {});
+    MenuEntry(Window& owner, std::string name, std::string parent = {}, std::string shortcut = {}, Look design = {});
 
     const std::string& Parent() const { return parent_; }
     const std::string& Shortcut() const { return shortcut_; }  // "Ctrl+U", or several, "Ctrl+Tab; Ctrl+PgDown"

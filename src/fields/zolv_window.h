@@ -69,6 +69,14 @@ public:
     MenuEntry FileClose{*this, "FileClose", "FileMenu"};
     MenuEntry FileSheet{*this, "FileSheet", "FileMenu", "Ctrl+P"};
     MenuEntry FileExit{*this, "FileExit", "FileMenu"};
+    MenuEntry EditMenu{*this, "EditMenu"};
+    MenuEntry EditUndo{*this, "EditUndo", "EditMenu", "Ctrl+Z", {.enabled = false}};
+    MenuEntry EditRedo{*this, "EditRedo", "EditMenu", "Ctrl+Shift+Z", {.enabled = false}};
+    MenuEntry SetUpMenu{*this, "SetUpMenu"};
+    MenuEntry SetUpHold{*this, "SetUpHold", "SetUpMenu", "Ctrl+H"};
+    MenuEntry SetUpHoldFile{*this, "SetUpHoldFile", "SetUpMenu"};
+    MenuEntry SetUpSwap{*this, "SetUpSwap", "SetUpMenu", "Ctrl+Shift+H", {.enabled = false}};
+    MenuEntry SetUpRelease{*this, "SetUpRelease", "SetUpMenu", {}, {.enabled = false}};
     MenuEntry ViewMenu{*this, "ViewMenu"};
     MenuEntry ViewNextPage{*this, "ViewNextPage", "ViewMenu", "Ctrl+Tab; Ctrl+PgDown"};
     MenuEntry ViewPreviousPage{*this, "ViewPreviousPage", "ViewMenu", "Ctrl+Shift+Tab; Ctrl+PgUp"};
@@ -90,6 +98,11 @@ public:
     Picture TitleImage{*this, "TitleImage"};
     Picture TarmaqLogo{*this, "TarmaqLogo"};
     FieldArray<Panel, 4> Page{*this, "Page", [](int i) { return PanelState{.stack = 1, .front = i == 0}; }};
+
+    // What is held beside the present set-up
+    Label Label_Held{*this, "Label_Held", {.visible = false}};
+    Button HeldSwap{*this, "HeldSwap", {.visible = false}};
+    Button HeldRelease{*this, "HeldRelease", {.visible = false}};
 
     // Page 0: Info
     FieldArray<Panel, 4> InfoPanel{*this, "InfoPanel"};
@@ -154,6 +167,7 @@ public:
     CanvasField SpeedPlot{*this, "SpeedPlot", 4635, 3015};
     CanvasField TorquePlot{*this, "TorquePlot", 4635, 3015};
     CanvasField TractiveEffortPlot{*this, "TractiveEffortPlot", 4635, 3015, {.visible = false}};
+    CheckBox TimeDifference{*this, "TimeDifference", {.look = {.visible = false}}};  // over speed, in place of speed
     CanvasField SpeedTimeGraph{*this, "SpeedTimeGraph", 4635, 3015, {.visible = false}};
     TextBox AccelerationData{
         *this, "AccelerationData", {.locked = true, .multiLine = true, .look = {.visible = false}}};

@@ -2,8 +2,12 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <utility>
 
+#include "desk/held.h"
+#include "desk/history.h"
 #include "desk/present.h"
 #include "fields/all_windows.h"
 #include "files/file_state.h"
@@ -20,6 +24,7 @@ namespace {
 
 constexpr std::string_view kProgramName = "Tarmaq Zolv";
 constexpr const char* kPattern = "*.zolv";   // what a cancelled dialog returns
+constexpr double kBaseUnit = 1;              // m/s
 constexpr std::size_t kLongestFile = 65536;  // a real one has some 250 bytes
 
 std::array<double, 6> Numbers(const PerGear<double>& gears, double factor) {
@@ -34,27 +39,28 @@ PerGear<double> Gears(const std::array<double, 6>& numbers, double factor) {
     return gears;
 }
 
-/// What of a set-up a file holds; speeds in the unit in force.
-SettingsFile FileOf(const SetUp& setUp) {
+/// What of a set-up a file holds.
+/// @param speedUnit  factor of the unit that its speeds are written in
+SettingsFile FileOf(const SetUp& setUp, double speedUnit) {
     return {.CarName = setUp.CarName,
             .FPressure = static_cast<double>(setUp.FrontPressure),
             .RPressure = static_cast<double>(setUp.RearPressure),
             .GearF = setUp.FinalDrive[0],
             .Gear = Numbers(setUp.Ratios, 1),
             .Final = setUp.FinalDrive[1],
-            .Speed = Numbers(setUp.Speeds, units.Speed.Factor),
+            .Speed = Numbers(setUp.Speeds, speedUnit),
             .FWing = static_cast<double>(setUp.FrontWingAngle),
             .RWing = static_cast<double>(setUp.RearWingAngle)};
 }
 
 /// The set-up with what a file holds of one; the rest stays.
-SetUp With(SetUp setUp, const SettingsFile& file) {
+SetUp With(SetUp setUp, const SettingsFile& file, double speedUnit) {
     setUp.CarName = file.CarName;
     setUp.FrontPressure = ToInt32(file.FPressure);
     setUp.RearPressure = ToInt32(file.RPressure);
     setUp.FinalDrive = {file.GearF, file.Final};
     setUp.Ratios = Gears(file.Gear, 1);
-    setUp.Speeds = Gears(file.Speed, units.Speed.Factor);
+    setUp.Speeds = Gears(file.Speed, speedUnit);
     setUp.FrontWingAngle = ToInt32(file.FWing);
     setUp.RearWingAngle = ToInt32(file.RWing);
     return setUp;
@@ -62,8 +68,12 @@ SetUp With(SetUp setUp, const SettingsFile& file) {
 
 /// @return whether it was written; if not, a message has said why
 bool SaveTo(const std::string& name) {
-    const std::string reason = WriteTextFile(name, SettingsText(FileOf(PresentSetUp())));
-    if (!reason.empty()) ShowMessage(CannotWrite(name, reason));
+    const std::string reason = WriteTextFile(name, SettingsText(FileOf(PresentSetUp(), units.Speed.Factor)));
+    if (reason.empty()) {
+        NoteSaved();
+    } else {
+        ShowMessage(CannotWrite(name, reason));
+    }
     return reason.empty();
 }
 
@@ -74,7 +84,10 @@ void SetCurrentFile(const std::string& name) {
     Zolv.SetTitle(title);
 }
 
-bool IsThere(const std::string& car) { return vehicle.FindCar(car) >= 0 || vehicle.FindPreset(car) >= 0; }
+bool IsThere(const std::string& car) { return vehicle.RecordNamed(car).has_value(); }
+
+/// Without its folder.
+std::string NameOfFile(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
 
 FileRequest RequestFor(bool saving) {
     return {.forSaving = saving,
@@ -108,8 +121,26 @@ void OpenSettingsFile(const std::string& name) {
         deskFollowUps.LaidOut();  // what was there before lies there still
     } else {
         SetCurrentFile(name);
-        LayOut(With(PresentSetUp(), *settings));
+        history.Opened = NameOfFile(name);
+        LayOut(With(PresentSetUp(), *settings, units.Speed.Factor));
+        NoteSaved();
     }
+}
+
+void HoldSettings() {
+    const std::string name = AskForFile(RequestFor(false));
+    if (name != kPattern) HoldSettingsFile(name);
+}
+
+void HoldSettingsFile(const std::string& name) {
+    const FileText file = ReadTextFile(name, kLongestFile);
+    const Parsed<SettingsFile> settings = file.readable ? ParseSettings(file.text) : Refusal{file.reason};
+    if (!settings) return ShowMessage(CannotRead(name, settings.Reason()));
+    const std::optional<CarRecord> car = vehicle.RecordNamed(settings->CarName);
+    if (!car) return ShowMessage(texts.TextCarNotSupported + "\r\n" + texts.TextTryAddingIt);
+    SetUp setUp = With(PresentSetUp(), *settings, units.Speed.Factor);
+    setUp.Car = *car;
+    Hold(WithinRanges(std::move(setUp)), NameOfFile(name));
 }
 
 void SaveSettings() {
@@ -127,11 +158,23 @@ void SaveSettingsAs() {
 
 void CloseSettings() { SetCurrentFile({}); }
 
-std::string PresentSettingsText() { return SettingsText(FileOf(PresentSetUp())); }
+void NoteSaved() { files.Saved = FileOf(PresentSetUp(), kBaseUnit); }
 
-void OpenSettingsText(std::string_view text) {
+bool SettingsChanged() { return FileOf(PresentSetUp(), kBaseUnit) != files.Saved; }
+
+std::string PresentSettingsText() { return SettingsText(FileOf(PresentSetUp(), kBaseUnit)); }
+
+bool LayOutSettingsText(std::string_view text) {
     const Parsed<SettingsFile> settings = ParseSettings(text);
-    if (settings && IsThere(settings->CarName)) LayOut(With(PresentSetUp(), *settings));
+    return settings && IsThere(settings->CarName) && LayOutExactly(With(PresentSetUp(), *settings, kBaseUnit));
+}
+
+void ResumeFile(const std::string& name) {
+    const FileText file = ReadTextFile(name, kLongestFile);
+    const Parsed<SettingsFile> settings = file.readable ? ParseSettings(file.text) : Refusal{file.reason};
+    if (!settings) return;
+    SetCurrentFile(name);
+    files.Saved = FileOf(With({}, *settings, units.Speed.Factor), kBaseUnit);
 }
 
 }  // namespace zolv

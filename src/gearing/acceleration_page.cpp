@@ -100,22 +100,6 @@ void ShowTargetNames() {
     Zolv.GearingLabel[kGearingDistanceTime + 1].SetCaption(named[1]);
 }
 
-void ShowFigures(const AccelResults& results, double endSpeed) {
-    for (int k = 0; k < 5; ++k) {
-        const float time = results.SpeedTimes[static_cast<std::size_t>(k)];
-        // The first target alone has no "N/A".
-        Zolv.AccDataLabel[kAccSpeedTime + k].SetCaption(time == 0 && k > 0 ? "N/A" : WithUnit(time, 2, "s"));
-    }
-    const bool ranOutOfRows = gearing.AccelLastRow == kAccelRows - 1;  // the car was still gaining
-    Zolv.AccDataLabel[kAccEndSpeed].SetColour(ranOutOfRows ? kBlue : kBlack);
-    Zolv.AccDataLabel[kAccEndSpeed].SetCaption(units.Speed.Text(endSpeed));
-    for (int k = 0; k < 2; ++k) {
-        const auto i = static_cast<std::size_t>(k);
-        Zolv.AccDataLabel[kAccDistanceTime + 2 * k].SetCaption(WithUnit(results.DistanceTimes[i], 1, "s"));
-        Zolv.AccDataLabel[kAccDistanceSpeed + 2 * k].SetCaption("@ " + units.Speed.Text(results.DistanceSpeeds[i]));
-    }
-}
-
 }  // namespace
 
 void RunAcceleration() {
@@ -129,7 +113,23 @@ void RunAcceleration() {
 
     ShowTable();
     ShowTargetNames();
-    ShowFigures(ResultsOf(PresentRun(), PresentTargets()), run.Speed);
+    ShowRunOf(Showing::Present, ResultsOf(PresentRun(), PresentTargets()), run.Speed);
+    const bool ranOutOfRows = gearing.AccelLastRow == kAccelRows - 1;  // the car was still gaining
+    Zolv.AccDataLabel[kAccEndSpeed].SetColour(ranOutOfRows ? kBlue : kBlack);
+}
+
+void ShowRunOf(Showing which, const AccelResults& results, double endSpeed) {
+    for (int k = 0; k < 5; ++k) {
+        const float time = results.SpeedTimes[static_cast<std::size_t>(k)];
+        // The first target alone has no "N/A".
+        Zolv.AccDataLabel[kAccSpeedTime + k].Write(which, time == 0 && k > 0 ? "N/A" : WithUnit(time, 2, "s"));
+    }
+    Zolv.AccDataLabel[kAccEndSpeed].Write(which, units.Speed.Text(endSpeed));
+    for (int k = 0; k < 2; ++k) {
+        const auto i = static_cast<std::size_t>(k);
+        Zolv.AccDataLabel[kAccDistanceTime + 2 * k].Write(which, WithUnit(results.DistanceTimes[i], 1, "s"));
+        Zolv.AccDataLabel[kAccDistanceSpeed + 2 * k].Write(which, "@ " + units.Speed.Text(results.DistanceSpeeds[i]));
+    }
 }
 
 }  // namespace zolv

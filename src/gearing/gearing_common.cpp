@@ -74,31 +74,36 @@ bool CheckOrder(const ByGear& given, Direction direction) {
     return false;
 }
 
-void ShowGearRevs(GearingPanel& panel, const Gearbox& box) {
+void ReportWrongOrder() { ReportOrder(OrderWordsOf(gearing.From()), gearing.WrongOrder); }
+
+void ShowGearsOf(Showing which, GearingPanel& panel, const Gearbox& box) {
+    const auto rpm = [](double revs) { return WithUnit(revs, 0, texts.RpmSuffix); };
+    for (int gear = 1; gear <= kGears; ++gear) {
+        panel.Result[gear].Write(which, &panel == &Zolv.Ratios ? units.Speed.Text(box.GearSpeed[gear])
+                                                               : RoundedText(box.GearRatio[gear], 3));
+        panel.RPM[gear].Write(which, rpm(box.GearRevs[gear]));
+        if (gear < kGears) panel.RAC[gear].Write(which, rpm(box.RevsAfterChange[gear]));
+        panel.Torque[gear].Write(which, units.Torque.Text(box.GearTorque[gear]));
+    }
+    panel.TorqueR.Write(which, units.Torque.Text(box.GearTorque[0]));
+    for (GearingPanel* both : {&Zolv.Ratios, &Zolv.Speeds}) {
+        both->SpeedR.Write(which, units.Speed.Text(box.GearSpeed[0]));
+    }
+}
+
+void ColourGears(GearingPanel& panel, const Gearbox& box) {
     const double limit = PresentShiftRules().RevLimit();
     const double torqueRevs = vehicle.CurrentCar.TorqueRPM;
-    for (int gear = 1; gear <= kGears; ++gear) {
-        const double revs = box.GearRevs[gear];
-        if (gear < kGears) panel.RPM[gear].SetColour(ColourIf(revs > limit, kRed));
-        panel.RPM[gear].SetCaption(WithUnit(revs, 0, texts.RpmSuffix));
-    }
     for (int gear = 1; gear < kGears; ++gear) {
-        const double revs = box.RevsAfterChange[gear];
-        panel.RAC[gear].SetColour(ColourIf(revs < torqueRevs, kBlue));
-        panel.RAC[gear].SetCaption(WithUnit(revs, 0, texts.RpmSuffix));
+        panel.RPM[gear].SetColour(ColourIf(box.GearRevs[gear] > limit, kRed));
+        panel.RAC[gear].SetColour(ColourIf(box.RevsAfterChange[gear] < torqueRevs, kBlue));
     }
 }
 
-void ShowGearTorque(GearingPanel& panel, const Gearbox& box) {
-    for (int gear = 1; gear <= kGears; ++gear) {
-        panel.Torque[gear].SetCaption(units.Torque.Text(box.GearTorque[gear]));
+void ShowReverseRevs(Showing which, const Gearbox& box) {
+    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
+        panel->RPMR.Write(which, WithUnit(box.GearRevs[0], 0, texts.RpmSuffix));
     }
-    panel.TorqueR.SetCaption(units.Torque.Text(box.GearTorque[0]));
-}
-
-void ShowReverseSpeed() {
-    const std::string speed = units.Speed.Text(gearing.Present().GearSpeed[0]);
-    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) panel->SpeedR.SetCaption(speed);
 }
 
 }  // namespace zolv

@@ -30,10 +30,18 @@ void KeepDrivenDeformation();
 /// @return whether the order holds
 bool CheckOrder(const ByGear& given, Direction direction);
 
-/// Colours and captions that both pages have alike: engine speeds before and after the change, torque, reverse speed.
-void ShowGearRevs(GearingPanel& panel, const Gearbox& box);
-void ShowGearTorque(GearingPanel& panel, const Gearbox& box);
-void ShowReverseSpeed();
+/// Writes that report anew, of the page in force, over what TorquePlot shows.
+void ReportWrongOrder();
+
+/// Writes what follows from a gearbox on one page: speeds or ratios, engine speeds before and after the change, torque,
+/// and the speed of reverse, which both pages show.
+void ShowGearsOf(Showing which, GearingPanel& panel, const Gearbox& box);
+
+/// The engine speed of reverse, on both pages. The speeds page alone leaves it.
+void ShowReverseRevs(Showing which, const Gearbox& box);
+
+/// The colours that both pages have alike: red beyond the limiter, blue where the change drops below peak torque.
+void ColourGears(GearingPanel& panel, const Gearbox& box);
 
 /// The words that report numbers in the wrong order, in the language in force.
 struct OrderWords {

@@ -12,9 +12,6 @@
 namespace zolv {
 namespace {
 
-constexpr double kThousandths = 1000;  // the slider of a ratio, and of a final drive, counts them
-constexpr double kWholes = 1;          // a speed's slider counts units
-
 void WriteBox(TextBox& box, const Slider& slider, double scale) { box.SetText(NumberText(slider.Value() / scale)); }
 
 void MoveSlider(TextBox& box, Slider& slider, double scale) {
@@ -30,6 +27,12 @@ const std::array<GearingInputs, 2>& BothGearingInputs() {
     static const std::array<GearingInputs, 2> kBoth{{{Zolv.Ratios, kThousandths, UpdateSpeeds},  //
                                                      {Zolv.Speeds, kWholes, UpdateRatios}}};
     return kBoth;
+}
+
+double WithinRange(double number, const Slider& slider, double scale) {
+    const std::int32_t wanted = ToInt32(number * scale);
+    if (wanted < slider.Min()) return slider.Min() / scale;
+    return wanted > slider.Max() ? slider.Max() / scale : number;
 }
 
 void InputChanged(const GearingInputs& inputs, int gear) {

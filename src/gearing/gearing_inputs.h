@@ -8,6 +8,9 @@
 /// its box. guards.Busy keeps a recalculation that has begun from starting another.
 namespace zolv {
 
+inline constexpr double kThousandths = 1000;  // the slider of a ratio, and of a final drive, counts them
+inline constexpr double kWholes = 1;          // a speed's slider counts units
+
 /// What a driver gives on one page of the gearing.
 struct GearingInputs {
     GearingPanel& panel;
@@ -16,6 +19,9 @@ struct GearingInputs {
 };
 /// Ratios first, then speeds.
 [[nodiscard]] const std::array<GearingInputs, 2>& BothGearingInputs();
+
+/// A box's number within the range of its slider, whose value is the number times `scale`.
+[[nodiscard]] double WithinRange(double number, const Slider& slider, double scale);
 
 /// The text of a box changed. Its slider takes the number; one beyond the slider's range is rewritten with the limit,
 /// so that no zero is ever read from a box. Then, unless busy, the page is recalculated.

@@ -7,7 +7,6 @@
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
 #include "text/number_text.h"
-#include "text/texts.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
@@ -26,18 +25,10 @@ void ReadRatios() {
     box.FinalDrive = static_cast<float>(Val(Zolv.Ratios.FinalDrive.Text()));
 }
 
-void ShowSpeeds(const Gearbox& box) {
+void ColourSpeeds(const Gearbox& box) {
     const auto colourOf = [](float speed) { return speed > aero.TopSpeed ? kRed : kBlack; };
-    for (int gear = 1; gear <= kGears; ++gear) {
-        Zolv.Ratios.Result[gear].SetColour(colourOf(box.GearSpeed[gear]));
-        Zolv.Ratios.Result[gear].SetCaption(units.Speed.Text(box.GearSpeed[gear]));
-    }
-    const std::string reverseRevs = WithUnit(box.GearRevs[0], 0, texts.RpmSuffix);
-    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
-        panel->SpeedR.SetColour(colourOf(box.GearSpeed[0]));
-        panel->RPMR.SetCaption(reverseRevs);
-    }
-    ShowReverseSpeed();
+    for (int gear = 1; gear <= kGears; ++gear) Zolv.Ratios.Result[gear].SetColour(colourOf(box.GearSpeed[gear]));
+    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) panel->SpeedR.SetColour(colourOf(box.GearSpeed[0]));
 }
 
 }  // namespace
@@ -56,9 +47,10 @@ void CalcGearSpeeds() {
     CalcReverse();
     FindTorque(car, box);
 
-    ShowGearRevs(Zolv.Ratios, box);
-    ShowSpeeds(box);
-    ShowGearTorque(Zolv.Ratios, box);
+    ShowGearsOf(Showing::Present, Zolv.Ratios, box);
+    ShowReverseRevs(Showing::Present, box);
+    ColourGears(Zolv.Ratios, box);
+    ColourSpeeds(box);
     if (options.AccelerationOn) RunAcceleration();
     gearingFollowUps.SpeedsFound();
 }

@@ -34,11 +34,8 @@ std::optional<Rgb> RatioColour(const ByGear& ratios, int gear) {
     return ColourIf(ratios[gear] < kLowestRatio, kRed);
 }
 
-void ShowRatios(const ByGear& ratios) {
-    for (int gear = 1; gear <= kGears; ++gear) {
-        Zolv.Speeds.Result[gear].SetColour(RatioColour(ratios, gear));
-        Zolv.Speeds.Result[gear].SetCaption(RoundedText(ratios[gear], 3));
-    }
+void ColourRatios(const ByGear& ratios) {
+    for (int gear = 1; gear <= kGears; ++gear) Zolv.Speeds.Result[gear].SetColour(RatioColour(ratios, gear));
 }
 
 }  // namespace
@@ -61,10 +58,9 @@ void CalcGearRatios() {
     CalcReverse();
     FindTorque(PresentGearedCar(), box);
 
-    ShowRatios(box.GearRatio);
-    ShowReverseSpeed();
-    ShowGearRevs(Zolv.Speeds, box);
-    ShowGearTorque(Zolv.Speeds, box);
+    ShowGearsOf(Showing::Present, Zolv.Speeds, box);
+    ColourGears(Zolv.Speeds, box);
+    ColourRatios(box.GearRatio);
     if (options.AccelerationOn) RunAcceleration();
     gearingFollowUps.RatiosFound();
 }

@@ -5,6 +5,7 @@
 #include "gearing/gearing_state.h"
 #include "model/engine_curve.h"
 #include "plots/plot_frame.h"
+#include "plots/plotted.h"
 #include "text/texts.h"
 #include "text/words.h"
 #include "units/unit_state.h"
@@ -44,13 +45,15 @@ void WalkInside(double step, double scale, double end, DrawLine draw) {
 }
 
 /// The greater of the two peaks, as the user reads them, reaches 10/11 of the height.
-PlotFrame PresentFrame(const Engine& engine) {
+double HighestPeak(const Plotted& setUp) {
+    const Engine engine = EngineOf(setUp.car);
     const double power = engine.Power * units.Power.Factor;
     const double torque = engine.Torque * units.Torque.Factor;
-    const double highest = power > torque ? engine.Power * 1.1 * units.Power.Factor  //
-                                          : engine.Torque * 1.1 * units.Torque.Factor;
-    return {.sx = kWidest / (engine.PowerRPM * 1.25), .sy = kBaseLine / highest};
+    return power > torque ? engine.Power * 1.1 * units.Power.Factor  //
+                          : engine.Torque * 1.1 * units.Torque.Factor;
 }
+
+double HighestRevs(const Plotted& setUp) { return EngineOf(setUp.car).PowerRPM * 1.25; }
 
 void DrawEngineGrid(Canvas& plot, const PlotFrame& frame) {
     WalkInside(kRevsStep, frame.sx, kGridRight,
@@ -73,42 +76,58 @@ void DrawEngineGrid(Canvas& plot, const PlotFrame& frame) {
                   .unit = AxisUnit(units.Torque.Suffix) + " / " + AxisUnit(units.Power.Suffix)});
 }
 
-void StoreTorque(std::size_t point, const PlotFrame& frame, double revs, double torque) {
-    plots.TorquePlotX[point] = static_cast<float>(revs * frame.sx);
-    plots.TorquePlotY[point] = static_cast<float>(torque * frame.sy * units.Torque.Factor);
-}
-
-/// @param torque  at `revs`, which makes the power there
-void StorePower(std::size_t point, const PlotFrame& frame, double revs, double torque) {
-    const double power = torque * revs / PowerConstant;
-    plots.PowerPlotX[point] = static_cast<float>(revs * frame.sx);
-    plots.PowerPlotY[point] = static_cast<float>(power * frame.sy * units.Power.Factor);
-}
-
-/// Torque is straight below its peak, power is not. The last two points of power fall on the same engine speed.
-void StoreLine(const Engine& engine, const PlotFrame& frame) {
-    constexpr int kSteps = 16;
-    const double range = engine.TorqueRPM - engine.IdleRPM;
-    StoreTorque(0, frame, engine.IdleRPM, LowerTorque(engine, engine.IdleRPM));
-    for (int i = 0; i <= kSteps; ++i) {
-        const double revs = (i * range) / kSteps + engine.IdleRPM;
-        StorePower(static_cast<std::size_t>(i), frame, revs, LowerTorque(engine, revs));
+/// The points of a set-up's curves.
+class CurvePoints {
+public:
+    CurvePoints(const Plotted& setUp, const PlotFrame& frame, PlotState& points)
+        : engine_(EngineOf(setUp.car)), curve_(setUp.curve), frame_(frame), points_(points) {
+        StoreLine();
+        StoreCubic();
     }
-    const double peak = LowerTorque(engine, engine.TorqueRPM);
-    StoreTorque(1, frame, engine.TorqueRPM, peak);
-    StorePower(kPowerLinePoints - 1, frame, engine.TorqueRPM, peak);
-}
 
-void StoreCubic(const Engine& engine, const PlotFrame& frame) {
-    const double step = (engine.PowerRPM * 1.2 - engine.TorqueRPM) / kCubicPoints;
-    double revs = engine.TorqueRPM;
-    for (std::size_t i = 0; i < kCubicPoints; ++i) {
-        revs += step;
-        const double torque = gearing.Curve.Cubic(revs);
-        StoreTorque(kTorqueLinePoints + i, frame, revs, torque);
-        StorePower(kPowerLinePoints + i, frame, revs, torque);
+private:
+    void StoreTorque(std::size_t point, double revs, double torque) {
+        points_.TorquePlotX[point] = static_cast<float>(revs * frame_.sx);
+        points_.TorquePlotY[point] = static_cast<float>(torque * frame_.sy * units.Torque.Factor);
     }
-}
+
+    /// @param torque  at `revs`, which makes the power there
+    void StorePower(std::size_t point, double revs, double torque) {
+        const double power = torque * revs / PowerConstant;
+        points_.PowerPlotX[point] = static_cast<float>(revs * frame_.sx);
+        points_.PowerPlotY[point] = static_cast<float>(power * frame_.sy * units.Power.Factor);
+    }
+
+    /// Torque is straight below its peak, power is not. The last two points of power fall on the same engine speed.
+    void StoreLine() {
+        constexpr int kSteps = 16;
+        const double range = engine_.TorqueRPM - engine_.IdleRPM;
+        StoreTorque(0, engine_.IdleRPM, LowerTorque(engine_, engine_.IdleRPM));
+        for (int i = 0; i <= kSteps; ++i) {
+            const double revs = (i * range) / kSteps + engine_.IdleRPM;
+            StorePower(static_cast<std::size_t>(i), revs, LowerTorque(engine_, revs));
+        }
+        const double peak = LowerTorque(engine_, engine_.TorqueRPM);
+        StoreTorque(1, engine_.TorqueRPM, peak);
+        StorePower(kPowerLinePoints - 1, engine_.TorqueRPM, peak);
+    }
+
+    void StoreCubic() {
+        const double step = (engine_.PowerRPM * 1.2 - engine_.TorqueRPM) / kCubicPoints;
+        double revs = engine_.TorqueRPM;
+        for (std::size_t i = 0; i < kCubicPoints; ++i) {
+            revs += step;
+            const double torque = curve_.Cubic(revs);
+            StoreTorque(kTorqueLinePoints + i, revs, torque);
+            StorePower(kPowerLinePoints + i, revs, torque);
+        }
+    }
+
+    const Engine engine_;
+    const EngineCurve& curve_;
+    const PlotFrame& frame_;
+    PlotState& points_;
+};
 
 template <std::size_t Points>
 void DrawCurve(Canvas& plot, Meaning meaning, const std::array<float, Points>& x, const std::array<float, Points>& y,
@@ -118,33 +137,36 @@ void DrawCurve(Canvas& plot, Meaning meaning, const std::array<float, Points>& x
     }
 }
 
-void DrawCurves(Canvas& plot) {
-    const bool failed = gearing.Curve.CurveFitFailed;
+void DrawCurves(Canvas& plot, const Plotted& setUp, const PlotState& points) {
+    const bool failed = setUp.curve.CurveFitFailed;
     const Rgb torqueColour = failed ? kRed : kBlue;
     const Rgb powerColour = failed ? kRed : kGreen;
     plot.SetLineWidth(2);
-    const Standing standing = failed ? Standing::Doubtful : Standing::Present;
-    const Meaning torque{Role::Torque, standing};
-    const Meaning power{Role::Power, standing};
-    DrawCurve(plot, torque, plots.TorquePlotX, plots.TorquePlotY, torqueColour);
-    DrawCurve(plot, power, plots.PowerPlotX, plots.PowerPlotY, powerColour);
+    const Meaning torque{Role::Torque, setUp.CurveStanding()};
+    const Meaning power{Role::Power, setUp.CurveStanding()};
+    DrawCurve(plot, torque, points.TorquePlotX, points.TorquePlotY, torqueColour);
+    DrawCurve(plot, power, points.PowerPlotX, points.PowerPlotY, powerColour);
     plot.SetLineWidth(1);
-    plot.AddName(torque, CurveName(Zolv.InfoLabel[kInfoTorque]), AxisUnit(units.Torque.Suffix));
-    plot.AddName(power, CurveName(Zolv.InfoLabel[kInfoPower]), AxisUnit(units.Power.Suffix));
+    AddNameOf(plot, torque, CurveName(Zolv.InfoLabel[kInfoTorque]), AxisUnit(units.Torque.Suffix));
+    AddNameOf(plot, power, CurveName(Zolv.InfoLabel[kInfoPower]), AxisUnit(units.Power.Suffix));
 }
 
 }  // namespace
 
 void DrawEnginePlot() {
-    const Engine engine = EngineOf(vehicle.CurrentCar);
-    const PlotFrame frame = PresentFrame(engine);
+    gearing.Curve = vehicle.Curve;
+    const PlottedSetUps setUps;
+    const PlotFrame frame{.sx = kWidest / setUps.Largest(HighestRevs), .sy = kBaseLine / setUps.Largest(HighestPeak)};
     Canvas& plot = Zolv.TorquePowerPlot.Draw();
     plot.Clear();
     DrawEngineGrid(plot, frame);
-    StoreLine(engine, frame);
-    gearing.Curve = vehicle.Curve;
-    StoreCubic(engine, frame);
-    DrawCurves(plot);
+    setUps.ForEach([&](const Plotted& setUp) {
+        PlotState ofHeld;
+        PlotState& points = setUp.standing == Standing::Held ? ofHeld : plots;
+        const CurvePoints stored(setUp, frame, points);
+        DrawCurves(plot, setUp, points);
+    });
+    setUps.AddLegend(plot, Role::Torque);
 }
 
 }  // namespace zolv

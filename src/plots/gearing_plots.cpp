@@ -1,5 +1,6 @@
 #include "plots/gearing_plots.h"
 
+#include "desk/held.h"
 #include "fields/all_windows.h"
 #include "plots/run_plots.h"
 #include "plots/run_view.h"
@@ -21,6 +22,7 @@ bool IsChosen(std::size_t row) { return PresentRunView() == RunView::Graphs && I
 void ShowChosenCanvases() {
     for (CanvasField* canvas : {&Zolv.SpeedPlot, &Zolv.TorquePlot}) canvas->SetVisible(IsChosen(0));
     for (CanvasField* canvas : {&Zolv.TractiveEffortPlot, &Zolv.SpeedTimeGraph}) canvas->SetVisible(IsChosen(1));
+    Zolv.TimeDifference.SetVisible(IsChosen(1) && desk.Held != nullptr);
 }
 
 }  // namespace

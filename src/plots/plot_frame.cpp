@@ -1,10 +1,6 @@
 #include "plots/plot_frame.h"
 
-#include <algorithm>
-
-#include "model/shift_points.h"
 #include "text/caption_name.h"
-#include "vehicle/vehicle_state.h"
 
 namespace zolv {
 
@@ -31,8 +27,6 @@ void DrawGrid(Canvas& plot, const PlotFrame& frame, const AxisReading& x, const 
                   .title = std::string(y.title),
                   .unit = AxisUnit(y.suffix)});
 }
-
-std::size_t TopGear() { return static_cast<std::size_t>(std::clamp<int>(vehicle.CurrentCar.NumGears, 0, kGears)); }
 
 std::string CurveName(const Label& label) { return CaptionName(label.Caption()); }
 

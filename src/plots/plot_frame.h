@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -37,9 +36,6 @@ struct AxisReading {
 /// Draws the grid at width 1 in the canvas's ink, vertical lines first, and publishes what its axes mean. The last line
 /// of a direction may lie beyond the frame; a step too small to cross the frame ends after 101 lines.
 void DrawGrid(Canvas& plot, const PlotFrame& frame, const AxisReading& x, const AxisReading& y);
-
-/// The top gear of the car in use, as an index that every array of gears has.
-[[nodiscard]] std::size_t TopGear();
 
 /// A curve's name, from the label in front of its figure: "Power:" names the curve "Power".
 [[nodiscard]] std::string CurveName(const Label& label);

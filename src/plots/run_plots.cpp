@@ -1,46 +1,62 @@
 #include "plots/run_plots.h"
 
 #include <algorithm>
+#include <optional>
 
-#include "aero/aero_state.h"
+#include "desk/held.h"
+#include "drawing/chart.h"
 #include "fields/all_windows.h"
-#include "gearing/gearing_state.h"
+#include "model/run_times.h"
 #include "plots/plot_frame.h"
+#include "plots/plotted.h"
 #include "text/texts.h"
 #include "text/words.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
-#include "vehicle/vehicle_state.h"
 
 namespace zolv {
 namespace {
 
 constexpr std::string_view kSeconds = " s";
 
-/// Canvas units for one second of the run.
-double TimeScale() { return (kPlotWidth - kCurveReserve) / (gearing.AccelLastRow * kTimeStep); }
+int LastRow(const Plotted& setUp) { return static_cast<int>(setUp.run.size()) - 1; }
 
-const AccelRow& RowAt(int row) { return gearing.AccelRows[static_cast<std::size_t>(row)]; }
+/// Canvas units for one second of the longest run.
+double TimeScale(const PlottedSetUps& setUps) {
+    return (kPlotWidth - kCurveReserve) / (setUps.Largest(LastRow) * kTimeStep);
+}
 
-/// Draws `column` from one row to another.
-void DrawSegment(Canvas& plot, const PlotFrame& frame, int from, int to, AccelColumn column, Role role, Rgb colour) {
+const AccelRow& RowAt(const Plotted& setUp, int row) { return setUp.run[static_cast<std::size_t>(row)]; }
+
+/// One curve of a run: `column` over time, every `stride` rows.
+struct RunCurve {
+    AccelColumn column;
+    Meaning meaning;
+    Rgb colour;
+    int stride;
+};
+
+/// Draws the piece of a curve that begins at a row.
+void DrawSegment(Canvas& plot, const PlotFrame& frame, const Plotted& setUp, int from, const RunCurve& curve) {
+    const int to = from + curve.stride;
     const auto x = [&](int row) { return (row * frame.sx * kTimeStep) + kLeftMargin; };
-    plot.Line(role, x(from), frame.Y(RowAt(from)[column]), x(to), frame.Y(RowAt(to)[column]), colour);
+    plot.Line(curve.meaning, x(from), frame.Y(RowAt(setUp, from)[curve.column]), x(to),
+              frame.Y(RowAt(setUp, to)[curve.column]), curve.colour);
 }
 
 /// The largest force to be expected [N]: first gear's at peak torque, as far as the tyres can take it, or the load of
 /// an axle where the loads are drawn.
-double LargestForce() {
-    const Gearbox& box = gearing.Present();
-    const CarRecord& car = vehicle.CurrentCar;
+double LargestForce(const Plotted& setUp) {
+    const Gearbox& box = *setUp.gears;
+    const CarRecord& car = setUp.car;
     const bool rear = car.IsRearDriven();
-    const double radius = rear ? vehicle.Tyres.RearUnloadedRadius : vehicle.Tyres.FrontUnloadedRadius;
-    const double load = rear ? aero.RearWheelForce : aero.FrontWheelForce;
+    const double radius = rear ? setUp.tyres.RearUnloadedRadius : setUp.tyres.FrontUnloadedRadius;
+    const double load = rear ? setUp.rearLoad : setUp.frontLoad;
     const double torque = static_cast<double>(car.Torque) * car.Efficiency * box.GearRatio[1] * box.FinalDrive;
     double force = torque / (radius * 0.95);
     if (force > load * 1.6) force = load * 1.6;
     if (!options.VLoadsOn) return force;
-    const double largerLoad = std::max(aero.FrontWheelForce, aero.RearWheelForce);
+    const double largerLoad = std::max(setUp.frontLoad, setUp.rearLoad);
     return force < largerLoad * 1.05 ? largerLoad * 1.05 : force;
 }
 
@@ -62,42 +78,84 @@ constexpr ForceCurve kForceCurves[] = {
     {AccelColumn::RearLoad, Role::RearLoad, kCyan, []() -> const std::string& { return words["RearLoad"]; }, true},
 };
 
-}  // namespace
+/// Both set-ups, or nothing where the present one has not run; a held one that has not run is left out.
+std::optional<PlottedSetUps> SetUpsThatRan() {
+    PlottedSetUps setUps = GearedSetUps();
+    if (LastRow(setUps.Present()) <= 0) return {};
+    if (setUps.Held() && LastRow(*setUps.Held()) <= 0) setUps.DropHeld();
+    return setUps;
+}
 
-void DrawTractiveEffortPlot() {
+void DrawForces(Canvas& plot, const PlotFrame& frame, const Plotted& setUp) {
     constexpr int kStride = 3;
-    if (gearing.AccelLastRow <= 0) return;
-    const PlotFrame frame{.sx = TimeScale(), .sy = kPlotHeight / LargestForce()};
-    Canvas& plot = Zolv.TractiveEffortPlot.Draw();
-    DrawGrid(plot, frame, {.title = texts.TextColTime, .step = options.TractivePlotXScale, .suffix = kSeconds},
-             {words["Force"], options.TractivePlotYScale, units.Force.Factor, units.Force.Suffix});
-
-    plot.SetLineWidth(2);
     const auto isDrawn = [](const ForceCurve& curve) { return !curve.isLoad || options.VLoadsOn; };
-    for (int row = 0; row < gearing.AccelLastRow - kStride; row += kStride) {
+    for (int row = 0; row < LastRow(setUp) - kStride; row += kStride) {
         for (const ForceCurve& curve : kForceCurves) {
-            if (isDrawn(curve)) DrawSegment(plot, frame, row, row + kStride, curve.column, curve.role, curve.colour);
+            if (!isDrawn(curve)) continue;
+            DrawSegment(plot, frame, setUp, row, {curve.column, {curve.role, setUp.standing}, curve.colour, kStride});
         }
     }
     for (const ForceCurve& curve : kForceCurves) {
-        if (isDrawn(curve)) plot.AddName(curve.role, curve.name());
+        if (isDrawn(curve)) AddNameOf(plot, {curve.role, setUp.standing}, curve.name());
     }
 }
 
-void DrawSpeedTimeGraph() {
+void DrawSpeed(Canvas& plot, const PlotFrame& frame, const Plotted& setUp) {
     constexpr int kStride = 8;
-    const int last = gearing.AccelLastRow;
-    if (last <= 0) return;
-    const PlotFrame frame{.sx = TimeScale(), .sy = kPlotHeight / (RowAt(last)[AccelColumn::Speed] * 1.1)};
+    const RunCurve curve{AccelColumn::Speed, {Role::Speed, setUp.standing}, kBlack, kStride};
+    for (int row = 0; row < LastRow(setUp) - kStride; row += kStride) DrawSegment(plot, frame, setUp, row, curve);
+    AddNameOf(plot, curve.meaning, texts.TextColSpeed);
+}
+
+/// How much later the present set-up reaches each speed that both reach.
+ChartSeries TimeLost(const Plotted& present) {
+    constexpr int kStride = 4;
+    const RunTimes times(present.run);
+    ChartSeries lost{.name = words["TimeLost"], .role = Role::Speed};
+    for (int row = 0; row <= LastRow(present); row += kStride) {
+        const double speed = RowAt(present, row)[AccelColumn::Speed];
+        const std::optional<double> here = times.At(speed);
+        const std::optional<double> held = desk.Held->Times.At(speed);
+        if (here && held) lost.points.push_back({speed * units.Speed.Factor, *here - *held});
+    }
+    return lost;
+}
+
+void DrawTimeDifference(Canvas& plot, const Plotted& present) {
+    Chart chart;
+    chart.x = {.title = texts.TextColSpeed, .unit = AxisUnit(units.Speed.Suffix)};
+    chart.y = {.title = words["TimeLost"], .unit = AxisUnit(kSeconds)};
+    chart.series.push_back(TimeLost(present));
+    DrawChart(chart, plot);
+}
+
+}  // namespace
+
+void DrawTractiveEffortPlot() {
+    const std::optional<PlottedSetUps> setUps = SetUpsThatRan();
+    if (!setUps) return;
+    const PlotFrame frame{.sx = TimeScale(*setUps), .sy = kPlotHeight / setUps->Largest(LargestForce)};
+    Canvas& plot = Zolv.TractiveEffortPlot.Draw();
+    DrawGrid(plot, frame, {.title = texts.TextColTime, .step = options.TractivePlotXScale, .suffix = kSeconds},
+             {words["Force"], options.TractivePlotYScale, units.Force.Factor, units.Force.Suffix});
+    plot.SetLineWidth(2);
+    setUps->ForEach([&](const Plotted& setUp) { DrawForces(plot, frame, setUp); });
+    setUps->AddLegend(plot, Role::DrivingForce);
+}
+
+void DrawSpeedTimeGraph() {
+    const std::optional<PlottedSetUps> setUps = SetUpsThatRan();
+    if (!setUps) return;
     Canvas& plot = Zolv.SpeedTimeGraph.Draw();
+    if (setUps->Held() && Zolv.TimeDifference.Checked()) return DrawTimeDifference(plot, setUps->Present());
+    const double fastest =
+        setUps->Largest([](const Plotted& setUp) { return RowAt(setUp, LastRow(setUp))[AccelColumn::Speed] * 1.1; });
+    const PlotFrame frame{.sx = TimeScale(*setUps), .sy = kPlotHeight / fastest};
     DrawGrid(plot, frame, {.title = texts.TextColTime, .step = options.SpeedGraphXScale, .suffix = kSeconds},
              {texts.TextColSpeed, options.SpeedGraphYScale, units.Speed.Factor, units.Speed.Suffix});
-
     plot.SetLineWidth(2);
-    for (int row = 0; row < last - kStride; row += kStride) {
-        DrawSegment(plot, frame, row, row + kStride, AccelColumn::Speed, Role::Speed, kBlack);
-    }
-    plot.AddName(Role::Speed, texts.TextColSpeed);
+    setUps->ForEach([&](const Plotted& setUp) { DrawSpeed(plot, frame, setUp); });
+    setUps->AddLegend(plot, Role::Speed);
 }
 
 }  // namespace zolv

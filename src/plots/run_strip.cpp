@@ -1,11 +1,14 @@
 #include "plots/run_strip.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
+#include "desk/held.h"
 #include "drawing/chart.h"
 #include "gearing/gearing_state.h"
 #include "gearing/run_columns.h"
+#include "plots/plotted.h"
 #include "text/texts.h"
 #include "units/unit_state.h"
 
@@ -32,15 +35,28 @@ ChartSeries PieceOf(int gear, int stride) {
     return piece;
 }
 
+ChartSeries HeldRun(int stride) {
+    ChartSeries run{.name = NameIn(Standing::Held, texts.TextColSpeed), .role = Role::Speed, .held = true};
+    const std::span<const AccelRow> rows = desk.Held->Run();
+    for (int row = 0; row < static_cast<int>(rows.size()); row += stride) {
+        const float speed = rows[static_cast<std::size_t>(row)][AccelColumn::Speed];
+        run.points.push_back({row * kTimeStep, speed * units.Speed.Factor});
+    }
+    return run;
+}
+
 }  // namespace
 
 void DrawRunStrip(Canvas& strip) {
     constexpr int kMostPoints = 150;
     strip.Clear();
     if (gearing.AccelLastRow <= 0) return;
-    const int stride = std::max(1, gearing.AccelLastRow / kMostPoints);
-    Chart chart{.x = {.title = texts.TextColTime, .unit = "s", .to = gearing.AccelLastRow * kTimeStep},
+    const int heldLast = desk.Held != nullptr ? static_cast<int>(desk.Held->Run().size()) - 1 : 0;
+    const int last = std::max<int>(gearing.AccelLastRow, heldLast);
+    const int stride = std::max(1, last / kMostPoints);
+    Chart chart{.x = {.title = texts.TextColTime, .unit = "s", .to = last * kTimeStep},
                 .y = {.title = texts.TextColSpeed, .unit = AxisUnit(units.Speed.Suffix)}};
+    if (desk.Held != nullptr) chart.series.push_back(HeldRun(stride));
     for (int gear = 1; gear <= kGears; ++gear) {
         if (ChartSeries piece = PieceOf(gear, stride); !piece.points.empty()) chart.series.push_back(std::move(piece));
     }

@@ -4,14 +4,13 @@
 
 #include "fields/all_windows.h"
 #include "fields/label_names.h"
-#include "gearing/gearing_state.h"
 #include "model/engine_curve.h"
 #include "plots/plot_frame.h"
+#include "plots/plotted.h"
 #include "text/texts.h"
 #include "text/words.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
-#include "vehicle/vehicle_state.h"
 
 namespace zolv {
 namespace {
@@ -27,35 +26,37 @@ struct Curve {
 using Curves = std::array<Curve, kGears + 1>;
 
 /// The engine's own curve reaches further than the wheels' whenever the gearing reduces.
-double LongestRevs(const Gearbox& box) {
-    const double engineRevs = vehicle.CurrentCar.PowerRPM * 1.3;
-    const double ratio = box.GearRatio[TopGear()];
-    const double finalDrive = box.FinalDrive;
+double LongestRevs(const Plotted& setUp) {
+    const double engineRevs = setUp.car.PowerRPM * 1.3;
+    const double ratio = setUp.gears->GearRatio[setUp.TopGear()];
+    const double finalDrive = setUp.gears->FinalDrive;
     if (options.EngineTorqueOn && static_cast<float>(finalDrive * ratio) > 1.0F) return engineRevs;
     return engineRevs / ratio / finalDrive;
 }
 
-PlotFrame PresentFrame(const Gearbox& box) {
-    const CarRecord& car = vehicle.CurrentCar;
-    const double highest = static_cast<double>(car.Torque) * box.GearRatio[1] * box.FinalDrive * car.Efficiency * 1.05 *
-                           units.Torque.Factor;
-    return {.sx = kPlotWidth / LongestRevs(box), .sy = kPlotHeight / highest};
+/// In the unit shown.
+double HighestTorque(const Plotted& setUp) {
+    const CarRecord& car = setUp.car;
+    const Gearbox& box = *setUp.gears;
+    return static_cast<double>(car.Torque) * box.GearRatio[1] * box.FinalDrive * car.Efficiency * 1.05 *
+           units.Torque.Factor;
 }
 
 /// Torque at one engine speed; at peak torque the cubic.
-double SampleTorque(const Engine& engine, double revs) {
-    return revs < engine.TorqueRPM ? LowerTorque(engine, revs) : gearing.Curve.Cubic(revs);
+double SampleTorque(const Engine& engine, const EngineCurve& curve, double revs) {
+    return revs < engine.TorqueRPM ? LowerTorque(engine, revs) : curve.Cubic(revs);
 }
 
-Curves SampleCurves(const PlotFrame& frame, const Gearbox& box) {
-    const Engine engine = EngineOf(vehicle.CurrentCar);
-    const double efficiency = vehicle.CurrentCar.Efficiency;
+Curves SampleCurves(const PlotFrame& frame, const Plotted& setUp) {
+    const Gearbox& box = *setUp.gears;
+    const Engine engine = EngineOf(setUp.car);
+    const double efficiency = setUp.car.Efficiency;
     const double finalDrive = box.FinalDrive;
     const double step = (engine.PowerRPM * 1.2 - engine.IdleRPM) / (kSamples - 1);
     Curves curves;
     double revs = engine.IdleRPM;  // summed up, not multiplied: the last digits are those of the sum
     for (std::size_t k = 0; k < kSamples; ++k, revs += step) {
-        const double torque = SampleTorque(engine, revs);
+        const double torque = SampleTorque(engine, setUp.curve, revs);
         curves[0].x[k] = revs * frame.sx;
         curves[0].y[k] = torque * frame.sy * units.Torque.Factor;
         for (std::size_t gear = 1; gear <= kGears; ++gear) {
@@ -74,11 +75,25 @@ void DrawCurve(Canvas& plot, Meaning meaning, const Curve& curve, Rgb colour) {
     }
 }
 
+void DrawCurves(Canvas& plot, const PlotFrame& frame, const Plotted& setUp) {
+    const Curves curves = SampleCurves(frame, setUp);
+    const bool failed = setUp.curve.CurveFitFailed;
+    for (std::size_t i = options.EngineTorqueOn ? 0 : 1; i <= setUp.TopGear(); ++i) {
+        const bool isEngine = i == 0;
+        const Rgb colour = failed ? kRed : isEngine ? kBlue : kBlack;
+        plot.SetLineWidth(isEngine ? 3 : 2);
+        const Meaning meaning{isEngine ? Role::Engine : GearRole(static_cast<int>(i)), setUp.CurveStanding()};
+        DrawCurve(plot, meaning, curves[i], colour);
+        AddNameOf(plot, meaning, isEngine ? words["EngineCurve"] : texts.GearNames[i]);
+    }
+}
+
 }  // namespace
 
 void DrawTorquePlot() {
-    const Gearbox& box = gearing.Present();
-    const PlotFrame frame = PresentFrame(box);
+    const PlottedSetUps setUps = GearedSetUps();
+    const PlotFrame frame{.sx = kPlotWidth / setUps.Largest(LongestRevs),
+                          .sy = kPlotHeight / setUps.Largest(HighestTorque)};
     Canvas& plot = Zolv.TorquePlot.Draw();
     const std::string torqueName = CurveName(Zolv.InfoLabel[6]);
     // The scale holds the factor of the unit already, so that the data of this plot are in the unit shown.
@@ -88,17 +103,8 @@ void DrawTorquePlot() {
               .suffix = texts.RpmSuffix},
              {.title = torqueName, .step = options.TorquePlotYScale, .suffix = units.Torque.Suffix});
 
-    const Curves curves = SampleCurves(frame, box);
-    const bool failed = gearing.Curve.CurveFitFailed;
-    for (std::size_t i = options.EngineTorqueOn ? 0 : 1; i <= TopGear(); ++i) {
-        const bool isEngine = i == 0;
-        const Rgb colour = failed ? kRed : isEngine ? kBlue : kBlack;
-        plot.SetLineWidth(isEngine ? 3 : 2);
-        const Meaning meaning{isEngine ? Role::Engine : GearRole(static_cast<int>(i)),
-                              failed ? Standing::Doubtful : Standing::Present};
-        DrawCurve(plot, meaning, curves[i], colour);
-        plot.AddName(meaning, isEngine ? words["EngineCurve"] : texts.GearNames[i]);
-    }
+    setUps.ForEach([&](const Plotted& setUp) { DrawCurves(plot, frame, setUp); });
+    setUps.AddLegend(plot, Role::Gear1);
 }
 
 }  // namespace zolv

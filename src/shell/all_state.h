@@ -3,6 +3,8 @@
 #include <tuple>
 
 #include "aero/aero_state.h"
+#include "desk/held.h"
+#include "desk/history.h"
 #include "files/file_state.h"
 #include "gearing/gearing_state.h"
 #include "language/language_state.h"
@@ -24,8 +26,8 @@ namespace zolv {
 /// All state of the program beside the fields and the guards, a struct a module. Whoever resets, copies or compares it
 /// goes by this list.
 inline auto AllState() {
-    return std::tie(platform, texts, words, units, options, vehicle, presets, tyres, aero, gearing, plots, files,
-                    language, finder, sweep, shell);
+    return std::tie(platform, texts, words, units, options, vehicle, presets, tyres, aero, gearing, desk, history,
+                    plots, files, language, finder, sweep, shell);
 }
 
 /// A copy of all state, which `AllState() = copy` puts back.

@@ -1,9 +1,11 @@
 #include "shell/start_up.h"
 
 #include "aero/aero_page.h"
+#include "desk/history.h"
 #include "fields/all_windows.h"
 #include "fields/guards.h"
 #include "files/options_file.h"
+#include "files/settings_file.h"
 #include "language/language_list.h"
 #include "language/language_state.h"
 #include "platform/text_files.h"
@@ -73,6 +75,8 @@ void LoadZolv() {
     LoadFinder();
     LoadSweep();
     LoadLanguageList();
+    StartHistory();
+    NoteSaved();
     OfferFirstLanguageChoice();
 }
 

@@ -2,6 +2,8 @@
 
 #include "aero/aero_page.h"
 #include "aero/aero_state.h"
+#include "desk/held.h"
+#include "desk/history.h"
 #include "desk/present.h"
 #include "fields/all_windows.h"
 #include "fields/guards.h"
@@ -10,6 +12,7 @@
 #include "files/preset_file.h"
 #include "files/settings_file.h"
 #include "gearing/acceleration_page.h"
+#include "gearing/gearing_common.h"
 #include "gearing/gearing_inputs.h"
 #include "gearing/gearing_state.h"
 #include "gearing/ratios_page.h"
@@ -77,7 +80,10 @@ void WireFollowUps() {
         FollowSetUpInFinder();
         FollowSetUpInSweep();
     };
-    optionFollowUps.GearingOptionChanged = Recalculate;
+    optionFollowUps.GearingOptionChanged = [] {
+        Recalculate();
+        ShowHeld();
+    };
     optionFollowUps.PlotOptionChanged = DrawGearingPlots;
     fileFollowUps.OptionsLoaded = [] {
         ShowCarInfo();
@@ -85,6 +91,7 @@ void WireFollowUps() {
         AnalyseTyres();
         Recalculate();
         ShowStudies();
+        ShowHeld();
     };
     languageFollowUps.LanguageChanged = [] {
         ShowAeroWords();
@@ -92,6 +99,8 @@ void WireFollowUps() {
         ShowCarInfo();
         Recalculate();
         ShowStudies();
+        ShowHeld();
+        ShowHistory();
     };
     deskFollowUps.LaidOut = [] {
         ShowCarInfo();
@@ -101,6 +110,12 @@ void WireFollowUps() {
         AnalyseTyres();
         Recalculate();
         ShowSweepInputs();  // the direction may be another
+    };
+    heldFollowUps.HeldChanged = [] {
+        DrawEnginePlot();
+        DrawTyres();
+        DrawGearingPlots();
+        if (!gearing.WrongOrder.empty()) ReportWrongOrder();
     };
 }
 
@@ -118,6 +133,12 @@ void WireMenus() {
     Zolv.FileSheet.OnClick = OpenSheet;
     Zolv.FileExit.OnClick = ShutDown;
     Zolv.OnClose = ShutDown;
+    Zolv.EditUndo.OnClick = Undo;
+    Zolv.EditRedo.OnClick = Redo;
+    Zolv.SetUpHold.OnClick = HoldPresent;
+    Zolv.SetUpHoldFile.OnClick = HoldSettings;
+    Zolv.SetUpSwap.OnClick = Zolv.HeldSwap.OnClick = SwapWithHeld;
+    Zolv.SetUpRelease.OnClick = Zolv.HeldRelease.OnClick = ReleaseHeld;
     Zolv.ToolsCustom.OnClick = [] { CustomPresets.Show(); };
     Zolv.ToolsOptions.OnClick = [] { OptionsPanel.Show(); };
     Zolv.ToolsFinder.OnClick = [] {
@@ -144,6 +165,7 @@ void WireCarAndPages() {
     };
     Zolv.Select_RunView.OnClick = ShowChosenRunView;
     Zolv.Select_Graphs.OnClick = ShowChosenGraph;
+    Zolv.TimeDifference.OnClick = DrawGearingPlots;
     Zolv.Select_Tyres.OnClick = PickTyreType;
     Zolv.Select_Tyres2.OnClick = PickTyreTypeOnGearingPage;
 }
@@ -181,8 +203,10 @@ void WireTyresPage() {
         tyres.BlowTyresOn = Zolv.BlowTyres.Checked();
         analyseAndRecalculate();
     };
-    Zolv.FrontTyreAnal.OnClick = AnalyseTyres;
-    Zolv.RearTyreAnal.OnClick = AnalyseTyres;
+    Zolv.FrontTyreAnal.OnClick = Zolv.RearTyreAnal.OnClick = [] {
+        AnalyseTyres();
+        ShowHeld();
+    };
     Zolv.ZoomCPS.OnChange = DrawTyres;
     Zolv.ZoomSideOn.OnChange = DrawTyres;
 }
@@ -275,7 +299,10 @@ void WireOptionsPanel() {
         OptionsPanel.OptionsPage[OptionsPanel.Select_Options.Picked()].BringToFront();
     };
     for (int quantity = 0; quantity < kQuantities; ++quantity) {
-        OptionsPanel.Units[static_cast<std::size_t>(quantity)].Select.OnClick = [quantity] { PickUnit(quantity); };
+        OptionsPanel.Units[static_cast<std::size_t>(quantity)].Select.OnClick = [quantity] {
+            PickUnit(quantity);
+            ShowHeld();
+        };
     }
     for (const PlotFlag& flag : PlotFlags()) flag.box.OnClick = [&flag] { SwitchPlotFlag(flag); };
     for (const PlotScale& scale : PlotScales()) scale.slider.OnChange = [&scale] { MovePlotScale(scale); };

@@ -180,7 +180,8 @@ void StopFinder() { finderWork.Stop(); }
 
 void TakeOverFind() {
     if (!finder.Find) return ShowMessage(words["NothingToTakeOver"]);
-    if (!LayOut(finder.Find->Result.Found)) return ShowMessage(words["CarIsGone"]);
+    const SetUp& found = finder.Find->Result.Found;
+    if (!LayOut(found)) return ShowMessage(words.Sentence("CarIsGone", {found.CarName}));
     finder.Sought = PresentSetUp();
     ShowStatus();
 }

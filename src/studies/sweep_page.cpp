@@ -210,7 +210,7 @@ void TakeOverSweepPoint() {
     }
     SetInput(setUp, task.First.Input, PointIn(SweepPanel.Point, *first));
     if (task.Second) SetInput(setUp, task.Second->Input, PointIn(SweepPanel.Point2, *second));
-    if (!LayOut(setUp)) return ShowMessage(words["CarIsGone"]);
+    if (!LayOut(setUp)) return ShowMessage(words.Sentence("CarIsGone", {setUp.CarName}));
     DrawPlot();
     ShowStatus();
 }

@@ -96,6 +96,19 @@ void PublishFootprintAxes(Canvas& plot, double scale, const ReadLength& unit) {
     plot.SetAxes(std::move(x), std::move(y));
 }
 
+void OutlineHeld(Canvas& plot, double scale, const TyreSheet& tyre) {
+    const double left = kFootprintWidth / 2 - scale * tyre.PatchWidth;
+    const double right = kFootprintWidth / 2 + scale * tyre.PatchWidth;
+    const double top = kFootprintHeight / 2 - scale * tyre.PatchLength;
+    const double bottom = kFootprintHeight / 2 + scale * tyre.PatchLength;
+    const Meaning held{Role::Area, Standing::Held};
+    plot.SetLineWidth(1);
+    plot.Line(held, left, top, right, top);
+    plot.Line(held, right, top, right, bottom);
+    plot.Line(held, right, bottom, left, bottom);
+    plot.Line(held, left, bottom, left, top);
+}
+
 /// The width of the patch runs across the canvas, its length up and down.
 void DrawFootprint(const DrawnTyre& tyre) {
     constexpr double kCentreX = kFootprintWidth / 2;
@@ -110,6 +123,7 @@ void DrawFootprint(const DrawnTyre& tyre) {
     PublishFootprintAxes(plot, scale, unit);
     plot.FillRectangle(Role::Area, kCentreX - halfWidth, kCentreY - halfLength, kCentreX + halfWidth,
                        kCentreY + halfLength, kBlack);
+    if (tyres.HeldShown) OutlineHeld(plot, scale, *tyres.HeldShown);
     plot.AddName(Role::AreaWidth, "\u2194 " + unit.Text(tyre.patchWidth));
     plot.AddName(Role::AreaLength, "\u2195 " + unit.Text(tyre.patchLength));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include "model/tyre_sheet.h"
 #include "platform/hook.h"
@@ -28,7 +29,8 @@ struct TyreState {
     double FrontRimRatio = 0;  // rim radius as a fraction of the unloaded tyre radius
     float RearRimRatio = 0;
 
-    TyreSheet Shown;  // the analysed tyre, as the page shows it
+    TyreSheet Shown;                     // the analysed tyre, as the page shows it
+    std::optional<TyreSheet> HeldShown;  // that of the held set-up; none where none is held
 
     bool CopyingTyreType = false;  // the two lists of tyre types do not call each other back
 };

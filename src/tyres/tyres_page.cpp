@@ -32,20 +32,24 @@ TyreSheet AnalyseRear(double pressure) {
     return tyre;
 }
 
-void ShowTyre(const TyreSheet& tyre) {
-    tyres.Shown = tyre;
+void ShowTyre(Showing which, const TyreSheet& tyre) {
     constexpr double kNoWallLeft = 0.0001;  // [m]; told in metres, whatever unit rounds it to zero
-    Zolv.TWH.SetColour(tyre.WallHeight < kNoWallLeft ? kRed : kBlack);
-    Zolv.CPW.SetCaption(units.Distance.Text(tyre.PatchWidth));
-    Zolv.CPL.SetCaption(units.Distance.Text(tyre.PatchLength));
-    Zolv.UTR.SetCaption(units.Distance.Text(tyre.UnloadedRadius));
-    Zolv.TD.SetCaption(units.Distance.Text(tyre.Deformation));
-    Zolv.TRRC.SetCaption(units.Distance.Text(tyre.RollingRadius) + " / " + units.Distance.Text(tyre.Circumference));
-    Zolv.TWH.SetCaption(units.Distance.Text(tyre.WallHeight));
-    Zolv.CPA.SetCaption(units.Area.Text(tyre.PatchArea));
-    Zolv.CPAR.SetCaption(WithUnit(tyre.AspectRatio, 2, " : 1"));
-    Zolv.TS.SetCaption(units.Stiffness.Text(tyre.Stiffness));
-    Zolv.TF.SetCaption(WithUnit(tyre.Frequency, 2, " Hz"));
+    if (which == Showing::Present) {
+        tyres.Shown = tyre;
+    } else {
+        tyres.HeldShown = tyre;
+    }
+    if (which == Showing::Present) Zolv.TWH.SetColour(tyre.WallHeight < kNoWallLeft ? kRed : kBlack);
+    Zolv.CPW.Write(which, units.Distance.Text(tyre.PatchWidth));
+    Zolv.CPL.Write(which, units.Distance.Text(tyre.PatchLength));
+    Zolv.UTR.Write(which, units.Distance.Text(tyre.UnloadedRadius));
+    Zolv.TD.Write(which, units.Distance.Text(tyre.Deformation));
+    Zolv.TRRC.Write(which, units.Distance.Text(tyre.RollingRadius) + " / " + units.Distance.Text(tyre.Circumference));
+    Zolv.TWH.Write(which, units.Distance.Text(tyre.WallHeight));
+    Zolv.CPA.Write(which, units.Area.Text(tyre.PatchArea));
+    Zolv.CPAR.Write(which, WithUnit(tyre.AspectRatio, 2, " : 1"));
+    Zolv.TS.Write(which, units.Stiffness.Text(tyre.Stiffness));
+    Zolv.TF.Write(which, WithUnit(tyre.Frequency, 2, " Hz"));
 }
 
 }  // namespace
@@ -56,18 +60,23 @@ void AnalyseTyres() {
     const TyreSheet front = AnalyseFront(pressureF);
     const TyreSheet rear = AnalyseRear(pressureR);
 
-    ShowTyre(Zolv.FrontTyreAnal.Checked() ? front : rear);
-    Zolv.MU.SetCaption(NumberText(tyres.TyreMu));
-    Zolv.FRCPR.SetCaption(RoundedText(front.PatchArea / rear.PatchArea, 3));
-    Zolv.Label_PressureF.SetCaption(units.Pressure.Text(pressureF));
-    Zolv.Label_PressureR.SetCaption(units.Pressure.Text(pressureR));
+    ShowTyresOf(Showing::Present, front, rear, tyres.TyreMu);
     DrawTyres();
 }
 
-std::string FinerTyreText(const Label& field) {
+void ShowTyresOf(Showing which, const TyreSheet& front, const TyreSheet& rear, float tyreMu) {
+    ShowTyre(which, Zolv.FrontTyreAnal.Checked() ? front : rear);
+    Zolv.MU.Write(which, NumberText(tyreMu));
+    Zolv.FRCPR.Write(which, RoundedText(front.PatchArea / rear.PatchArea, 3));
+    Zolv.Label_PressureF.Write(which, units.Pressure.Text(front.Pressure));
+    Zolv.Label_PressureR.Write(which, units.Pressure.Text(rear.Pressure));
+}
+
+std::string FinerTyreText(Showing which, const Label& field) {
     constexpr double kMillimetres = 1000;
     constexpr double kSquareCentimetres = 10000;
-    const TyreSheet& tyre = tyres.Shown;
+    if (which == Showing::Held && !tyres.HeldShown) return {};
+    const TyreSheet& tyre = which == Showing::Present ? tyres.Shown : *tyres.HeldShown;
     if (&field == &Zolv.CPA) {
         return units.Area.Unit == 0 ? WithUnit(tyre.PatchArea * kSquareCentimetres, 0, " cm^2") : std::string();
     }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "fields/kinds.h"
+#include "model/tyre_sheet.h"
 
 namespace zolv {
 
@@ -13,6 +14,10 @@ namespace zolv {
 /// Writes: tyres, the figures of the tyres page
 void AnalyseTyres();
 
+/// Writes the figures of the page for any two tyres: those of the chosen axle, and what both have.
+/// Reads: FrontTyreAnal, units
+void ShowTyresOf(Showing which, const TyreSheet& front, const TyreSheet& rear, float tyreMu);
+
 /// A tyre type was picked on the tyres page or on the gearing page: the other list follows. Unless the program is
 /// loading, tyres.TyreMu is then set by the type's name, and the follow-up TyreTypeTaken raised.
 void PickTyreType();
@@ -21,9 +26,10 @@ void PickTyreTypeOnGearingPage();
 /// Writes the rows of texts.TyreTypeNames into both lists of tyre types.
 void FillTyreLists();
 
-/// What a length or an area of the analysed tyre reads in millimetres or square centimetres, while the user's unit is
-/// the metre or the square metre, in which it would be cut to two decimals. Empty in any other unit.
+/// What a length or an area of the tyre shown, of the present or of the held set-up, reads in millimetres or square
+/// centimetres, while the user's unit is the metre or the square metre, in which it would be cut to two decimals. Empty
+/// in any other unit.
 /// @param field  one of CPW, CPL, CPA, UTR, TD, TRRC, TWH
-[[nodiscard]] std::string FinerTyreText(const Label& field);
+[[nodiscard]] std::string FinerTyreText(Showing which, const Label& field);
 
 }  // namespace zolv

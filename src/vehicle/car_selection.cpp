@@ -11,12 +11,11 @@ namespace zolv {
 namespace {
 
 void SetPressureRanges(const CarRecord& car) {
-    const auto setRange = [](Slider& slider, double min, double max) {
-        const int lowest = ToInt32(min);
-        slider.SetRange(lowest, std::max(lowest, ToInt32(max)));
+    const auto setRange = [](Slider& slider, const PressureRange& range) {
+        slider.SetRange(range.lowest, range.highest);
     };
-    setRange(Zolv.Select_PressureF, car.FMinPressure, car.FMaxPressure);
-    setRange(Zolv.Select_PressureR, car.RMinPressure, car.RMaxPressure);
+    setRange(Zolv.Select_PressureF, PressureRange(car.FMinPressure, car.FMaxPressure));
+    setRange(Zolv.Select_PressureR, PressureRange(car.RMinPressure, car.RMaxPressure));
 }
 
 void ShowReverseRatio(const CarRecord& car) {
@@ -77,6 +76,8 @@ void ShowFittings(const CarRecord& car) {
 
 }  // namespace
 
+PressureRange::PressureRange(double min, double max) : lowest(ToInt32(min)), highest(std::max(lowest, ToInt32(max))) {}
+
 void InitCatalogue() {
     for (std::size_t car = 0; car < kCars; ++car) {
         vehicle.CarName[car] = Catalogue()[car].name;
@@ -88,12 +89,10 @@ void InitCatalogue() {
 }
 
 void SelectCar() {
-    const std::string& name = Zolv.Select_Car.Text();
-    const int builtIn = vehicle.FindCar(name);
-    const int preset = builtIn < 0 ? vehicle.FindPreset(name) : -1;
-    if (builtIn < 0 && preset < 0) return;  // the list holds only known names
+    const std::optional<CarRecord> record = vehicle.RecordNamed(Zolv.Select_Car.Text());
+    if (!record) return;  // the list holds only known names
 
-    const CarRecord car = RecordOf(builtIn >= 0 ? vehicle.FiguresOfCar(builtIn) : vehicle.FiguresOfPreset(preset));
+    const CarRecord& car = *record;
     vehicle.CurrentCar = car;
     vehicle.Tyres = TyreSizesOf(car);
     vehicle.Curve = FittedCurve(EngineOf(car));

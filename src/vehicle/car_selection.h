@@ -1,6 +1,18 @@
 #pragma once
 
+#include <algorithm>
+
 namespace zolv {
+
+/// The whole pressures [kPa] that a tyre's slider offers.
+struct PressureRange {
+    /// @param min, max  of the car's record
+    PressureRange(double min, double max);
+
+    [[nodiscard]] int Limit(int pressure) const { return std::clamp(pressure, lowest, highest); }
+
+    int lowest, highest;
+};
 
 /// Fills the tables of the built-in cars; no preset is in use afterwards.
 /// Writes: vehicle.CarName, CarData, PresetsUsed

@@ -28,27 +28,27 @@ std::string PeakText(double value, const Quantity& quantity, float rpm) {
     return WithUnit(value * quantity.Factor, 0, quantity.Suffix) + " @ " + NumberText(rpm) + " rpm";
 }
 
-void ShowEngine(const CarRecord& car) {
-    Zolv.Info_Power.SetCaption(PeakText(car.Power, units.Power, car.PowerRPM));
-    Zolv.Info_Torque.SetCaption(PeakText(car.Torque, units.Torque, car.TorqueRPM));
+void ShowEngine(Showing which, const CarRecord& car) {
+    Zolv.Info_Power.Write(which, PeakText(car.Power, units.Power, car.PowerRPM));
+    Zolv.Info_Torque.Write(which, PeakText(car.Torque, units.Torque, car.TorqueRPM));
     const std::array<const std::string*, 3> drivetrains{&texts.TextFWD, &texts.TextRWD, &texts.TextAWD};
     if (car.DrivetrainType >= 0 && car.DrivetrainType < 3) {
-        Zolv.Info_DT.SetCaption(*drivetrains[static_cast<std::size_t>(car.DrivetrainType)]);
+        Zolv.Info_DT.Write(which, *drivetrains[static_cast<std::size_t>(car.DrivetrainType)]);
     }
-    Zolv.Info_Gears.SetCaption(NumberText(std::int32_t{car.NumGears}));
-    Zolv.Info_Efficiency.SetCaption(PercentText(car.Efficiency));
+    Zolv.Info_Gears.Write(which, NumberText(std::int32_t{car.NumGears}));
+    Zolv.Info_Efficiency.Write(which, PercentText(car.Efficiency));
 }
 
-void ShowBody(const CarRecord& car) {
+void ShowBody(Showing which, const CarRecord& car) {
     const double weightDist = car.WeightDist;
-    Zolv.Info_Mass.SetCaption(units.Mass.Text(car.Mass));
-    Zolv.Info_Weight.SetCaption(units.Force.Text(car.Mass * kGravity));
-    Zolv.Info_WD.SetCaption(PercentText(weightDist) + ' ' + texts.TextFront + " /\r\n" + PercentText(1 - weightDist) +
-                            ' ' + texts.TextRear);
-    Zolv.Info_P2W.SetCaption(
-        WithUnit(PowerToWeight(units.P2W.Unit, car.Power, car.Mass), units.P2W.Decimals, units.P2W.Suffix));
-    Zolv.Info_T2W.SetCaption(
-        WithUnit((car.Torque * units.T2W.Factor) / car.Mass, units.T2W.Decimals, units.T2W.Suffix));
+    Zolv.Info_Mass.Write(which, units.Mass.Text(car.Mass));
+    Zolv.Info_Weight.Write(which, units.Force.Text(car.Mass * kGravity));
+    Zolv.Info_WD.Write(which, PercentText(weightDist) + ' ' + texts.TextFront + " /\r\n" + PercentText(1 - weightDist) +
+                                  ' ' + texts.TextRear);
+    Zolv.Info_P2W.Write(
+        which, WithUnit(PowerToWeight(units.P2W.Unit, car.Power, car.Mass), units.P2W.Decimals, units.P2W.Suffix));
+    Zolv.Info_T2W.Write(which,
+                        WithUnit((car.Torque * units.T2W.Factor) / car.Mass, units.T2W.Decimals, units.T2W.Suffix));
 }
 
 /// What the page shows of the wheels of one axle.
@@ -63,24 +63,23 @@ struct Axle {
     double track;                     // [m]
 };
 
-void ShowAxle(const AxleLabels& labels, const Axle& axle) {
-    labels.rim.SetCaption(units.Distance.Text((axle.rim_in * 0.01) / kInchesPerCm));
-    labels.width.SetCaption(units.Distance.Text(axle.width_mm / 1000));
-    labels.profile.SetCaption(PercentText(axle.profile));
-    labels.height.SetCaption(units.Distance.Text(axle.radius * 2));
-    labels.pressures.SetCaption(units.Pressure.NumberOf(axle.minPressure) + '-' +
-                                units.Pressure.Text(axle.maxPressure));
-    labels.track.SetCaption(units.Distance.Text(axle.track));
+void ShowAxle(Showing which, const AxleLabels& labels, const Axle& axle) {
+    labels.rim.Write(which, units.Distance.Text((axle.rim_in * 0.01) / kInchesPerCm));
+    labels.width.Write(which, units.Distance.Text(axle.width_mm / 1000));
+    labels.profile.Write(which, PercentText(axle.profile));
+    labels.height.Write(which, units.Distance.Text(axle.radius * 2));
+    labels.pressures.Write(which,
+                           units.Pressure.NumberOf(axle.minPressure) + '-' + units.Pressure.Text(axle.maxPressure));
+    labels.track.Write(which, units.Distance.Text(axle.track));
 }
 
-void ShowWheels(const CarRecord& car) {
-    ShowAxle(
-        {Zolv.Info_RimF, Zolv.Info_TWF, Zolv.Info_TPF, Zolv.Info_THF, Zolv.Info_PRF, Zolv.Info_TrackF},
-        {car.FWS, car.FTW, car.FTP, vehicle.Tyres.FrontUnloadedRadius, car.FMinPressure, car.FMaxPressure, car.FTrack});
-    ShowAxle({Zolv.Info_RimR, Zolv.Info_TWR, Zolv.Info_TPR, Zolv.Info_THR, Zolv.Info_PRR, Zolv.Info_TrackR},
-             {static_cast<double>(car.RWS), car.RTW, car.RTP, vehicle.Tyres.RearUnloadedRadius, car.RMinPressure,
+void ShowWheels(Showing which, const CarRecord& car, const TyreSizes& sizes) {
+    ShowAxle(which, {Zolv.Info_RimF, Zolv.Info_TWF, Zolv.Info_TPF, Zolv.Info_THF, Zolv.Info_PRF, Zolv.Info_TrackF},
+             {car.FWS, car.FTW, car.FTP, sizes.FrontUnloadedRadius, car.FMinPressure, car.FMaxPressure, car.FTrack});
+    ShowAxle(which, {Zolv.Info_RimR, Zolv.Info_TWR, Zolv.Info_TPR, Zolv.Info_THR, Zolv.Info_PRR, Zolv.Info_TrackR},
+             {static_cast<double>(car.RWS), car.RTW, car.RTP, sizes.RearUnloadedRadius, car.RMinPressure,
               static_cast<double>(car.RMaxPressure), car.RTrack});
-    Zolv.Info_WB.SetCaption(units.Distance.Text(car.Wheelbase));
+    Zolv.Info_WB.Write(which, units.Distance.Text(car.Wheelbase));
 }
 
 /// Whether a file of the program's folder can have that name, on every platform.
@@ -93,11 +92,12 @@ bool CanNameFile(std::string_view name) {
 
 }  // namespace
 
-void ShowCarInfo() {
-    const CarRecord& car = vehicle.CurrentCar;
-    ShowEngine(car);
-    ShowBody(car);
-    ShowWheels(car);
+void ShowCarInfo() { ShowCarInfoOf(Showing::Present, vehicle.CurrentCar, vehicle.Tyres); }
+
+void ShowCarInfoOf(Showing which, const CarRecord& car, const TyreSizes& sizes) {
+    ShowEngine(which, car);
+    ShowBody(which, car);
+    ShowWheels(which, car, sizes);
 }
 
 void ShowCarPicture() {

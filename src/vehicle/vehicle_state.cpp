@@ -40,4 +40,10 @@ int VehicleState::FindCar(const std::string& name) const { return IndexOf(CarNam
 
 int VehicleState::FindPreset(const std::string& name) const { return IndexOf(CustomName, name, PresetsUsed); }
 
+std::optional<CarRecord> VehicleState::RecordNamed(const std::string& name) const {
+    if (const int car = FindCar(name); car >= 0) return RecordOf(FiguresOfCar(car));
+    if (const int preset = FindPreset(name); preset >= 0) return RecordOf(FiguresOfPreset(preset));
+    return std::nullopt;
+}
+
 }  // namespace zolv

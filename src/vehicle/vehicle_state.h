@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "model/car_record.h"
@@ -35,6 +36,9 @@ struct VehicleState {
     /// Index by exact name, upper and lower case told apart; -1 if there is none.
     [[nodiscard]] int FindCar(const std::string& name) const;
     [[nodiscard]] int FindPreset(const std::string& name) const;  // among those in use
+
+    /// The record of the built-in car of that name, or else of the preset; none where neither has it.
+    [[nodiscard]] std::optional<CarRecord> RecordNamed(const std::string& name) const;
 };
 inline VehicleState vehicle;
 

@@ -111,6 +111,8 @@ QByteArray DesktopTest::Read(const char* name) const {
 
 void ExpectNone(const QStringList& found) { QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n')))); }
 
+QString TitleOf(const char* name) { return WindowNamed(name).windowTitle().remove(QStringLiteral("[*]")); }
+
 QWidget& WindowNamed(const char* name) {
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->objectName() == QLatin1String(name)) return *window;

@@ -76,6 +76,9 @@ void ExpectNone(const QStringList& found);
 /// The window of that name.
 QWidget& WindowNamed(const char* name);
 
+/// A window's title without the place of the mark for what is not saved.
+QString TitleOf(const char* name);
+
 /// The object of that name in a window; a name that no object of its kind has ends the tests.
 template <class Kind>
 Kind& Find(const char* name, const char* window = "Zolv") {

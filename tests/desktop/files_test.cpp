@@ -98,7 +98,7 @@ void FilesAndPictures::SavedAndOpenedAgain() {
     Choose("FileSave");
     QVERIFY(Asked().requests.back().forSaving);
     QCOMPARE(Asked().requests.back().defaultExtension, "zolv");
-    QCOMPARE(WindowNamed("Zolv").windowTitle(), QStringLiteral("Tarmaq Zolv (%1)").arg(InFolder("mine.zolv")));
+    QCOMPARE(TitleOf("Zolv"), QStringLiteral("Tarmaq Zolv (%1)").arg(InFolder("mine.zolv")));
     QVERIFY(Read("mine.zolv").contains("Gear3: 1.85\r\n"));
 
     SelectAllAndType(Find<QLineEdit>("Gear3"), "1.6");
@@ -113,13 +113,13 @@ void FilesAndPictures::SavedAndOpenedAgain() {
     QCOMPARE(Find<QLineEdit>("Gear3").text(), QStringLiteral("1.6"));
 
     Choose("FileClose");
-    QCOMPARE(WindowNamed("Zolv").windowTitle(), QStringLiteral("Tarmaq Zolv"));
+    QCOMPARE(TitleOf("Zolv"), QStringLiteral("Tarmaq Zolv"));
 }
 
 void FilesAndPictures::CancelledDialogsChangeNothing() {
     for (const char* entry : {"FileOpen", "FileSave", "FileSaveAs"}) {
         Choose(entry);
-        QCOMPARE(WindowNamed("Zolv").windowTitle(), QStringLiteral("Tarmaq Zolv"));
+        QCOMPARE(TitleOf("Zolv"), QStringLiteral("Tarmaq Zolv"));
     }
     QCOMPARE(Asked().requests.size(), 3U);
     QCOMPARE(QDir::current().entryList(QDir::Files), QStringList{QStringLiteral("unknown.jpg")});
@@ -195,7 +195,7 @@ void FilesAndPictures::DroppedSettings() {
     QVERIFY(Drop({QUrl::fromLocalFile(path)}));
     QCOMPARE(Find<QComboBox>("Select_Car").currentText(), QStringLiteral("Sable T"));
     QCOMPARE(Find<QLineEdit>("Gear3").text(), QStringLiteral("1.9"));
-    QVERIFY(WindowNamed("Zolv").windowTitle().contains(QString::fromUtf8("a b \xC3\xB6.zolv")));
+    QVERIFY(TitleOf("Zolv").contains(QString::fromUtf8("a b \xC3\xB6.zolv")));
 }
 
 void FilesAndPictures::DroppedByUpperCaseName() {
@@ -235,7 +235,7 @@ void FilesAndPictures::OtherThingsAreNotTaken() {
     if (taken) QVERIFY(TakeMessage().contains(QLatin1String("folder.zolv")));
     QCOMPARE(taken, dropped == QStringList{QStringLiteral("folder.zolv")});
     QCOMPARE(Find<QComboBox>("Select_Car").currentText(), QStringLiteral("Pell S"));
-    QCOMPARE(WindowNamed("Zolv").windowTitle(), QStringLiteral("Tarmaq Zolv"));
+    QCOMPARE(TitleOf("Zolv"), QStringLiteral("Tarmaq Zolv"));
 }
 
 /// The part of the view that a green picture covers.

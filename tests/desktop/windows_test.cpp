@@ -13,6 +13,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "desktop/kept_set_up.h"
 #include "desktop/last_visit.h"
 #include "desktop/window_dialogs.h"
 #include "language/caption_table.h"
@@ -56,7 +57,7 @@ void OpenAll(Desktop& desktop) {
 
 void WindowsTogether::MainWindowStandsAloneAtStart() {
     QVERIFY(WindowNamed("Zolv").isVisible());
-    QCOMPARE(WindowNamed("Zolv").windowTitle(), QStringLiteral("Tarmaq Zolv"));
+    QCOMPARE(TitleOf("Zolv"), QStringLiteral("Tarmaq Zolv"));
     for (const char* name : kSecondary) {
         QVERIFY2(!WindowNamed(name).isVisible(), name);
         QVERIFY2(!WindowNamed(name).isModal(), name);
@@ -205,13 +206,18 @@ void WindowsTogether::NextStartBringsBackTheLast() {
     };
     const QStringList before = boxes();
     LastVisit(file, Windows(), dialogs).Keep();
+    KeptSetUp(folder.filePath(QStringLiteral("set-up.ini")), Windows().TheBinding()).Keep();
     QVERIFY(!QFileInfo::exists(InFolder("Options.ini")));  // nothing of them has changed
 
     Stop();
     Start();
     WindowDialogs next;
     LastVisit visit(file, Windows(), next);
-    Windows().TheBinding().Act([&] { visit.BringBack(); });
+    KeptSetUp kept(folder.filePath(QStringLiteral("set-up.ini")), Windows().TheBinding());
+    Windows().TheBinding().Act([&] {
+        kept.BringBack();
+        visit.BringBack();
+    });
     Settle();
     QCOMPARE(WindowNamed("Zolv").geometry(), QRect(31, 57, 700, 501));
     QCOMPARE(Find<QTabBar>("Select_Page").currentIndex(), 1);
@@ -241,7 +247,11 @@ void WindowsTogether::NothingBrokenComesBack() {
     const auto before = TextsOf(WindowNamed("Zolv"));
     WindowDialogs dialogs;
     LastVisit visit(InFolder("zolv.ini"), Windows(), dialogs);
-    Windows().TheBinding().Act([&] { visit.BringBack(); });
+    KeptSetUp kept(InFolder("zolv.ini"), Windows().TheBinding());
+    Windows().TheBinding().Act([&] {
+        kept.BringBack();
+        visit.BringBack();
+    });
     Settle();
     QCOMPARE(WindowNamed("Zolv").geometry(), place);
     QCOMPARE(Find<QTabBar>("Select_Page").currentIndex(), 0);

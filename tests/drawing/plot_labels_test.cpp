@@ -158,10 +158,12 @@ TEST_F(PlotOfTime, AnAreaHasItsMeasuresOnAGridOfRoundNumbers) {
 TEST_F(PlotOfTime, TheLegendTellsWhatIsHeld) {
     Curve(Role::NetForce, "now", 0, 2, 100, 8);
     Curve({Role::NetForce, Standing::Held}, "before", 0, 1, 100, 7);
+    canvas.AddLegend({"the other", {Role::NetForce, Standing::Held}});
     const PlotLabels labels = LabelsOf(canvas, Place({600, 400}), Typewriter());
     ASSERT_EQ(labels.strokes.size(), 1U);
     EXPECT_EQ(labels.strokes[0].meaning, (Meaning{Role::NetForce, Standing::Held}));
-    EXPECT_LT(Find(labels.words, "before")->box.Bottom(), Place({600, 400}).ground.top);
+    EXPECT_EQ(Find(labels.words, "before"), nullptr);
+    EXPECT_LT(Find(labels.words, "the other")->box.Bottom(), Place({600, 400}).ground.top);
     EXPECT_TRUE(Find(labels.words, "now")->onPlot);
 }
 

@@ -65,10 +65,11 @@ TEST(Svg, ShowsWhatAWindowShows) {
         canvas.Line({Role::DrivingForce, standing}, 60, 300, 500, 100, kGreen);
         canvas.AddName({Role::DrivingForce, standing}, standing == Standing::Held ? "before" : "now");
     }
+    canvas.AddLegend({"the other", {Role::DrivingForce, Standing::Held}});
     const std::string svg = SvgOf(canvas, {600, 400});
     for (const char* shown :
-         {">Time [s]</text>", ">Force [&lt;N&gt;]</text>", ">80</text>", ">50</text>", ">now</text>", ">before</text>",
-          "stroke=\"#008234\" stroke-width=\"2\"><title>now</title>",
+         {">Time [s]</text>", ">Force [&lt;N&gt;]</text>", ">80</text>", ">50</text>", ">now</text>",
+          ">the other</text>", "stroke=\"#008234\" stroke-width=\"2\"><title>now</title>",
           "stroke-dasharray=\"6.25 5\"><title>before</title>", "stroke-dasharray=\"6.25 5\"/>"}) {
         EXPECT_NE(svg.find(shown), std::string::npos) << shown << '\n' << svg;
     }

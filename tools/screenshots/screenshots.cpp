@@ -189,6 +189,26 @@ std::vector<Shot> PageShots() {
              Zolv.BlowTyres.SetChecked(false);
              Zolv.Select_Page.Pick(3);
          }},
+        {"aero-held", Zolv,
+         [] {
+             Zolv.SetUpHold.Click();
+             Zolv.Select_RearWingAngle.Drag(8);
+             Zolv.Select_PressureF.Drag(170);
+             for (const int gear : {2, 3, 4}) {
+                 Slider& slider = Zolv.Ratios.InputSlider[gear];
+                 slider.Drag(slider.Value() - 120 * (5 - gear));
+             }
+         }},
+        {"tyres-held", Zolv, page(2)},
+        {"gearing-held", Zolv, page(1)},
+        {"gearing-held-time", Zolv, [] { Zolv.Select_Graphs.Pick(1); }},
+        {"gearing-held-lost", Zolv, [] { Zolv.TimeDifference.SetChecked(true); }},
+        {"gearing-held-table", Zolv, [] { Zolv.Select_Graphs.Pick(2); }},
+        {"info-held", Zolv,
+         [] {
+             Zolv.Select_Car.SetText("Series Lo");
+             Zolv.Select_Page.Pick(0);
+         }},
     };
 }
 

@@ -1,0 +1,155 @@
+#include "desk/held.h"
+
+#include <optional>
+#include <utility>
+
+#include "aero/aero_page.h"
+#include "desk/present.h"
+#include "fields/all_windows.h"
+#include "fields/label_names.h"
+#include "gearing/acceleration_page.h"
+#include "gearing/gearing_common.h"
+#include "gearing/gearing_state.h"
+#include "model/acceleration_targets.h"
+#include "platform/dialogs.h"
+#include "text/number_text.h"
+#include "text/words.h"
+#include "tyres/tyre_state.h"
+#include "tyres/tyres_page.h"
+#include "units/option_state.h"
+#include "units/unit_state.h"
+#include "vehicle/info_page.h"
+
+namespace zolv {
+namespace {
+
+std::shared_ptr<const HeldSetUp> WorkedOut(SetUp setUp, const std::string& file) {
+    const auto held = std::make_shared<HeldSetUp>();
+    setUp.Targets = units.Speed.Unit;
+    held->SetUp = std::move(setUp);
+    held->Tyres = TyreSizesOf(held->SetUp.Car);
+    held->File = file;
+    held->Sheet = Evaluate(held->SetUp, held->Rows);
+    held->Times = RunTimes(held->Run());
+    return held;
+}
+
+void ClearHeldFigures() {
+    for (Field* field : Zolv.Fields()) {
+        if (field->Kind() == FieldKind::Label) static_cast<Label*>(field)->Write(Showing::Held, {});
+    }
+}
+
+/// Gears that the held car lacks have no figures.
+void ClearLackingGears(int numGears) {
+    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
+        for (int gear = numGears + 1; gear <= kGears; ++gear) {
+            for (Label* label :
+                 {&panel->Result[gear], &panel->RPM[gear], &panel->Torque[gear], &panel->RAC[gear - 1]}) {
+                label->Write(Showing::Held, {});
+            }
+        }
+    }
+}
+
+/// Gears in the wrong order have no figures, and a run that is switched off has none that could be compared.
+void ShowHeldGears(const HeldSetUp& held) {
+    const Sheet& sheet = held.Sheet;
+    if (!sheet.WrongOrder.empty()) return;
+    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) ShowGearsOf(Showing::Held, *panel, sheet.Gears);
+    ShowReverseRevs(Showing::Held, sheet.Gears);
+    ClearLackingGears(held.SetUp.Car.NumGears);
+    if (options.AccelerationOn) ShowRunOf(Showing::Held, sheet.Run.Results, sheet.Run.Speed);
+}
+
+void ShowHeldFigures(const HeldSetUp& held) {
+    const SetUp& setUp = held.SetUp;
+    const Sheet& sheet = held.Sheet;
+    ShowCarInfoOf(Showing::Held, setUp.Car, held.Tyres);
+    ShowTyresOf(Showing::Held, sheet.Front, sheet.Rear, static_cast<float>(setUp.TyreMu));
+    const double topSpeed = sheet.Top.speed;
+    ShowAirOf(Showing::Held, setUp.Car, sheet.Air,
+              {.topSpeed = topSpeed,
+               .speed = setUp.AirSpeed ? *setUp.AirSpeed : topSpeed,
+               .frontWing = setUp.FrontWingAngle,
+               .rearWing = setUp.RearWingAngle});
+    ShowHeldGears(held);
+}
+
+/// "Sable T, 4.15 s to 30 m/s", or its file in place of the time.
+std::string NameOf(const HeldSetUp& held) {
+    const std::string& car = held.SetUp.CarName;
+    if (!held.File.empty()) return car + ", " + held.File;
+    if (!held.Sheet.WrongOrder.empty()) return car;
+    constexpr std::size_t kTold = 1;  // the second target is one that every car is measured by
+    const float time = held.Sheet.Run.Results.SpeedTimes[kTold];
+    if (time == 0) return car;
+    const AccelTargets& targets = AccelTargetTable[static_cast<std::size_t>(held.SetUp.Targets)];
+    return car + ", " +
+           words.Sentence("HeldTime", {WithUnit(time, 2, " s"), units.Speed.Text(targets.Speeds[kTold])});
+}
+
+void ShowWhatIsHeld() {
+    const bool held = desk.Held != nullptr;
+    Zolv.Label_Held.SetCaption(held ? words.Sentence("HeldIs", {NameOf(*desk.Held)}) : std::string());
+    for (Field* field : std::initializer_list<Field*>{&Zolv.Label_Held, &Zolv.HeldSwap, &Zolv.HeldRelease}) {
+        field->SetVisible(held);
+    }
+    for (MenuEntry* entry : {&Zolv.SetUpSwap, &Zolv.SetUpRelease}) entry->SetEnabled(held);
+}
+
+}  // namespace
+
+void ShowHeld() {
+    if (desk.Held != nullptr && desk.Held->SetUp.Targets != units.Speed.Unit) {
+        desk.Held = WorkedOut(desk.Held->SetUp, desk.Held->File);
+    }
+    ShowWhatIsHeld();
+    ClearHeldFigures();
+    tyres.HeldShown.reset();
+    if (desk.Held != nullptr) ShowHeldFigures(*desk.Held);
+}
+
+void HoldPresent() { Hold(PresentSetUp()); }
+
+void Hold(const SetUp& setUp, const std::string& file) { HoldAgain(WorkedOut(setUp, file)); }
+
+void HoldAgain(std::shared_ptr<const HeldSetUp> held) {
+    desk.Held = std::move(held);
+    ShowHeld();
+    heldFollowUps.HeldChanged();
+}
+
+void SwapWithHeld() {
+    if (desk.Held == nullptr) return;
+    const SetUp held = desk.Held->SetUp;
+    if (const std::string why = WhyNotLaidOut(held); !why.empty()) return ShowMessage(why);
+    const SetUp present = PresentSetUp();
+    LayOutExactly(held);
+    Hold(present);
+}
+
+BetterWay BetterWayOf(const Label& figure) {
+    for (int number = 0; number < Zolv.AccDataLabel.Size(); ++number) {
+        if (&Zolv.AccDataLabel[number] != &figure) continue;
+        const bool isSpeed = number == kAccEndSpeed || number == kAccDistanceSpeed || number == kAccDistanceSpeed + 2;
+        return isSpeed ? BetterWay::Up : BetterWay::Down;
+    }
+    for (const Label* label : {&Zolv.Aero_TopSpeed, &Zolv.Info_P2W, &Zolv.Info_T2W}) {
+        if (label == &figure) return BetterWay::Up;
+    }
+    return BetterWay::Neither;
+}
+
+std::string TimeLostAtRow(int row) {
+    if (desk.Held == nullptr || !desk.Held->Sheet.WrongOrder.empty()) return {};
+    const double speed = gearing.AccelRows[static_cast<std::size_t>(row)][AccelColumn::Speed];
+    const std::optional<double> held = desk.Held->Times.At(speed);
+    if (!held) return {};
+    const std::string lost = RoundedText(row * kTimeStep - *held, 2);
+    return lost.front() == '-' || lost == "0" ? lost : '+' + lost;
+}
+
+void ReleaseHeld() { HoldAgain(nullptr); }
+
+}  // namespace zolv

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+
+#include "fields/kinds.h"
+#include "model/run_times.h"
+#include "model/set_up.h"
+#include "model/sheet.h"
+#include "platform/hook.h"
+
+/// The set-up that is held beside the present one, so that every figure and curve can say what a change is worth.
+namespace zolv {
+
+/// What is held was worked out once, when it was taken, and once more when another unit of speed brought other targets:
+/// the run ends behind the longer distance.
+struct HeldSetUp {
+    zolv::SetUp SetUp;
+    TyreSizes Tyres;
+    zolv::Sheet Sheet;
+    RunRows Rows{};  // of its run, as far as Sheet.Run.LastRow
+    RunTimes Times;
+    std::string File;  // that it came from, without its folder; empty for one taken from the pages
+
+    [[nodiscard]] std::span<const AccelRow> Run() const {
+        return std::span(Rows).first(static_cast<std::size_t>(Sheet.Run.LastRow + 1));
+    }
+};
+
+struct DeskState {
+    std::shared_ptr<const HeldSetUp> Held;  // nullptr for none
+};
+inline DeskState desk;
+
+/// What follows; shell/wiring says what that is.
+struct HeldFollowUps {
+    Hook HeldChanged;  // another set-up is held, or none: the drawings are to be made anew
+};
+inline HeldFollowUps heldFollowUps;
+
+/// Holds the set-up that lies on the pages, in place of any held before.
+/// Writes: desk.Held, and what ShowHeld writes
+void HoldPresent();
+
+/// Holds another set-up.
+/// @param file  as HeldSetUp::File
+void Hold(const SetUp& setUp, const std::string& file = {});
+
+/// Takes back what was held at another moment, which may be nothing.
+void HoldAgain(std::shared_ptr<const HeldSetUp> held);
+
+/// Lays the held set-up out and holds what was present. Where its car is not the same any more a message says so, and
+/// nothing changes. Without a held one it does nothing.
+void SwapWithHeld();
+
+void ReleaseHeld();
+
+/// Which way a figure goes when it gets better: times down, speeds that are reached up.
+enum class BetterWay : std::uint8_t { Neither, Up, Down };
+[[nodiscard]] BetterWay BetterWayOf(const Label& figure);
+
+/// By how much later the present run has the speed of one of its rows than the held run: "+0.12", in seconds, or empty
+/// where no run is held or it does not reach that speed.
+[[nodiscard]] std::string TimeLostAtRow(int row);
+
+/// Writes the held figures of all labels, in the units and the language in force, and what is held into Label_Held; or
+/// clears them where none is held.
+/// Reads: desk.Held, units, texts, options, FrontTyreAnal
+void ShowHeld();
+
+}  // namespace zolv

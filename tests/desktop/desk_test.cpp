@@ -1,0 +1,198 @@
+// Two set-ups side by side, steps back, and what is kept.
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+
+#include "desktop/kept_set_up.h"
+#include "desktop/value_label.h"
+#include "suites.h"
+
+namespace zolv {
+namespace {
+
+class Desk : public DesktopTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void HoldingMovesNothingAndShowsChanges();
+    void DragsAndTypedNumbersAreOneStepEach();
+    void KeysOfStepsBelongToABoxWhileItIsTypedIn();
+    void EscapeLeavesNoStep();
+    void WhatWasNotClosedComesBack();
+    void TitleMarksWhatIsNotSaved();
+    void FilesOpenedLastAreListed();
+};
+
+const bool added = AddSuite<Desk>("Desk");
+
+void PressKeys(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(&WindowNamed("Zolv"), key, modifiers);
+    Settle();
+}
+
+QString ChangeOf(const char* figure) { return Find<ValueLabel>(figure).Change(); }
+
+void Desk::HoldingMovesNothingAndShowsChanges() {
+    const auto places = [] {
+        std::map<QString, QRect> all;
+        for (const QWidget* widget : WindowNamed("Zolv").findChildren<QWidget*>()) {
+            const bool strip = widget->objectName().contains(QLatin1String("Held"));
+            if (widget->isVisible() && !widget->objectName().isEmpty() && !strip) {
+                all[widget->objectName()] = QRect(widget->mapToGlobal(QPoint()), widget->size());
+            }
+        }
+        return all;
+    };
+    ClickTab("Select_Page", 1);
+    Find<QLineEdit>("Gear1").setFocus();
+    const auto before = places();
+    PressKeys(Qt::Key_H, Qt::ControlModifier);
+    QVERIFY(Find<QLabel>("Label_Held").text().startsWith(QLatin1String("Held: Pell S, ")));
+    SelectAllAndType(Find<QLineEdit>("Gear3"), "1.9");
+    QVERIFY(ChangeOf("Speed3").startsWith(u'-'));
+    QVERIFY(ChangeOf("AccDataLabel(1)").startsWith(u'+') || ChangeOf("AccDataLabel(1)").startsWith(u'-'));
+    QVERIFY(places() == before);
+    QVERIFY2(CutOff(WindowNamed("Zolv")).isEmpty(), qPrintable(CutOff(WindowNamed("Zolv")).join(u'\n')));
+
+    PressKeys(Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(Find<QLineEdit>("Gear3").text(), QStringLiteral("1.7"));
+    QVERIFY(ChangeOf("Speed3").startsWith(u'+'));
+    Click(Find<QPushButton>("HeldRelease"));
+    QVERIFY(ChangeOf("Speed3").isEmpty());
+    QVERIFY(!Find<QPushButton>("HeldRelease").isVisible());
+    QVERIFY(places() == before);
+}
+
+void Desk::DragsAndTypedNumbersAreOneStepEach() {
+    ClickTab("Select_Page", 1);
+    auto& slider = Find<QSlider>("Select_Ratio2");
+    DragSlider(slider, 3000);
+    QVERIFY(Find<QLineEdit>("Gear2").text() != QStringLiteral("2.4"));
+    auto& box = Find<QLineEdit>("Gear4");
+    box.setFocus();
+    box.selectAll();
+    Type(box, "1");
+    QTest::qWait(400);  // a pause gives the field what is there
+    Type(box, ".3");
+    QTest::qWait(400);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.text(), QStringLiteral("1.3"));
+
+    PressKeys(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(box.text(), QStringLiteral("1.35"));
+    PressKeys(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(Find<QLineEdit>("Gear2").text(), QStringLiteral("2.4"));
+    QVERIFY(!Find<QAction>("EditUndo").isEnabled());
+    PressKeys(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    PressKeys(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(box.text(), QStringLiteral("1.3"));
+    QVERIFY(!Find<QAction>("EditRedo").isEnabled());
+}
+
+void Desk::KeysOfStepsBelongToABoxWhileItIsTypedIn() {
+    ClickTab("Select_Page", 1);
+    SelectAllAndType(Find<QLineEdit>("Gear2"), "2.3");
+    auto& box = Find<QLineEdit>("Gear4");
+    box.setFocus();
+    box.selectAll();
+    Type(box, "1.2");
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(Find<QLineEdit>("Gear2").text(), QStringLiteral("2.3"));
+    QVERIFY(box.text() != QStringLiteral("1.2"));
+    QTest::keyClick(&box, Qt::Key_Escape);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(Find<QLineEdit>("Gear2").text(), QStringLiteral("2.4"));
+}
+
+void Desk::EscapeLeavesNoStep() {
+    ClickTab("Select_Page", 1);
+    auto& box = Find<QLineEdit>("Gear4");
+    box.setFocus();
+    box.selectAll();
+    Type(box, "1.2");
+    QTest::qWait(400);
+    QVERIFY(Find<QAction>("EditUndo").isEnabled());
+    QTest::keyClick(&box, Qt::Key_Escape);
+    QVERIFY(!Find<QAction>("EditUndo").isEnabled());
+}
+
+// Without a word, a second behind the last change.
+void Desk::WhatWasNotClosedComesBack() {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("set-up.ini"));
+    {
+        const KeptSetUp kept(file, Windows().TheBinding());
+        PickWithKeys(Find<QComboBox>("Select_Car"), "Sable T");
+        ClickTab("Select_Page", 2);
+        Click(Find<QCheckBox>("BlowTyres"));
+        ClickTab("Select_Page", 3);
+        Click(Find<QRadioButton>("UseFixedSpeed"));
+        ClickTab("Select_Page", 1);
+        SelectAllAndType(Find<QLineEdit>("Gear3"), "1.777");
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(file), 5000);
+        Stop();
+    }
+    Start();
+    KeptSetUp kept(file, Windows().TheBinding());
+    Windows().TheBinding().Act([&] { kept.BringBack(); });
+    QCOMPARE(Find<QComboBox>("Select_Car").currentText(), QStringLiteral("Sable T"));
+    QCOMPARE(Find<QLineEdit>("Gear3").text(), QStringLiteral("1.777"));
+    QVERIFY(Find<QCheckBox>("BlowTyres").isChecked());
+    QVERIFY(Find<QRadioButton>("UseFixedSpeed").isChecked());
+}
+
+void Desk::TitleMarksWhatIsNotSaved() {
+    ClickTab("Select_Page", 1);
+    QVERIFY(!WindowNamed("Zolv").isWindowModified());
+    SelectAllAndType(Find<QLineEdit>("Gear3"), "1.85");
+    QVERIFY(WindowNamed("Zolv").isWindowModified());
+    Asked().answers << InFolder("mine.zolv");
+    Find<QAction>("FileSave").trigger();
+    QVERIFY(!WindowNamed("Zolv").isWindowModified());
+    SelectAllAndType(Find<QLineEdit>("Gear3"), "1.8");
+    QVERIFY(WindowNamed("Zolv").isWindowModified());
+    PressKeys(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!WindowNamed("Zolv").isWindowModified());
+}
+
+void Desk::FilesOpenedLastAreListed() {
+    for (int number = 0; number < 10; ++number) {
+        Asked().answers << InFolder(qPrintable(QStringLiteral("%1.zolv").arg(number)));
+        Find<QAction>("FileSaveAs").trigger();
+    }
+    QVERIFY(QFile::remove(InFolder("7.zolv")));
+    auto* const menu = Find<QAction>("FileMenu").menu();
+    const auto entries = [menu] {
+        Q_EMIT menu->aboutToShow();
+        QStringList listed;
+        for (const QAction* entry : menu->actions()) {
+            if (entry->text().endsWith(QLatin1String(".zolv"))) {
+                listed << entry->text().right(6) + (entry->isEnabled() ? QString() : QStringLiteral(" missing"));
+            }
+        }
+        return listed;
+    };
+    QCOMPARE(entries(), QStringLiteral("9.zolv,8.zolv,7.zolv missing,6.zolv,5.zolv,4.zolv,3.zolv,2.zolv").split(u','));
+    for (QAction* entry : menu->actions()) {
+        if (entry->text().endsWith(QLatin1String("5.zolv"))) {
+            entry->trigger();
+            break;
+        }
+    }
+    QCOMPARE(entries().front(), QStringLiteral("5.zolv"));
+    QVERIFY(TitleOf("Zolv").contains(QLatin1String("5.zolv")));
+    QCOMPARE(entries().size(), 8);
+}
+
+}  // namespace
+}  // namespace zolv
+
+#include "desk_test.moc"

@@ -119,13 +119,6 @@ void Fade(QWidget& view, bool faded) {
 
 /// An engine speed, with room for five digits. Its unit, which is long in some languages, stands in the column's title.
 ValueLabel* MakeRevs(Binding& binding, Label& field, QWidget* parent) {
-    ValueLabel* const revs = MakeFigure(binding, field, parent, {QStringLiteral("24226")});
-    binding.OnChanged(field, [revs] {
-        const QString suffix = ToQt(texts.RpmSuffix);
-        if (revs->text().endsWith(suffix)) revs->setText(revs->text().chopped(suffix.size()));
-    ValueLabel* const revs = MakeFigure(binding, field, parent, {}, ChangePlace::Below);
-    binding.OnChanged(OptionsPanel.SpeedPlotY.Units, [revs] {  // the same line of a language
-        revs->ReserveFor({QStringLiteral("24226") + ToQt(texts.RpmSuffix)});
     ValueLabel* const revs = MakeFigure(binding, field, parent, {QStringLiteral("24226")}, ChangePlace::Below);
     binding.OnChanged(field, [revs] {
         const QString suffix = ToQt(texts.RpmSuffix);
@@ -199,7 +192,6 @@ QWidget* GearingPageView::MakePanel(int mode) {
     auto* const grid = new QGridLayout(panel);
     SetGroupMargins(*grid);
     grid->setHorizontalSpacing(kGap);
-    grid->setVerticalSpacing(kGap / 2);
     grid->setVerticalSpacing(1);  // the rows have room for the changes below the figures
     grid->setColumnStretch(kSlider, 1);
     AddTitles(*grid, mode);

@@ -18,10 +18,6 @@ const QString kPlace = QStringLiteral("Window/Place");
 const QString kPage = QStringLiteral("Window/Page");
 const QString kGraph = QStringLiteral("Window/Graph");
 const QString kRunView = QStringLiteral("Window/RunView");
-const QString kSetUp = QStringLiteral("SetUp/Settings");
-const QString kSpeedUnit = QStringLiteral("SetUp/SpeedUnit");  // the one of the speeds in it
-const QString kFromSpeeds = QStringLiteral("SetUp/FromSpeeds");
-const QString kTyres = QStringLiteral("SetUp/Tyres");
 const QString kRecent = QStringLiteral("Window/RecentFiles");
 const QString kFolders = QStringLiteral("Folders");
 
@@ -68,10 +64,6 @@ void LastVisit::Keep() {
     settings_.setValue(kPage, Zolv.Select_Page.Picked());
     settings_.setValue(kGraph, Zolv.Select_Graphs.Picked());
     settings_.setValue(kRunView, Zolv.Select_RunView.Picked());
-    settings_.setValue(kSetUp, ToQt(PresentSettingsText()));
-    settings_.setValue(kSpeedUnit, units.Speed.Unit);
-    settings_.setValue(kFromSpeeds, Zolv.Direction2.Checked());
-    settings_.setValue(kTyres, Zolv.Select_Tyres.Picked());
     settings_.setValue(kRecent, desktop_.Main().Recent().Files());
     settings_.beginGroup(kFolders);
     for (const auto& [kind, folder] : dialogs_.Folders().asKeyValueRange()) settings_.setValue(kind.mid(2), folder);

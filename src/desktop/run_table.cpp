@@ -8,13 +8,13 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "gearing/run_columns.h"
+#include "text/words.h"
 
 namespace zolv {
 namespace {
 
 constexpr int kGearColumn = 3;
 constexpr int kTimeLostColumn = 10;  // behind those of the run
-constexpr int kRowHeight = 18;
 constexpr int kCellRoom = 10;  // beside the text of a cell
 
 QString HeadOf(const RunColumn& column) {

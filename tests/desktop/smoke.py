@@ -89,7 +89,7 @@ def check(holds, otherwise):
 def use(display, program, home):
     """One visit. The display has no window manager, so that the focus is given by hand."""
     environment = {**os.environ, "DISPLAY": display.name, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
-                   "XDG_CONFIG_HOME": str(Path(home, "config"))}
+                   "XDG_CONFIG_HOME": str(Path(home, "config")), "XDG_DATA_HOME": str(Path(home, "data"))}
     environment.pop("WAYLAND_DISPLAY", None)
     zolv = subprocess.Popen([program], cwd=home, env=environment)
     try:
@@ -115,7 +115,7 @@ def use(display, program, home):
         open_file_menu(display)
         display.do("key", "x")
         check(zolv.wait(PATIENCE) == 0, f"ended with status {zolv.returncode}")
-        check("Gear3: 1.875" in Path(home, "config/zolv/zolv.ini").read_text("utf-8"), "the set-up has not been kept")
+        check("Gear3: 1.875" in Path(home, "data/zolv/set-up.ini").read_text("utf-8"), "the set-up has not been kept")
     finally:
         if zolv.poll() is None:
             zolv.kill()

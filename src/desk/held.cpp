@@ -85,8 +85,7 @@ std::string NameOf(const HeldSetUp& held) {
     const float time = held.Sheet.Run.Results.SpeedTimes[kTold];
     if (time == 0) return car;
     const AccelTargets& targets = AccelTargetTable[static_cast<std::size_t>(held.SetUp.Targets)];
-    return car + ", " +
-           words.Sentence("HeldTime", {WithUnit(time, 2, " s"), units.Speed.Text(targets.Speeds[kTold])});
+    return car + ", " + words.Sentence("HeldTime", {WithUnit(time, 2, " s"), units.Speed.Text(targets.Speeds[kTold])});
 }
 
 void ShowWhatIsHeld() {

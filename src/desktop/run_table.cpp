@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kGearColumn = 3;
 constexpr int kTimeLostColumn = 10;  // behind those of the run
-constexpr int kCellRoom = 10;  // beside the text of a cell
+constexpr int kCellRoom = 10;        // beside the text of a cell
 
 QString HeadOf(const RunColumn& column) {
     return ToQt(column.Unit.empty() ? column.Title : column.Title + "\n[" + column.Unit + ']');

@@ -76,7 +76,6 @@ void ShowHeldFigures(const HeldSetUp& held) {
     ShowHeldGears(held);
 }
 
-/// "Sable T, 4.15 s to 30 m/s", or its file in place of the time.
 std::string NameOf(const HeldSetUp& held) {
     const std::string& car = held.SetUp.CarName;
     if (!held.File.empty()) return car + ", " + held.File;
@@ -90,7 +89,7 @@ std::string NameOf(const HeldSetUp& held) {
 
 void ShowWhatIsHeld() {
     const bool held = desk.Held != nullptr;
-    Zolv.Label_Held.SetCaption(held ? words.Sentence("HeldIs", {NameOf(*desk.Held)}) : std::string());
+    Zolv.Label_Held.SetCaption(held ? words.Sentence("HeldIs", {HeldName()}) : std::string());
     for (Field* field : std::initializer_list<Field*>{&Zolv.Label_Held, &Zolv.HeldSwap, &Zolv.HeldRelease}) {
         field->SetVisible(held);
     }
@@ -108,6 +107,8 @@ void ShowHeld() {
     tyres.HeldShown.reset();
     if (desk.Held != nullptr) ShowHeldFigures(*desk.Held);
 }
+
+std::string HeldName() { return desk.Held != nullptr ? NameOf(*desk.Held) : std::string(); }
 
 void HoldPresent() { Hold(PresentSetUp()); }
 

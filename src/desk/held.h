@@ -65,6 +65,10 @@ enum class BetterWay : std::uint8_t { Neither, Up, Down };
 /// where no run is held or it does not reach that speed.
 [[nodiscard]] std::string TimeLostAtRow(int row);
 
+/// "Sable T, 4.15 s to 30 m/s": what is held, by its car and its time to a speed, or its file in place of the time; empty
+/// where nothing is held.
+[[nodiscard]] std::string HeldName();
+
 /// Writes the held figures of all labels, in the units and the language in force, and what is held into Label_Held; or
 /// clears them where none is held.
 /// Reads: desk.Held, units, texts, options, FrontTyreAnal

@@ -29,9 +29,23 @@ void AddCell(std::string& html, const char* tag, const std::string& text, const 
     html.append("</").append(tag).append(">");
 }
 
-void AddFigures(std::string& html, const DocumentSection& section) {
+bool HoldsAny(const DocumentSection& section) {
+    return std::ranges::any_of(section.Figures, [](const DocumentFigure& figure) { return !figure.Held.empty(); });
+}
+
+/// What the held set-up has in a row of the table; empty where it has nothing.
+std::vector<std::string> HeldRow(const DocumentSection& section, std::size_t row) {
+    return row < section.Held.size() ? section.Held[row] : std::vector<std::string>();
+}
+
+void AddFigures(std::string& html, const DocumentSection& section, const std::string& heldTitle) {
     if (section.Figures.empty()) return;
     html += "<table>\n";
+    if (HoldsAny(section)) {
+        html += "<tr><th></th><th></th><th></th>";
+        AddCell(html, "th", heldTitle);
+        html += "</tr>\n";
+    }
     for (const DocumentFigure& figure : section.Figures) {
         html += "<tr>";
         AddCell(html, "td", figure.Name);
@@ -43,13 +57,18 @@ void AddFigures(std::string& html, const DocumentSection& section) {
     html += "</table>\n";
 }
 
+void AddRow(std::string& html, const char* tag, const std::vector<std::string>& row) {
+    html += "<tr>";
+    for (const std::string& cell : row) AddCell(html, tag, cell);
+    html += "</tr>\n";
+}
+
 void AddTable(std::string& html, const DocumentSection& section) {
     if (section.Table.empty()) return;
     html += "<table>\n";
-    for (const auto& row : section.Table) {
-        html += "<tr>";
-        for (const std::string& cell : row) AddCell(html, &row == &section.Table.front() ? "th" : "td", cell);
-        html += "</tr>\n";
+    for (std::size_t row = 0; row < section.Table.size(); ++row) {
+        AddRow(html, row == 0 ? "th" : "td", section.Table[row]);
+        if (const auto held = HeldRow(section, row); !held.empty()) AddRow(html, "td", held);
     }
     html += "</table>\n";
 }
@@ -69,11 +88,13 @@ void AddPictures(std::string& html, const DocumentSection& section, PictureMarku
     if (section.Pictures.size() % 2 == 1) html.append(kNextColumn).append(kColumnsEnd);
 }
 
-void AddSection(std::string& html, const DocumentSection& section, PictureMarkup markup, std::size_t& pictures) {
+void AddSection(std::string& html, const Document& document, std::size_t number, PictureMarkup markup,
+                std::size_t& pictures) {
+    const DocumentSection& section = document.Sections[number];
     // The style of its own is for readers that know no media.
     html += section.OnNewPage ? "<h2 class=\"new-page\" style=\"page-break-before:always\">" : "<h2>";
     html += Escaped(section.Title) + "</h2>\n";
-    AddFigures(html, section);
+    AddFigures(html, section, document.HeldTitle);
     AddTable(html, section);
     AddPictures(html, section, markup, pictures);
 }
@@ -91,7 +112,7 @@ void AddCsvLine(std::string& csv, std::vector<std::string> cells, bool held) {
 
 bool HoldsAny(const Document& document) {
     return std::ranges::any_of(document.Sections, [](const DocumentSection& section) {
-        return std::ranges::any_of(section.Figures, [](const DocumentFigure& figure) { return !figure.Held.empty(); });
+        return HoldsAny(section) || !section.Held.empty();
     });
 }
 
@@ -128,10 +149,10 @@ std::string HtmlOf(const Document& document, PictureMarkup markup) {
     for (std::size_t i = 0; i < document.Sections.size(); ++i) {
         const bool two = i + 1 < document.Sections.size() && document.Sections[i + 1].Beside;
         if (two) html += kColumns;
-        AddSection(html, document.Sections[i], markup, pictures);
+        AddSection(html, document, i, markup, pictures);
         if (!two) continue;
         html += kNextColumn;
-        AddSection(html, document.Sections[++i], markup, pictures);
+        AddSection(html, document, ++i, markup, pictures);
         html += kColumnsEnd;
     }
     return html + "</body>\n</html>\n";
@@ -147,10 +168,12 @@ std::string CsvOf(const Document& document, const std::vector<std::string>& titl
         }
         for (std::size_t row = 1; row < section.Table.size(); ++row) {
             const auto& cells = section.Table[row];
+            std::vector<std::string> heldCells = HeldRow(section, row);
+            heldCells.resize(cells.size());
             for (std::size_t i = 1; i < cells.size(); ++i) {
-                if (cells[i].empty()) continue;
+                if (cells[i].empty() && heldCells[i].empty()) continue;
                 const DocumentFigure cell = FigureOf(cells.front() + ", " + section.Table.front()[i], cells[i]);
-                AddCsvLine(csv, {section.Title, cell.Name, cell.Number, cell.Unit}, held);
+                AddCsvLine(csv, {section.Title, cell.Name, cell.Number, cell.Unit, heldCells[i]}, held);
             }
         }
     }
@@ -166,11 +189,15 @@ std::string TextOf(const Document& document) {
         text += '\n';
         AddUnderlined(text, Flat(section.Title), '-');
         AlignedTable figures(AlignedTable::Values::Left);
+        if (HoldsAny(section)) figures.Add({"", "", document.HeldTitle});
         for (const DocumentFigure& figure : section.Figures) figures.Add({figure.Name, WithUnit(figure), figure.Held});
         AddLines(text, figures);
         if (!section.Figures.empty() && !section.Table.empty()) text += '\n';
         AlignedTable table;
-        for (const auto& row : section.Table) table.Add(row);
+        for (std::size_t row = 0; row < section.Table.size(); ++row) {
+            table.Add(section.Table[row]);
+            if (auto held = HeldRow(section, row); !held.empty()) table.Add(std::move(held));
+        }
         AddLines(text, table);
     }
     return text;

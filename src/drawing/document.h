@@ -22,6 +22,7 @@ struct DocumentSection {
     std::string Title;
     std::vector<DocumentFigure> Figures = {};
     std::vector<std::vector<std::string>> Table = {};  // the first row is its head
+    std::vector<std::vector<std::string>> Held = {};   // of the held set-up, a row for each of Table; may be empty
     std::vector<std::string> PictureTitles = {};       // as many as Pictures
     std::vector<Canvas> Pictures = {};
     bool OnNewPage = false;
@@ -32,6 +33,7 @@ struct Document {
     std::string Title;
     std::string Subtitle = {};      // a line below it; empty for none
     std::string LanguageCode = {};  // "en"
+    std::string HeldTitle = {};     // "Held": over what is of the held set-up
     std::vector<DocumentSection> Sections = {};
 };
 

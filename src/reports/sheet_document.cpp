@@ -1,8 +1,10 @@
 #include "reports/sheet_document.h"
 
+#include <algorithm>
 #include <span>
 #include <utility>
 
+#include "desk/held.h"
 #include "fields/all_windows.h"
 #include "fields/label_names.h"
 #include "files/file_state.h"
@@ -27,11 +29,24 @@ namespace {
 /// A caption as a name: without its colon, and without the mark of a key.
 std::string NameOf(const Field& field) { return CaptionName(WithoutKeyMark(InWords(field.Caption()))); }
 
+/// A figure of a page, and beside it that of the held set-up.
+DocumentFigure PageFigure(std::string name, const Field& value) {
+    DocumentFigure figure = FigureOf(std::move(name), value.Caption());
+    if (value.Kind() == FieldKind::Label) figure.Held = static_cast<const Label&>(value).Held();
+    return figure;
+}
+
 /// What is hidden on its page is left out here too.
 void AddFigures(DocumentSection& section, const std::vector<NamedFigure>& figures) {
     for (const NamedFigure& figure : figures) {
-        if (figure.value->Visible()) section.Figures.push_back(FigureOf(NameOf(*figure.name), figure.value->Caption()));
+        if (figure.value->Visible()) section.Figures.push_back(PageFigure(NameOf(*figure.name), *figure.value));
     }
+}
+
+/// What is no label is told of the held set-up by `tell`.
+template <class Tell>
+std::string OfHeld(Tell tell) {
+    return desk.Held != nullptr ? tell(*desk.Held) : std::string();
 }
 
 std::span<const AccelRow> PresentRun() {
@@ -40,22 +55,36 @@ std::span<const AccelRow> PresentRun() {
 
 bool HasRun() { return gearing.WrongOrder.empty() && options.AccelerationOn && gearing.AccelLastRow >= 0; }
 
+bool HasHeldRun() { return desk.Held != nullptr && desk.Held->Sheet.WrongOrder.empty() && options.AccelerationOn; }
+
 GearingPanel& PresentPanel() { return gearing.RatiosMode ? Zolv.Ratios : Zolv.Speeds; }
 
 DocumentSection CarSection() {
     DocumentSection section{.Title = Zolv.Select_Page.Rows()[0]};
-    section.Figures.push_back({.Name = NameOf(Zolv.Label_Car), .Number = Zolv.Select_Car.Text()});
+    section.Figures.push_back({.Name = NameOf(Zolv.Label_Car), .Number = Zolv.Select_Car.Text(), .Held = HeldName()});
     AddFigures(section, FiguresOfCar());
     return section;
 }
 
 DocumentSection InputSection() {
     DocumentSection section{.Title = words["SheetInputs"], .Beside = true};
-    const OptionButton& direction = gearing.RatiosMode ? Zolv.Direction1 : Zolv.Direction2;
-    section.Figures.push_back({.Name = Zolv.Select_Page.Rows()[1], .Number = NameOf(direction)});
+    const auto direction = [](Direction from) {
+        return NameOf(from == Direction::FromRatios ? Zolv.Direction1 : Zolv.Direction2);
+    };
+    section.Figures.push_back({.Name = Zolv.Select_Page.Rows()[1],
+                               .Number = direction(gearing.From()),
+                               .Held = OfHeld([&](const HeldSetUp& held) { return direction(held.SetUp.From); })});
     section.Figures.push_back(
-        {.Name = NameOf(Zolv.GearingLabel[kGearingFinalDrive]), .Number = PresentPanel().FinalDrive.Text()});
-    section.Figures.push_back({.Name = NameOf(Zolv.GearingLabel[38]), .Number = Zolv.Select_Tyres.Text()});
+        {.Name = NameOf(Zolv.GearingLabel[kGearingFinalDrive]),
+         .Number = PresentPanel().FinalDrive.Text(),
+         .Held = OfHeld([](const HeldSetUp& held) { return RoundedText(held.Sheet.Gears.FinalDrive, 3); })});
+    section.Figures.push_back({.Name = NameOf(Zolv.GearingLabel[38]),
+                               .Number = Zolv.Select_Tyres.Text(),
+                               .Held = OfHeld([](const HeldSetUp& held) {
+                                   const std::vector<std::string>& types = Zolv.Select_Tyres.Rows();
+                                   const int type = held.SetUp.TyreType;
+                                   return type < 0 ? std::string() : types[static_cast<std::size_t>(type)];
+                               })});
     AddFigures(section, {{&Zolv.TyreLabel[kTyrePressureF], &Zolv.Label_PressureF},
                          {&Zolv.TyreLabel[kTyrePressureR], &Zolv.Label_PressureR},
                          {&Zolv.AeroLabel[kAeroFrontWingAngle], &Zolv.WingAngleFront},
@@ -74,6 +103,46 @@ std::vector<std::string> GearTitles() {
     return titles;
 }
 
+/// What the held set-up has in the lines of GearLines, for the gears that it has; none while its gears are in the wrong
+/// order.
+std::vector<std::vector<std::string>> HeldGearLines() {
+    if (desk.Held == nullptr || !desk.Held->Sheet.WrongOrder.empty()) return {};
+    const Gearbox& box = desk.Held->Sheet.Gears;
+    GearingPanel& panel = Zolv.Ratios;
+    const int last = std::min<int>(desk.Held->SetUp.Car.NumGears, kGears);
+    std::vector<std::vector<std::string>> lines;
+    for (int gear = 1; gear <= last; ++gear) {
+        lines.push_back({texts.GearNames[static_cast<std::size_t>(gear)], RoundedText(box.GearRatio[gear], 3),
+                         panel.Result[gear].Held(), panel.RPM[gear].Held(), gear < last ? panel.RAC[gear].Held() : "",
+                         panel.Torque[gear].Held()});
+    }
+    lines.push_back({Zolv.GearingLabel[kGearingReverse].Caption(), RoundedText(box.GearRatio[0], 3),
+                     panel.SpeedR.Held(), panel.RPMR.Held(), "", panel.TorqueR.Held()});
+    return lines;
+}
+
+/// Below each gear that of the held set-up; a gear that only the held car has stands alone.
+void AddGears(DocumentSection& section) {
+    const auto held = HeldGearLines();
+    const auto lineOf = [](const auto& lines, const std::string& gear) {
+        return std::ranges::find_if(lines, [&](const auto& line) { return line.front() == gear; });
+    };
+    auto present = GearLines();
+    for (std::size_t i = 0; i < held.size(); ++i) {
+        const auto at = present.begin() + static_cast<std::ptrdiff_t>(std::min(i, present.size()));
+        if (lineOf(present, held[i].front()) == present.end()) present.insert(at, {held[i].front()});
+    }
+    for (std::vector<std::string>& line : present) {
+        const auto beside = lineOf(held, line.front());
+        line.front() = CaptionName(line.front());
+        line.resize(section.Table.front().size());
+        section.Table.push_back(std::move(line));
+        if (held.empty()) continue;
+        section.Held.push_back(beside == held.end() ? std::vector<std::string>() : *beside);
+        if (beside != held.end()) section.Held.back().front() = words["SheetHeld"];
+    }
+}
+
 DocumentSection GearSection() {
     DocumentSection section{.Title = Zolv.Select_Page.Rows()[1]};
     const OrderWords order = OrderWordsOf(gearing.From());
@@ -81,10 +150,8 @@ DocumentSection GearSection() {
         section.Figures.push_back({.Name = order.notUpdated, .Number = OrderSentence(order, gear)});
     }
     section.Table.push_back(GearTitles());
-    for (std::vector<std::string>& line : GearLines()) {
-        line.front() = CaptionName(line.front());
-        section.Table.push_back(std::move(line));
-    }
+    if (!HeldGearLines().empty()) section.Held.emplace_back();  // of the head
+    AddGears(section);
     return section;
 }
 
@@ -92,12 +159,15 @@ DocumentSection GearSection() {
 void AddTarget(DocumentSection& section, int name, int value, AccelColumn column, double target) {
     const std::string title = NameOf(Zolv.GearingLabel[name]);
     const auto passing = PassingOf(PresentRun(), column, target);
-    section.Figures.push_back(FigureOf(title, Zolv.AccDataLabel[value].Caption()));
-    if (!passing) return;
-    section.Figures.push_back({words.Sentence("SheetInterpolated", {title}), RoundedText(passing->Time, 3), "s"});
+    const auto held = HasHeldRun() ? PassingOf(desk.Held->Run(), column, target) : std::nullopt;
+    section.Figures.push_back(PageFigure(title, Zolv.AccDataLabel[value]));
+    if (!passing && !held) return;
+    section.Figures.push_back({words.Sentence("SheetInterpolated", {title}),
+                               passing ? RoundedText(passing->Time, 3) : "-", "s",
+                               held ? WithUnit(held->Time, 3, " s") : ""});
     if (column == AccelColumn::Speed) return;
-    section.Figures.push_back(
-        {title + ", " + texts.TextColSpeed, units.Speed.NumberOf(passing->Speed), AxisUnit(units.Speed.Suffix)});
+    section.Figures.push_back({title + ", " + texts.TextColSpeed, passing ? units.Speed.NumberOf(passing->Speed) : "-",
+                               AxisUnit(units.Speed.Suffix), held ? units.Speed.Text(held->Speed) : ""});
 }
 
 DocumentSection RunSection() {
@@ -173,7 +243,8 @@ DocumentSection PlotSection() {
 Document SetUpSheet() {
     Document sheet{.Title = "Tarmaq Zolv: " + Zolv.Select_Car.Text(),
                    .Subtitle = files.CurrentFileName,
-                   .LanguageCode = words["LocaleCode"]};
+                   .LanguageCode = words["LocaleCode"],
+                   .HeldTitle = words["SheetHeld"]};
     sheet.Sections = {CarSection(), InputSection(), GearSection()};
     if (HasRun()) {
         sheet.Sections.push_back(RunSection());

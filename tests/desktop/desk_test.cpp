@@ -53,13 +53,24 @@ void Desk::HoldingMovesNothingAndShowsChanges() {
     };
     ClickTab("Select_Page", 1);
     Find<QLineEdit>("Gear1").setFocus();
+    Settle();
     const auto before = places();
+    const auto moved = [&] {
+        QStringList names;
+        const auto now = places();
+        for (const auto& [name, place] : now) {
+            const auto was = before.find(name);
+            if (was == before.end() || was->second != place) names << name;
+        }
+        return now.size() == before.size() ? names : names << QStringLiteral("another number of widgets");
+    };
     PressKeys(Qt::Key_H, Qt::ControlModifier);
     QVERIFY(Find<QLabel>("Label_Held").text().startsWith(QLatin1String("Held: Pell S, ")));
     SelectAllAndType(Find<QLineEdit>("Gear3"), "1.9");
+    Settle();
     QVERIFY(ChangeOf("Speed3").startsWith(u'-'));
     QVERIFY(ChangeOf("AccDataLabel(1)").startsWith(u'+') || ChangeOf("AccDataLabel(1)").startsWith(u'-'));
-    QVERIFY(places() == before);
+    QCOMPARE(moved(), QStringList());
     QVERIFY2(CutOff(WindowNamed("Zolv")).isEmpty(), qPrintable(CutOff(WindowNamed("Zolv")).join(u'\n')));
 
     PressKeys(Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
@@ -68,7 +79,7 @@ void Desk::HoldingMovesNothingAndShowsChanges() {
     Click(Find<QPushButton>("HeldRelease"));
     QVERIFY(ChangeOf("Speed3").isEmpty());
     QVERIFY(!Find<QPushButton>("HeldRelease").isVisible());
-    QVERIFY(places() == before);
+    QCOMPARE(moved(), QStringList());
 }
 
 void Desk::DragsAndTypedNumbersAreOneStepEach() {

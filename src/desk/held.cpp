@@ -31,6 +31,10 @@ std::shared_ptr<const HeldSetUp> WorkedOut(SetUp setUp, const std::string& file)
     held->File = file;
     held->Sheet = Evaluate(held->SetUp, held->Rows);
     held->Times = RunTimes(held->Run());
+    if (held->Sheet.WrongOrder.empty()) {
+        held->Start = StartOf(held->SetUp, held->Sheet);
+        held->Forces = ForcesOver(held->Start);
+    }
     return held;
 }
 

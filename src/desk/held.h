@@ -9,6 +9,7 @@
 #include "model/run_times.h"
 #include "model/set_up.h"
 #include "model/sheet.h"
+#include "model/wheel_forces.h"
 #include "platform/hook.h"
 
 /// The set-up that is held beside the present one, so that every figure and curve can say what a change is worth.
@@ -22,6 +23,8 @@ struct HeldSetUp {
     zolv::Sheet Sheet;
     RunRows Rows{};  // of its run, as far as Sheet.Run.LastRow
     RunTimes Times;
+    AccelerationSetup Start;  // that the run was driven with; with gears in the wrong order it and the forces are empty
+    ForcesOverSpeed Forces;
     std::string File;  // that it came from, without its folder; empty for one taken from the pages
 
     [[nodiscard]] std::span<const AccelRow> Run() const {
@@ -65,8 +68,8 @@ enum class BetterWay : std::uint8_t { Neither, Up, Down };
 /// where no run is held or it does not reach that speed.
 [[nodiscard]] std::string TimeLostAtRow(int row);
 
-/// "Sable T, 4.15 s to 30 m/s": what is held, by its car and its time to a speed, or its file in place of the time; empty
-/// where nothing is held.
+/// "Sable T, 4.15 s to 30 m/s": what is held, by its car and its time to a speed, or its file in place of the time;
+/// empty where nothing is held.
 [[nodiscard]] std::string HeldName();
 
 /// Writes the held figures of all labels, in the units and the language in force, and what is held into Label_Held; or

@@ -162,9 +162,11 @@ QGroupBox* FinderView::MakeResult() {
     figures->addWidget(MakeWords(Fields(), Finder.FoundCaption, group));
     figures->addWidget(MakeFigure(Fields(), Finder.Found, group, widest));
     figures->addStretch();
-    QPushButton* const takeOver = MakeButton(Finder.TakeOver, group);
-    Fields().OnChanged(Finder.Table, [takeOver] { takeOver->setEnabled(finder.Find.has_value()); });
-    figures->addWidget(takeOver);
+    for (Button* button : {&Finder.HoldOld, &Finder.TakeOver}) {
+        QPushButton* const ofFind = MakeButton(*button, group);
+        Fields().OnChanged(Finder.Table, [ofFind] { ofFind->setEnabled(finder.Find.has_value()); });
+        figures->addWidget(ofFind);
+    }
     column->addLayout(figures);
     column->addWidget(MakeTable(Fields(), Finder.Table, group, Finder.ResultFrame, 8), 1);
     return group;

@@ -111,9 +111,8 @@ void AddCsvLine(std::string& csv, std::vector<std::string> cells, bool held) {
 }
 
 bool HoldsAny(const Document& document) {
-    return std::ranges::any_of(document.Sections, [](const DocumentSection& section) {
-        return HoldsAny(section) || !section.Held.empty();
-    });
+    return std::ranges::any_of(
+        document.Sections, [](const DocumentSection& section) { return HoldsAny(section) || !section.Held.empty(); });
 }
 
 void AddLines(std::string& text, const AlignedTable& table) {

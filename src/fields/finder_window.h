@@ -67,6 +67,7 @@ public:
     Label FoundCaption{*this, "FoundCaption"};
     Label Found{*this, "Found"};
     TextBox Table{*this, "Table", {.locked = true, .multiLine = true}};
+    Button HoldOld{*this, "HoldOld"};
     Button TakeOver{*this, "TakeOver"};
 
     // A track

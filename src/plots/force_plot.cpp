@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "desk/held.h"
 #include "drawing/chart.h"
 #include "gearing/gearing_state.h"
 #include "model/wheel_forces.h"
+#include "plots/plotted.h"
 #include "text/texts.h"
 #include "text/words.h"
 #include "units/unit_state.h"
@@ -20,23 +22,36 @@ ChartDot DotAt(const WheelPoint& point, int gear, bool open) {
     return {at.x, at.y, GearRole(gear), open};
 }
 
-void AddGear(Chart& chart, const GearForces& gear, bool doubtful) {
-    ChartSeries series{.name = texts.GearNames[static_cast<std::size_t>(gear.Gear)],
-                       .role = GearRole(gear.Gear),
-                       .doubtful = doubtful};
+/// What is drawn of one set-up.
+struct Drive {
+    const AccelerationSetup& setup;
+    const ForcesOverSpeed& forces;
+    Standing standing = Standing::Present;
+
+    [[nodiscard]] bool IsHeld() const { return standing == Standing::Held; }
+
+    [[nodiscard]] ChartSeries Series(const std::string& name, Role role) const {
+        return {.name = NameIn(standing, name), .role = role, .held = IsHeld()};
+    }
+};
+
+void AddGear(Chart& chart, const Drive& drive, const GearForces& gear) {
+    ChartSeries series = drive.Series(texts.GearNames[static_cast<std::size_t>(gear.Gear)], GearRole(gear.Gear));
+    series.doubtful = drive.setup.Curve.CurveFitFailed;
     for (const WheelPoint& point : gear.Points) series.points.push_back(Shown(point.Speed, point.Force));
     chart.series.push_back(std::move(series));
+    if (drive.IsHeld()) return;
     if (gear.Shift) chart.dots.push_back(DotAt(*gear.Shift, gear.Gear, true));
     if (gear.Crossing) chart.dots.push_back(DotAt(*gear.Crossing, gear.Gear + 1, false));
 }
 
-void AddRoad(Chart& chart, const AccelerationSetup& setup, double fastest) {
+void AddRoad(Chart& chart, const Drive& drive, double fastest) {
     constexpr int kSteps = 60;
-    ChartSeries resistance{.name = texts.TextColResistance, .role = Role::Resistance};
-    ChartSeries grip{.name = words["ForceGrip"], .role = Role::GripLimit};
+    ChartSeries resistance = drive.Series(texts.TextColResistance, Role::Resistance);
+    ChartSeries grip = drive.Series(words["ForceGrip"], Role::GripLimit);
     for (int step = 0; step <= kSteps; ++step) {
         const double speed = fastest * step / kSteps;
-        const RoadForces road = RoadForcesAt(setup, speed);
+        const RoadForces road = RoadForcesAt(drive.setup, speed);
         resistance.points.push_back(Shown(speed, road.Resistance));
         grip.points.push_back(Shown(speed, road.GripLimit));
     }
@@ -69,24 +84,37 @@ double StrongestForce(const ForcesOverSpeed& forces) {
     return strongest;
 }
 
+void AddDrive(Chart& chart, const Drive& drive, double fastest) {
+    AddRoad(chart, drive, fastest);
+    for (const GearForces& gear : drive.forces.Gears) AddGear(chart, drive, gear);
+    if (!drive.forces.Reached) return;
+    chart.marks.push_back({.name = NameIn(drive.standing, NameOf(*drive.forces.Reached)),
+                           .role = Role::TopSpeed,
+                           .value = drive.forces.Reached->Speed * units.Speed.Factor,
+                           .held = drive.IsHeld()});
+}
+
+bool HasHeldForces() { return desk.Held != nullptr && desk.Held->Sheet.WrongOrder.empty(); }
+
 }  // namespace
 
 void DrawForcePlot(Canvas& plot) {
     const AccelerationSetup setup = PresentAccelerationSetup();
     const ForcesOverSpeed forces = ForcesOver(setup);
-    const double fastest = FastestShown(forces);
-    const ChartPoint end = Shown(fastest, StrongestForce(forces) * 1.05);
+    double fastest = FastestShown(forces);
+    double strongest = StrongestForce(forces);
+    if (HasHeldForces()) {
+        fastest = std::max(fastest, FastestShown(desk.Held->Forces));
+        strongest = std::max(strongest, StrongestForce(desk.Held->Forces));
+    }
+    const ChartPoint end = Shown(fastest, strongest * 1.05);
     Chart chart;
     chart.x = {.title = texts.TextColSpeed, .unit = AxisUnit(units.Speed.Suffix), .to = end.x};
     chart.y = {.title = words["Force"], .unit = AxisUnit(units.Force.Suffix), .to = end.y};
-    AddRoad(chart, setup, fastest);
-    for (const GearForces& gear : forces.Gears) AddGear(chart, gear, setup.Curve.CurveFitFailed);
-    if (forces.Reached) {
-        chart.marks.push_back({.name = NameOf(*forces.Reached),
-                               .role = Role::TopSpeed,
-                               .value = forces.Reached->Speed * units.Speed.Factor});
-    }
+    if (HasHeldForces()) AddDrive(chart, {desk.Held->Start, desk.Held->Forces, Standing::Held}, fastest);
+    AddDrive(chart, {setup, forces}, fastest);
     DrawChart(chart, plot);
+    if (HasHeldForces()) PlottedSetUps().AddLegend(plot, Role::Gear1);
     if (!forces.Reached) plot.Print(words["DoesNotMoveOff"]);
 }
 

@@ -116,6 +116,7 @@ void WireFollowUps() {
         DrawTyres();
         DrawGearingPlots();
         if (!gearing.WrongOrder.empty()) ReportWrongOrder();
+        FollowSetUpInFinder();
     };
 }
 
@@ -361,6 +362,7 @@ void WireFinder() {
     Finder.Straights.OnKeyPress = {};  // a table, whose commas part its columns
     Finder.Start.OnClick = StartFinder;
     Finder.Stop.OnClick = StopFinder;
+    Finder.HoldOld.OnClick = HoldSought;
     Finder.TakeOver.OnClick = TakeOverFind;
     Finder.Straights.OnChange = ReadTrack;
     Finder.StraightsOpen.OnClick = OpenStraights;

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "desk/held.h"
 #include "desk/present.h"
 #include "fields/all_windows.h"
 #include "model/sheet.h"
@@ -177,6 +178,11 @@ void StartFinder() {
 }
 
 void StopFinder() { finderWork.Stop(); }
+
+void HoldSought() {
+    if (finder.Find) return Hold(finder.Find->Task.Present);
+    HoldPresent();
+}
 
 void TakeOverFind() {
     if (!finder.Find) return ShowMessage(words["NothingToTakeOver"]);

@@ -22,6 +22,9 @@ void StopFinder();
 /// Lays the found set-up out, the car included; without one it says so.
 void TakeOverFind();
 
+/// Holds the set-up that the search was started for, beside what it found; before a search the present one.
+void HoldSought();
+
 /// Writes all that depends on the language, the units in force or the car anew.
 void ShowFinder();
 

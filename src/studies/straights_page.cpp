@@ -4,11 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "desk/held.h"
 #include "desk/present.h"
 #include "fields/all_windows.h"
 #include "model/sheet.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
+#include "plots/plotted.h"
 #include "studies/finder_messages.h"
 #include "studies/finder_state.h"
 #include "studies/study_text.h"
@@ -38,19 +40,38 @@ std::optional<std::vector<StraightTime>> DrivenWith(const SetUp& setUp) {
     return TimesAlong(finder.Track.File.Straights, StartOf(setUp, still));
 }
 
-void AddDriven(TextRow& row, const std::optional<std::vector<StraightTime>>& driven, std::size_t i) {
-    const bool reached = driven && (*driven)[i].Reached;
-    row.push_back(reached ? SecondsText((*driven)[i].Time) : "N/A");
-    row.push_back(reached ? units.Speed.Text((*driven)[i].Speed) : "N/A");
+/// What one set-up does on the straights, in two columns.
+struct Driven {
+    std::string TimeTitle, SpeedTitle;
+    std::optional<std::vector<StraightTime>> Times;
+};
+
+/// The present set-up, then the held and the found one where there are such.
+std::vector<Driven> DrivenWithAll() {
+    std::vector<Driven> all{{words["ColumnTime"], words["ColumnEndSpeed"], DrivenWith(PresentSetUp())}};
+    if (desk.Held != nullptr) {
+        all.push_back({NameIn(Standing::Held, words["ColumnTime"]), NameIn(Standing::Held, words["ColumnEndSpeed"]),
+                       DrivenWith(desk.Held->SetUp)});
+    }
+    if (finder.Find) {
+        all.push_back({words["ColumnTimeFound"], words["ColumnEndSpeedFound"], DrivenWith(finder.Find->Result.Found)});
+    }
+    return all;
+}
+
+void AddDriven(TextRow& row, const Driven& driven, std::size_t i) {
+    const bool reached = driven.Times && (*driven.Times)[i].Reached;
+    row.push_back(reached ? SecondsText((*driven.Times)[i].Time) : "N/A");
+    row.push_back(reached ? units.Speed.Text((*driven.Times)[i].Speed) : "N/A");
 }
 
 /// The sum of the times, where all straights are driven.
-void AddSum(TextRow& row, const std::optional<std::vector<StraightTime>>& driven) {
+void AddSum(TextRow& row, const Driven& driven) {
     double sum = 0;
-    bool reached = driven.has_value();
-    for (std::size_t i = 0; reached && i < driven->size(); ++i) {
-        reached = (*driven)[i].Reached;
-        sum += (*driven)[i].Time;
+    bool reached = driven.Times.has_value();
+    for (std::size_t i = 0; reached && i < driven.Times->size(); ++i) {
+        reached = (*driven.Times)[i].Reached;
+        sum += (*driven.Times)[i].Time;
     }
     row.push_back(reached ? SecondsText(sum) : "N/A");
     row.push_back("");
@@ -107,23 +128,17 @@ void SaveStraightsAs() {
 void ShowStraightTimes() {
     const std::vector<Straight>& straights = finder.Track.File.Straights;
     if (straights.empty()) return Finder.StraightTimes.SetText("");
-    const bool found = finder.Find.has_value();
-    const auto present = DrivenWith(PresentSetUp());
-    const auto better = found ? DrivenWith(finder.Find->Result.Found) : std::nullopt;
-
-    std::vector<TextRow> rows{{words["ColumnStraight"], words["ColumnEntry"], words["ColumnLength"],
-                               words["ColumnTime"], words["ColumnEndSpeed"]}};
-    if (found) rows.front().insert(rows.front().end(), {words["ColumnTimeFound"], words["ColumnEndSpeedFound"]});
+    const std::vector<Driven> all = DrivenWithAll();
+    std::vector<TextRow> rows{{words["ColumnStraight"], words["ColumnEntry"], words["ColumnLength"]}};
+    for (const Driven& driven : all) rows.front().insert(rows.front().end(), {driven.TimeTitle, driven.SpeedTitle});
     for (std::size_t i = 0; i < straights.size(); ++i) {
         TextRow row{straights[i].Name, units.Speed.Text(straights[i].EntrySpeed),
                     RoundedText(straights[i].Length, 1) + " m"};
-        AddDriven(row, present, i);
-        if (found) AddDriven(row, better, i);
+        for (const Driven& driven : all) AddDriven(row, driven, i);
         rows.push_back(row);
     }
     TextRow sum{words["AllStraights"], "", ""};
-    AddSum(sum, present);
-    if (found) AddSum(sum, better);
+    for (const Driven& driven : all) AddSum(sum, driven);
     rows.push_back(sum);
     Finder.StraightTimes.SetText(TableText(rows));
 }

@@ -94,6 +94,7 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"Finder.GoalCaption", "Goal:"},
     {"Finder.GoalFrame", "Goal"},
     {"Finder.HighCaption", "At most"},
+    {"Finder.HoldOld", "Hold the old one"},
     {"Finder.LowCaption", "At least"},
     {"Finder.PresentCaption", "Present:"},
     {"Finder.ResultFrame", "Result"},

@@ -70,7 +70,8 @@ void ShowHeldFigures(const HeldSetUp& held) {
     const SetUp& setUp = held.SetUp;
     const Sheet& sheet = held.Sheet;
     ShowCarInfoOf(Showing::Held, setUp.Car, held.Tyres);
-    ShowTyresOf(Showing::Held, sheet.Front, sheet.Rear, static_cast<float>(setUp.TyreMu));
+    tyres.HeldSheets = {.Front = sheet.Front, .Rear = sheet.Rear};
+    ShowTyresOf(Showing::Held, *tyres.HeldSheets, static_cast<float>(setUp.TyreMu));
     const double topSpeed = sheet.Top.speed;
     ShowAirOf(Showing::Held, setUp.Car, sheet.Air,
               {.topSpeed = topSpeed,
@@ -108,7 +109,7 @@ void ShowHeld() {
     }
     ShowWhatIsHeld();
     ClearHeldFigures();
-    tyres.HeldShown.reset();
+    tyres.HeldSheets.reset();
     if (desk.Held != nullptr) ShowHeldFigures(*desk.Held);
 }
 

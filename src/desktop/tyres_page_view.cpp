@@ -16,7 +16,7 @@
 #include "desktop/theme.h"
 #include "fields/all_windows.h"
 #include "text/words.h"
-#include "tyres/tyres_page.h"
+#include "tyres/tyre_figures.h"
 
 namespace zolv {
 namespace {

@@ -110,6 +110,14 @@ void AddCsvLine(std::string& csv, std::vector<std::string> cells, bool held) {
     for (std::size_t i = 0; i < cells.size(); ++i) csv += CsvCell(cells[i]) + (i + 1 < cells.size() ? "," : "\r\n");
 }
 
+/// The two figures of a line have one unit: a figure that is none ("N/A") has that of the held one.
+void AddCsvFigure(std::string& csv, const std::string& section, const DocumentFigure& figure, bool held) {
+    const DocumentFigure other = FigureOf("", figure.Held);
+    const bool none = figure.Number.find_first_of("0123456789") == std::string::npos;
+    const std::string& unit = figure.Unit.empty() && none ? other.Unit : figure.Unit;
+    AddCsvLine(csv, {section, figure.Name, figure.Number, unit, other.Unit == unit ? other.Number : figure.Held}, held);
+}
+
 bool HoldsAny(const Document& document) {
     return std::ranges::any_of(
         document.Sections, [](const DocumentSection& section) { return HoldsAny(section) || !section.Held.empty(); });
@@ -163,7 +171,7 @@ std::string CsvOf(const Document& document, const std::vector<std::string>& titl
     AddCsvLine(csv, titles, held);
     for (const DocumentSection& section : document.Sections) {
         for (const DocumentFigure& figure : section.Figures) {
-            AddCsvLine(csv, {section.Title, figure.Name, figure.Number, figure.Unit, figure.Held}, held);
+            AddCsvFigure(csv, section.Title, figure, held);
         }
         for (std::size_t row = 1; row < section.Table.size(); ++row) {
             const auto& cells = section.Table[row];
@@ -171,8 +179,9 @@ std::string CsvOf(const Document& document, const std::vector<std::string>& titl
             heldCells.resize(cells.size());
             for (std::size_t i = 1; i < cells.size(); ++i) {
                 if (cells[i].empty() && heldCells[i].empty()) continue;
-                const DocumentFigure cell = FigureOf(cells.front() + ", " + section.Table.front()[i], cells[i]);
-                AddCsvLine(csv, {section.Title, cell.Name, cell.Number, cell.Unit, heldCells[i]}, held);
+                DocumentFigure cell = FigureOf(cells.front() + ", " + section.Table.front()[i], cells[i]);
+                cell.Held = heldCells[i];
+                AddCsvFigure(csv, section.Title, cell, held);
             }
         }
     }

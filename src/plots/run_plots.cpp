@@ -121,11 +121,25 @@ ChartSeries TimeLost(const Plotted& present) {
     return lost;
 }
 
+/// Towards the most that the slower of the two reaches, all the rest of its run is lost at once; what a driver looks
+/// for, tenths at the speeds below, sets the scale.
+ChartAxis AxisOfTimeLost(const std::vector<ChartPoint>& points) {
+    constexpr double kToldOf = 0.96;  // of the highest speed
+    constexpr double kRoom = 1.15;
+    ChartAxis axis{.title = words["TimeLost"], .unit = AxisUnit(kSeconds)};
+    for (const ChartPoint& point : points) {
+        if (point.x > points.back().x * kToldOf) break;
+        axis.from = std::min(axis.from, point.y * kRoom);
+        axis.to = std::max(axis.to, point.y * kRoom);
+    }
+    return axis;
+}
+
 void DrawTimeDifference(Canvas& plot, const Plotted& present) {
     Chart chart;
     chart.x = {.title = texts.TextColSpeed, .unit = AxisUnit(units.Speed.Suffix)};
-    chart.y = {.title = words["TimeLost"], .unit = AxisUnit(kSeconds)};
     chart.series.push_back(TimeLost(present));
+    chart.y = AxisOfTimeLost(chart.series.front().points);
     DrawChart(chart, plot);
 }
 

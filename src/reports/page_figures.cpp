@@ -6,6 +6,7 @@
 #include "fields/label_names.h"
 #include "gearing/gearing_state.h"
 #include "text/texts.h"
+#include "tyres/tyre_figures.h"
 #include "vehicle/vehicle_state.h"
 
 namespace zolv {
@@ -24,11 +25,9 @@ std::vector<NamedFigure> FiguresOfCar() {
 }
 
 std::vector<NamedFigure> FiguresOfTyre() {
-    return {{&Zolv.TyreLabel[kTyrePatchWidth], &Zolv.CPW},     {&Zolv.TyreLabel[kTyrePatchLength], &Zolv.CPL},
-            {&Zolv.TyreLabel[kTyrePatchArea], &Zolv.CPA},      {&Zolv.TyreLabel[kTyrePatchAspect], &Zolv.CPAR},
-            {&Zolv.TyreLabel[kTyreStiffness], &Zolv.TS},       {&Zolv.TyreLabel[kTyreFrequency], &Zolv.TF},
-            {&Zolv.TyreLabel[kTyreUnloadedRadius], &Zolv.UTR}, {&Zolv.TyreLabel[kTyreDeformation], &Zolv.TD},
-            {&Zolv.TyreLabel[kTyreRollingRadius], &Zolv.TRRC}, {&Zolv.TyreLabel[kTyreWallHeight], &Zolv.TWH}};
+    std::vector<NamedFigure> figures;
+    for (const TyreFigure& figure : TyreFigures()) figures.push_back({&Zolv.TyreLabel[figure.name], figure.value});
+    return figures;
 }
 
 std::vector<std::vector<std::string>> GearLines() {

@@ -20,6 +20,8 @@
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "text/words.h"
+#include "tyres/tyre_figures.h"
+#include "tyres/tyre_state.h"
 #include "units/option_state.h"
 #include "units/unit_state.h"
 
@@ -29,10 +31,16 @@ namespace {
 /// A caption as a name: without its colon, and without the mark of a key.
 std::string NameOf(const Field& field) { return CaptionName(WithoutKeyMark(InWords(field.Caption()))); }
 
+/// A text of a page as all figures are written here, "12.5 %".
+std::string InOneWay(const std::string& text) {
+    const DocumentFigure figure = FigureOf("", text);
+    return figure.Unit.empty() ? figure.Number : figure.Number + ' ' + figure.Unit;
+}
+
 /// A figure of a page, and beside it that of the held set-up.
 DocumentFigure PageFigure(std::string name, const Field& value) {
     DocumentFigure figure = FigureOf(std::move(name), value.Caption());
-    if (value.Kind() == FieldKind::Label) figure.Held = static_cast<const Label&>(value).Held();
+    if (value.Kind() == FieldKind::Label) figure.Held = InOneWay(static_cast<const Label&>(value).Held());
     return figure;
 }
 
@@ -196,10 +204,15 @@ DocumentSection LogSection() {
 DocumentSection TyreSection() {
     DocumentSection section{.Title = Zolv.Select_Page.Rows()[2]};
     AddFigures(section, {{&Zolv.TyreLabel[kTyreGrip], &Zolv.MU}, {&Zolv.TyreLabel[kTyrePatchRatio], &Zolv.FRCPR}});
-    // The tyre page analyses one axle at a time.
-    section.Figures.push_back(
-        {.Name = NameOf(Zolv.TyreNumAnal), .Number = Zolv.FrontTyreAnal.Checked() ? texts.TextFront : texts.TextRear});
-    AddFigures(section, FiguresOfTyre());
+    const auto row = [](const std::string& name, const TyreFigure& figure, const TyrePair& pair) {
+        return std::vector{name, figure.text(pair.Front), figure.text(pair.Rear)};
+    };
+    section.Table.push_back({"", texts.TextFront, texts.TextRear});
+    if (tyres.HeldSheets) section.Held.emplace_back();
+    for (const TyreFigure& figure : TyreFigures()) {
+        section.Table.push_back(row(NameOf(Zolv.TyreLabel[figure.name]), figure, tyres.Sheets));
+        if (tyres.HeldSheets) section.Held.push_back(row(words["SheetHeld"], figure, *tyres.HeldSheets));
+    }
     return section;
 }
 

@@ -8,6 +8,7 @@
 #include "model/tyre_geometry.h"
 #include "text/number_text.h"
 #include "text/words.h"
+#include "tyres/tyre_figures.h"
 #include "tyres/tyre_state.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
@@ -123,7 +124,7 @@ void DrawFootprint(const DrawnTyre& tyre) {
     PublishFootprintAxes(plot, scale, unit);
     plot.FillRectangle(Role::Area, kCentreX - halfWidth, kCentreY - halfLength, kCentreX + halfWidth,
                        kCentreY + halfLength, kBlack);
-    if (tyres.HeldShown) OutlineHeld(plot, scale, *tyres.HeldShown);
+    if (tyres.HeldSheets) OutlineHeld(plot, scale, AnalysedOf(*tyres.HeldSheets));
     plot.AddName(Role::AreaWidth, "\u2194 " + unit.Text(tyre.patchWidth));
     plot.AddName(Role::AreaLength, "\u2195 " + unit.Text(tyre.patchLength));
 }

@@ -8,6 +8,10 @@
 
 namespace zolv {
 
+struct TyrePair {
+    TyreSheet Front, Rear;
+};
+
 /// Front figures are doubles and rear figures 32-bit floats, rounded at each store; the two sides are not identical for
 /// equal inputs.
 struct TyreState {
@@ -29,8 +33,8 @@ struct TyreState {
     double FrontRimRatio = 0;  // rim radius as a fraction of the unloaded tyre radius
     float RearRimRatio = 0;
 
-    TyreSheet Shown;                     // the analysed tyre, as the page shows it
-    std::optional<TyreSheet> HeldShown;  // that of the held set-up; none where none is held
+    TyrePair Sheets;                     // as the page has last analysed them
+    std::optional<TyrePair> HeldSheets;  // those of the held set-up; none where none is held
 
     bool CopyingTyreType = false;  // the two lists of tyre types do not call each other back
 };

@@ -7,7 +7,7 @@
 #include "text/number_text.h"
 #include "text/texts.h"
 #include "tyres/tyre_drawings.h"
-#include "tyres/tyre_state.h"
+#include "tyres/tyre_figures.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
 
@@ -34,22 +34,8 @@ TyreSheet AnalyseRear(double pressure) {
 
 void ShowTyre(Showing which, const TyreSheet& tyre) {
     constexpr double kNoWallLeft = 0.0001;  // [m]; told in metres, whatever unit rounds it to zero
-    if (which == Showing::Present) {
-        tyres.Shown = tyre;
-    } else {
-        tyres.HeldShown = tyre;
-    }
     if (which == Showing::Present) Zolv.TWH.SetColour(tyre.WallHeight < kNoWallLeft ? kRed : kBlack);
-    Zolv.CPW.Write(which, units.Distance.Text(tyre.PatchWidth));
-    Zolv.CPL.Write(which, units.Distance.Text(tyre.PatchLength));
-    Zolv.UTR.Write(which, units.Distance.Text(tyre.UnloadedRadius));
-    Zolv.TD.Write(which, units.Distance.Text(tyre.Deformation));
-    Zolv.TRRC.Write(which, units.Distance.Text(tyre.RollingRadius) + " / " + units.Distance.Text(tyre.Circumference));
-    Zolv.TWH.Write(which, units.Distance.Text(tyre.WallHeight));
-    Zolv.CPA.Write(which, units.Area.Text(tyre.PatchArea));
-    Zolv.CPAR.Write(which, WithUnit(tyre.AspectRatio, 2, " : 1"));
-    Zolv.TS.Write(which, units.Stiffness.Text(tyre.Stiffness));
-    Zolv.TF.Write(which, WithUnit(tyre.Frequency, 2, " Hz"));
+    for (const TyreFigure& figure : TyreFigures()) figure.value->Write(which, figure.text(tyre));
 }
 
 }  // namespace
@@ -57,36 +43,18 @@ void ShowTyre(Showing which, const TyreSheet& tyre) {
 void AnalyseTyres() {
     const double pressureF = tyres.BlowTyresOn ? 0 : Zolv.Select_PressureF.Value();
     const double pressureR = tyres.BlowTyresOn ? 0 : Zolv.Select_PressureR.Value();
-    const TyreSheet front = AnalyseFront(pressureF);
-    const TyreSheet rear = AnalyseRear(pressureR);
-
-    ShowTyresOf(Showing::Present, front, rear, tyres.TyreMu);
+    tyres.Sheets = {.Front = AnalyseFront(pressureF), .Rear = AnalyseRear(pressureR)};
+    ShowTyresOf(Showing::Present, tyres.Sheets, tyres.TyreMu);
     DrawTyres();
 }
 
-void ShowTyresOf(Showing which, const TyreSheet& front, const TyreSheet& rear, float tyreMu) {
-    ShowTyre(which, Zolv.FrontTyreAnal.Checked() ? front : rear);
+void ShowTyresOf(Showing which, const TyrePair& pair, float tyreMu) {
+    const auto& [front, rear] = pair;
+    ShowTyre(which, AnalysedOf(pair));
     Zolv.MU.Write(which, NumberText(tyreMu));
     Zolv.FRCPR.Write(which, RoundedText(front.PatchArea / rear.PatchArea, 3));
     Zolv.Label_PressureF.Write(which, units.Pressure.Text(front.Pressure));
     Zolv.Label_PressureR.Write(which, units.Pressure.Text(rear.Pressure));
-}
-
-std::string FinerTyreText(Showing which, const Label& field) {
-    constexpr double kMillimetres = 1000;
-    constexpr double kSquareCentimetres = 10000;
-    if (which == Showing::Held && !tyres.HeldShown) return {};
-    const TyreSheet& tyre = which == Showing::Present ? tyres.Shown : *tyres.HeldShown;
-    if (&field == &Zolv.CPA) {
-        return units.Area.Unit == 0 ? WithUnit(tyre.PatchArea * kSquareCentimetres, 0, " cm^2") : std::string();
-    }
-    if (units.Distance.Unit != 0) return {};
-    const auto text = [](double metres) { return WithUnit(metres * kMillimetres, 0, " mm"); };
-    if (&field == &Zolv.TRRC) return text(tyre.RollingRadius) + " / " + text(tyre.Circumference);
-    if (&field == &Zolv.CPW) return text(tyre.PatchWidth);
-    if (&field == &Zolv.CPL) return text(tyre.PatchLength);
-    if (&field == &Zolv.UTR) return text(tyre.UnloadedRadius);
-    return text(&field == &Zolv.TD ? tyre.Deformation : tyre.WallHeight);
 }
 
 void PickTyreType() {

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <string>
-
 #include "fields/kinds.h"
-#include "model/tyre_sheet.h"
+#include "tyres/tyre_state.h"
 
 namespace zolv {
 
@@ -16,7 +14,7 @@ void AnalyseTyres();
 
 /// Writes the figures of the page for any two tyres: those of the chosen axle, and what both have.
 /// Reads: FrontTyreAnal, units
-void ShowTyresOf(Showing which, const TyreSheet& front, const TyreSheet& rear, float tyreMu);
+void ShowTyresOf(Showing which, const TyrePair& pair, float tyreMu);
 
 /// A tyre type was picked on the tyres page or on the gearing page: the other list follows. Unless the program is
 /// loading, tyres.TyreMu is then set by the type's name, and the follow-up TyreTypeTaken raised.
@@ -25,11 +23,5 @@ void PickTyreTypeOnGearingPage();
 
 /// Writes the rows of texts.TyreTypeNames into both lists of tyre types.
 void FillTyreLists();
-
-/// What a length or an area of the tyre shown, of the present or of the held set-up, reads in millimetres or square
-/// centimetres, while the user's unit is the metre or the square metre, in which it would be cut to two decimals. Empty
-/// in any other unit.
-/// @param field  one of CPW, CPL, CPA, UTR, TD, TRRC, TWH
-[[nodiscard]] std::string FinerTyreText(Showing which, const Label& field);
 
 }  // namespace zolv

@@ -59,13 +59,33 @@ TEST(Document, ReadsBackFromCsvFigureByFigure) {
                                                          {"Gears", "2nd, Ratio", "2.4", ""}}));
     Document held = HandMade();
     held.Sections[0].Figures[0].Held = "900 kg";
-    EXPECT_EQ(ReadCsv(CsvOf(held, titles))[1], (std::vector<std::string>{"Car", "Mass", "1027", "kg", "900 kg"}));
+    held.Sections[0].Figures.push_back({.Name = "0-60", .Number = "N/A", .Held = "6.5s"});
+    held.Sections[1].Held = {{}, {"held", "3.6", "4900 rpm"}};
+    EXPECT_EQ(ReadCsv(CsvOf(held, titles)), (Lines{titles,
+                                                   {"Car", "Mass", "1027", "kg", "900"},
+                                                   {"Car", "Name", "\"Pell\", S", "", ""},
+                                                   {"Car", "0-60", "N/A", "s", "6.5"},
+                                                   {"Gears", "1st, Ratio", "3.5", "", "3.6"},
+                                                   {"Gears", "1st, After", "4800", "rpm", "4900"},
+                                                   {"Gears", "2nd, Ratio", "2.4", "", ""}}));
 }
 
 TEST(Document, IsTextInColumns) {
     EXPECT_EQ(TextOf(HandMade()),
               "A & B\n=====\n<file>.zolv\n\nCar\n---\n  Mass   1027 kg\n  Name   \"Pell\", S\n\nGears\n-----\n"
               "  Gear   Ratio      After\n  1st      3.5   4800 rpm\n  2nd      2.4\n");
+}
+
+TEST(Document, HasWhatIsHeldBesideAndBelow) {
+    Document held = HandMade();
+    held.HeldTitle = "Held";
+    held.Sections[0].Figures[0].Held = "900 kg";
+    held.Sections[1].Held = {{}, {"Held", "3.6", "4900 rpm"}};
+    EXPECT_THAT(TextOf(held), HasSubstr("                     Held\n  Mass   1027 kg     900 kg\n"));
+    EXPECT_THAT(TextOf(held), HasSubstr("  1st      3.5   4800 rpm\n  Held     3.6   4900 rpm\n  2nd      2.4\n"));
+    EXPECT_THAT(HtmlOf(held), HasSubstr("<th>Held</th></tr>\n<tr><td>Mass</td>"));
+    EXPECT_THAT(HtmlOf(held), HasSubstr("<td>kg</td><td>900 kg</td></tr>"));
+    EXPECT_THAT(HtmlOf(held), HasSubstr("<tr><td>Held</td><td>3.6</td><td>4900 rpm</td></tr>\n<tr><td>2nd</td>"));
 }
 
 TEST(Document, StandsAloneAsHtml) {

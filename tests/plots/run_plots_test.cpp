@@ -1,7 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <utility>
+
 #include "aero/aero_state.h"
+#include "desk/held.h"
 #include "drawing/curve_reading.h"
 #include "plots/gearing_plots.h"
 #include "plots/hand_made_car.h"
@@ -60,6 +64,34 @@ TEST_F(RunPlots, SpeedAtEveryEighthRow) {
     DrawGearingPlots();
     EXPECT_THAT(DrawnBesideGrid(Zolv.SpeedTimeGraph.Drawing()),
                 ElementsAre("line 200,2715 1640,1892.273 black 2", "line 1640,1892.273 3080,1069.545 black 2"));
+}
+
+// Present: v / 2 rows to the speed v, held: v rows, each of 0.05 s, so that v / 40 s are gained. From 40 m/s on the
+// present run crawls: what it loses there is beyond the scale, whose lowest is 1.15 times the 0.8 s at 32 m/s, row 16.
+TEST_F(RunPlots, TimeGainedOrLostStandsOverTheSpeedInPlaceOfTheRun) {
+    Run(60);
+    const auto giveSpeed = [](AccelRow& row, float speed) {
+        row.values[static_cast<std::size_t>(AccelColumn::Speed)] = speed;
+    };
+    for (std::size_t i = 21; i <= 60; ++i) giveSpeed(gearing.AccelRows[i], 40 + 0.01F * static_cast<float>(i - 20));
+    const auto held = std::make_shared<HeldSetUp>();
+    held->Sheet.Run.LastRow = 50;
+    for (std::size_t i = 0; i <= 50; ++i) giveSpeed(held->Rows[i], static_cast<float>(i));
+    held->Times = RunTimes(held->Run());
+    desk.Held = held;
+    Zolv.TimeDifference.SetChecked(true);
+    DrawGearingPlots();
+    const Canvas& plot = Zolv.SpeedTimeGraph.Drawing();
+    const auto& [x, y] = std::pair(plot.PresentAxes().x, plot.PresentAxes().y);
+    for (const auto& [speed, lost] : {std::pair(8, "-0.2 s"), {20, "-0.5 s"}, {32, "-0.8 s"}}) {
+        const auto readings = ReadingsAt(plot, x.origin + x.scale * speed, 1000);
+        ASSERT_THAT(readings, testing::SizeIs(1));
+        EXPECT_EQ(readings.front().value, lost);
+    }
+    EXPECT_NEAR((y.end - y.origin) / y.scale, 0, 1e-9);
+    EXPECT_NEAR((y.start - y.origin) / y.scale, -0.92, 1e-6);
+    EXPECT_EQ(TimeLostAtRow(16), "-0.8");
+    EXPECT_EQ(TimeLostAtRow(60), "+0.98");  // 3 s, against the 2.02 s of the held run
 }
 
 TEST_F(RunPlots, AxesAreInSecondsAndInTheUnitShown) {

@@ -1,5 +1,10 @@
 #include <filesystem>
+#include <map>
+#include <sstream>
+#include <vector>
 
+#include "desk/held.h"
+#include "desk/present.h"
 #include "drawing/document.h"
 #include "reports/sheet_document.h"
 #include "reports/sheet_file.h"
@@ -44,6 +49,52 @@ TEST_F(Sheet, ThatCannotBeWrittenSaysWhyAndLeavesNothing) {
     EXPECT_THAT(WriteSheet(InFolder("sheet.csv")), HasSubstr("sheet-run.csv"));
     EXPECT_EQ(ContentOf(InFolder("sheet.csv")), "old");
     EXPECT_FALSE(std::filesystem::exists(InFolder("sheet-run.csv")));
+}
+
+/// Section and name of each figure, with one of its columns: 2 the number, 4 that of the held set-up.
+std::map<std::string, std::string> ColumnOf(std::size_t column) {
+    std::map<std::string, std::string> figures;
+    std::istringstream lines(Replaced(CsvOf(SetUpSheet(), {"s", "f", "v", "u", "h"}), "\r", ""));
+    for (std::string line; std::getline(lines, line);) {
+        std::vector<std::string> cells{""};
+        bool quoted = false;
+        for (const char c : line) {
+            if (c == '"') quoted = !quoted;
+            if (c == ',' && !quoted) {
+                cells.emplace_back();
+            } else if (c != '"') {
+                cells.back() += c;
+            }
+        }
+        cells.resize(5);
+        figures[cells[0] + '/' + cells[1]] = cells[column];
+    }
+    return figures;
+}
+
+// What a set-up reads while it is present, it reads as the held one: another car of another number of gears lies there.
+TEST_F(Sheet, HoldsBesideEachFigureWhatStoodThere) {
+    for (const auto& [held, present] : {std::pair("Series Mu", "Pell S"), {"Pell S", "Series Mu"}}) {
+        SCOPED_TRACE(held);
+        ReleaseHeld();
+        Set("Select_Car", held);
+        Set("Select_Tyres", "Slick R2");
+        Set("Select_PressureR", "210");
+        ASSERT_TRUE(LayOut(PresentSetUp()));  // the tyres at the loads of the set-up, not of the last run's end
+        const auto stood = ColumnOf(2);
+        HoldPresent();
+        Set("Select_Car", present);
+        Set("Select_Tyres", "Road Normal");
+        const auto beside = ColumnOf(4);
+        for (const auto& [name, number] : stood) {
+            const bool named = name == "Info/Select your car" || name == "s/f";
+            if (named || name.starts_with("Log of the Run") || !beside.contains(name)) continue;
+            EXPECT_EQ(beside.at(name), number) << name;
+        }
+        EXPECT_THAT(beside.at("Info/Select your car"), testing::StartsWith(held));
+        EXPECT_TRUE(beside.contains("Gearing/6th, Ratio"));
+        EXPECT_TRUE(beside.contains("Tyres/Contact patch width, Rear"));
+    }
 }
 
 TEST_F(Sheet, LeavesOutWhatDoesNotFollowFromWrongGears) {

@@ -2,10 +2,13 @@
 
 #include "studies/finder_page.h"
 
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "desk/held.h"
+#include "desk/history.h"
 #include "shell/start_up.h"
 #include "support/posted.h"
 #include "support/zolv_test.h"
@@ -67,6 +70,46 @@ TEST_F(FinderPage, TellsWhatCannotBeFound) {
         EXPECT_EQ(Finder.Table.Text(), "");
     }
     EXPECT_EQ(Shown({"Gear1", "Gear4", "GearF"}), gearbox);
+}
+
+/// The cells of a column, one after the other.
+std::string ColumnOf(const std::string& table, int column) {
+    std::string cells;
+    std::istringstream lines(table);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream row(line);
+        std::string cell;
+        for (int i = 0; i <= column; ++i) std::getline(row, cell, '\t');
+        cells += cell + '|';
+    }
+    return cells;
+}
+
+TEST_F(FinderPage, TimesOfTheHeldSetUpStandBesideThePresentOnes) {
+    Finder.SetVisible(true);
+    Set("Finder.Straights", "name,entry speed,length\nHill,20,300\n");
+    const auto cells = [](int column) { return ColumnOf(Finder.StraightTimes.Text(), column); };
+    const std::string time = cells(3);
+    HoldPresent();
+    Set("Gear2", "2");
+    EXPECT_NE(cells(3), time);
+    EXPECT_EQ(Replaced(cells(5), "Time, held", "Time"), time);
+    ReleaseHeld();
+    EXPECT_THAT(Finder.StraightTimes.Text(), testing::Not(HasSubstr("held")));
+}
+
+TEST_F(FinderPage, TheOldOneIsHeldBesideTheFoundOne) {
+    SetAll({{"Finder.FreeFinalDrive", "on"}, {"Finder.LowFinalDrive", "3.5"}, {"Finder.HighFinalDrive", "3.6"}});
+    Finder.Start.Click();
+    Set("GearF", "3.3");
+    NoteInput(Zolv.Ratios.FinalDrive);
+    Finder.HoldOld.Click();
+    Finder.TakeOver.Click();
+    EXPECT_EQ(desk.Held->SetUp.PresentFinalDrive(), 4);
+    NoteInput(Finder.TakeOver);
+    EXPECT_EQ(Zolv.EditUndo.Caption(), "&Undo found set-up");
+    Undo();
+    EXPECT_EQ(Shown("GearF"), "3.3");
 }
 
 TEST_F(FinderPage, AFileThatIsNoneChangesNothing) {

@@ -266,8 +266,24 @@ std::vector<Shot> DocumentShots(const std::string& examples) {
          }},
         {"forces", Zolv, [] { Zolv.Select_RunView.Pick(1); }},
         {"log", Zolv, [] { Zolv.Select_RunView.Pick(2); }},
+        {"comparing", Zolv,
+         [=] {
+             OpenSettingsFile(examples + "/sable_t_road.zolv");
+             Zolv.Select_RunView.Pick(0);
+             Zolv.Select_Graphs.Pick(0);
+             Zolv.SetUpHold.Click();
+             Zolv.Ratios.FinalDrive.Enter("3.4");
+             Zolv.Ratios.Input[2].Enter("2.15");
+         }},
+        {"comparing-time", Zolv,
+         [] {
+             Zolv.Select_Graphs.Pick(1);
+             Zolv.TimeDifference.SetChecked(true);
+         }},
         {"tyres", Zolv,
          [=] {
+             Zolv.SetUpRelease.Click();
+             Zolv.TimeDifference.SetChecked(false);
              OpenSettingsFile(examples + "/sable_t_road.zolv");
              Zolv.Select_Page.Pick(2);
              unit(1, 2);  // mm

@@ -111,8 +111,7 @@ void KeyPressToPaintedTable(benchmark::State& state) {
 }
 BENCHMARK(KeyPressToPaintedTable)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void SliderMoveToPaintedWindow(benchmark::State& state) {
-    const auto desktop = StartProgram();
+void MoveSlider(benchmark::State& state) {
     PaintWatch watch(WidgetNamed("SpeedPlot"));
     QWidget& slider = WidgetNamed("Select_Ratio3");
     bool up = false;
@@ -122,7 +121,19 @@ void SliderMoveToPaintedWindow(benchmark::State& state) {
         watch.Wait();
     }
 }
+
+void SliderMoveToPaintedWindow(benchmark::State& state) {
+    const auto desktop = StartProgram();
+    MoveSlider(state);
+}
 BENCHMARK(SliderMoveToPaintedWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void SliderMoveWithAHeldSetUpToPaintedWindow(benchmark::State& state) {
+    const auto desktop = StartProgram();
+    desktop->TheBinding().Act([] { Zolv.SetUpHold.Click(); });
+    MoveSlider(state);
+}
+BENCHMARK(SliderMoveWithAHeldSetUpToPaintedWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 /// A process of its own, from its creation to its end, which it reaches as soon as its window is painted.
 void StartToFirstPaintedWindow(benchmark::State& state) {

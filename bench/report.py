@@ -36,6 +36,8 @@ ROWS = [
     ("EvaluateSetUp", "a set-up by Evaluate, with its run", "PartsOfSetUp", 1.1),
     ("PartsOfSetUp", "its yardstick, the parts alone", None, None),
     ("SliderMove", "slider move: labels, run, table, four plots", "RunAndTableYardstick", 2),
+    ("SliderMoveWithAHeldSetUp", "the same with a set-up held", "SliderMove", 1.3),
+    ("ParseSettingsFile", "text of a settings file parsed", None, None),
     ("ChangeOfCar", "change of car", None, None),
     ("ChangeOfSpeedUnit", "change of the speed unit", None, None),
     ("ChangeOfLanguage", "change of language", None, None),
@@ -130,8 +132,8 @@ def timings(found):
         target = ""
         if yardstick:
             ratio = taken / median(found[yardstick])
-            which = "the second" if name == "SliderMove" else "its"
-            target = f"{ratio:.2f} of {which} yardstick; at most {most}: {verdict(ratio <= most)}"
+            which = {"SliderMove": "the second yardstick", "SliderMoveWithAHeldSetUp": "a move without"}
+            target = f"{ratio:.2f} of {which.get(name, 'its yardstick')}; at most {most}: {verdict(ratio <= most)}"
         elif most:
             target = f"at most {text_of(most)}: {verdict(taken <= most)}"
         yield what, text_of(taken), target
@@ -148,6 +150,22 @@ def set_ups(found):
             if threads > 1:
                 note += f", {rates[threads] / rates[1]:.2f} times those of one"
             yield f"10,000 set-ups through the model, {threads} thread{'s' * (threads > 1)}", text_of(used), note
+
+
+# by the clock on two threads, of the most that they may take
+STUDIES = [
+    ("FindGearbox", "search for six gears and the final drive over 1000 m", 300e6),
+    ("SweepMap", "sweep of 100 x 100 runs", 500e6),
+]
+
+
+def studies(found):
+    for name, what, most in STUDIES:
+        for threads in (1, 2):
+            run_name = next(one for one in found if one.startswith(f"{name}/threads:{threads}/"))
+            wall = median(found[run_name], "real_time")
+            target = f"; at most {text_of(most)}: {verdict(wall <= most)}" if threads == 2 else ""
+            yield f"{what}, {threads} thread{'s' * (threads > 1)}", text_of(wall), "by the clock" + target
 
 
 def start_of_process(batch, cwd):
@@ -187,7 +205,7 @@ def main():
     described = machine(build)  # before the benchmarks load it
     batch = build / "bin" / "zolv-batch"
     found = run_benchmarks(build / "bin" / "zolv-bench")
-    rows = [*timings(found), *set_ups(found)]
+    rows = [*timings(found), *set_ups(found), *studies(found)]
     with tempfile.TemporaryDirectory() as folder:
         cwd = pathlib.Path(folder)
         rows += start_of_process(batch.resolve(), cwd)

@@ -12,6 +12,8 @@
 #include <vector>
 
 #include "fields/all_windows.h"
+#include "files/settings_file.h"
+#include "files/settings_text.h"
 #include "gearing/acceleration_page.h"
 #include "gearing/gearing_state.h"
 #include "language/language_file.h"
@@ -166,9 +168,7 @@ void RunAndTable(benchmark::State& state) {
 }
 BENCHMARK(RunAndTable)->Unit(benchmark::kMicrosecond);
 
-/// Labels, run, table and four plots, as one move of the user's hand sets them off.
-void SliderMove(benchmark::State& state) {
-    StartProgram();
+void MoveSlider(benchmark::State& state) {
     int value = 1700;
     for (auto _ : state) {
         value = value == 1700 ? 1710 : 1700;
@@ -176,7 +176,27 @@ void SliderMove(benchmark::State& state) {
     }
     state.counters["rows"] = gearing.AccelLastRow + 1;
 }
+
+/// Labels, run, table and four plots, as one move of the user's hand sets them off.
+void SliderMove(benchmark::State& state) {
+    StartProgram();
+    MoveSlider(state);
+}
 BENCHMARK(SliderMove)->Unit(benchmark::kMicrosecond);
+
+void SliderMoveWithAHeldSetUp(benchmark::State& state) {
+    StartProgram();
+    Zolv.SetUpHold.Click();
+    MoveSlider(state);
+}
+BENCHMARK(SliderMoveWithAHeldSetUp)->Unit(benchmark::kMicrosecond);
+
+void ParseSettingsFile(benchmark::State& state) {
+    StartProgram();
+    const std::string text = PresentSettingsText();
+    for (auto _ : state) benchmark::DoNotOptimize(ParseSettings(text));
+}
+BENCHMARK(ParseSettingsFile);
 
 void ChangeOfCar(benchmark::State& state) {
     StartProgram();

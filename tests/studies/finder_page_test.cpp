@@ -150,7 +150,7 @@ TEST_F(FinderPage, ASearchGoesOnForTheSetUpItWasStartedWith) {
     Posted posted;
     Finder.Start.Click();
     EXPECT_TRUE(finderWork.Running());
-    EXPECT_EQ(Finder.Status.Caption(), "Searching for Wisp 4...");
+    EXPECT_EQ(Finder.Status.Caption(), "Searching for Wisp 4…");
     Set("Select_Car", "Series Mu");
     while (finderWork.Running()) posted.RunOne();
     EXPECT_THAT(Finder.Status.Caption(), AllOf(HasSubstr("Wisp 4"), HasSubstr("not for the one on the pages")));

@@ -160,7 +160,7 @@ TEST_F(ShippedFiles, EnglishDiffersFromTheBuiltInWordsInTheseLines) {
 
 /// A text without what its place adds: the mark of a key, the colon of a label, capitals.
 std::string Bare(std::string text) {
-    for (const char* mark : {"&", ":", "...", "\u00A0"}) text = Replaced(text, mark, "");
+    for (const char* mark : {"&", ":", "...", "\u2026", "\u00A0"}) text = Replaced(text, mark, "");
     if (text.ends_with(')') && text.size() > 3 && text[text.size() - 3] == '(') text.resize(text.size() - 3);  // "(F)"
     for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return Replaced(text, "\u00C1", "\u00E1");  // "Ángulo": the one capital letter of more than a byte

@@ -12,6 +12,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "fields/all_windows.h"
+#include "fields/label_names.h"
 #include "plots/air_plot.h"
 #include "plots/plot_frame.h"
 #include "text/words.h"
@@ -23,7 +24,7 @@ namespace {
 constexpr int kWidestColumn = 460;
 
 QWidget* MakeSpeedChoice(Binding& binding, QWidget* parent) {
-    QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[0], parent);
+    QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[kAeroSpeedSelection], parent);
     QGridLayout& grid = *MakeRows(box);
     for (OptionButton* field : {&Zolv.UseSliderSpeed, &Zolv.UseFixedSpeed}) {
         auto* const button = new QRadioButton(box);
@@ -35,9 +36,12 @@ QWidget* MakeSpeedChoice(Binding& binding, QWidget* parent) {
 
 void FillSliders(Binding& binding, QGridLayout& grid) {
     const WidestOf angle{QStringLiteral("28 degrees")};
-    AddAirSpeedRow(binding, grid, NextRow(grid), 0, {Zolv.AeroLabel[0], Zolv.Select_AeroSpeed, Zolv.AeroSpeed});
-    AddSliderRow(binding, grid, {Zolv.AeroLabel[1], Zolv.Select_FrontWingAngle, Zolv.WingAngleFront, angle});
-    AddSliderRow(binding, grid, {Zolv.AeroLabel[2], Zolv.Select_RearWingAngle, Zolv.WingAngleRear, angle});
+    AddAirSpeedRow(binding, grid, NextRow(grid), 0,
+                   {Zolv.AeroLabel[kAeroCarSpeed], Zolv.Select_AeroSpeed, Zolv.AeroSpeed});
+    AddSliderRow(binding, grid,
+                 {Zolv.AeroLabel[kAeroFrontWingAngle], Zolv.Select_FrontWingAngle, Zolv.WingAngleFront, angle});
+    AddSliderRow(binding, grid,
+                 {Zolv.AeroLabel[kAeroRearWingAngle], Zolv.Select_RearWingAngle, Zolv.WingAngleRear, angle});
 }
 
 QLayout* MakeInputs(Binding& binding, QWidget* parent) {
@@ -97,7 +101,7 @@ QWidget* MakeBody(Binding& binding, QWidget* parent) {
 
 QWidget* MakeForces(Binding& binding, QWidget* parent) {
     auto& labels = Zolv.AeroLabel;
-    QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[4], parent);
+    QGroupBox* const box = MakeGroup(binding, Zolv.AeroPanel[kAeroForces], parent);
     QGridLayout& grid = *MakeRows(box);
     AddFigureRows(binding, grid,
                   {{labels[20], Zolv.Aero_ForceFrontWheels, WidestForce()},
@@ -142,12 +146,12 @@ QWidget* MakePlot(Binding& binding, Canvas& canvas, QWidget* parent) {
     view->setMinimumHeight(kLowest);
     const auto draw = [&canvas, view] {
         DrawAirPlot(canvas);
-        view->setAccessibleName(ToQt(CurveName(Zolv.AeroLabel[3]) + " / " + words["Downforce"]));
+        view->setAccessibleName(ToQt(CurveName(Zolv.AeroLabel[kAeroDrag]) + " / " + words["Downforce"]));
         view->update();
     };
     const std::initializer_list<const Field*> follows{
-        &Zolv.AeroSpeed,     &Zolv.WingAngleFront, &Zolv.WingAngleRear, &Zolv.Select_Car,   &Zolv.UseFixedSpeed,
-        &Zolv.Aero_TopSpeed, &Zolv.Aero_TotalDrag, &Zolv.Aero_BodyCdA,  &Zolv.AeroLabel[3], &Zolv.Label_Held};
+        &Zolv.AeroSpeed,     &Zolv.WingAngleFront, &Zolv.WingAngleRear, &Zolv.Select_Car,           &Zolv.UseFixedSpeed,
+        &Zolv.Aero_TopSpeed, &Zolv.Aero_TotalDrag, &Zolv.Aero_BodyCdA,  &Zolv.AeroLabel[kAeroDrag], &Zolv.Label_Held};
     for (const Field* field : follows) binding.OnChanged(*field, draw);
     return view;
 }

@@ -29,6 +29,7 @@
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
 #include "drawing/palette.h"
+#include "fields/label_names.h"
 #include "gearing/gearing_common.h"
 #include "gearing/gearing_state.h"
 #include "gearing/mark_reasons.h"
@@ -46,7 +47,7 @@ namespace {
 enum Column { kName, kInput, kUnit, kSlider, kResult, kBefore, kAfter, kTorque };
 
 /// The labels of the ratios panel are GearingLabel(0) to (14), those of the speeds panel the same 15 further on.
-Label& PanelLabel(int mode, int number) { return Zolv.GearingLabel[number + 15 * mode]; }
+Label& PanelLabel(int mode, int number) { return Zolv.GearingLabel[number + kGearingOfSpeeds * mode]; }
 
 constexpr int kShortestSlider[] = {90, 60};  // of a ratio; of a speed, beside which its unit stands
 const QString kWidestTime = QStringLiteral("88.88s");
@@ -175,8 +176,8 @@ QWidget* GearingPageView::MakeDirections() {
         binding_.Bind(*field, *button);
     }
     row->addStretch(1);
-    row->addWidget(MakeWords(binding_, Zolv.GearingLabel[38], directions));
-    row->addWidget(MakeList(binding_, Zolv.Select_Tyres2, Zolv.GearingLabel[38], directions));
+    row->addWidget(MakeWords(binding_, Zolv.GearingLabel[kGearingTyreType], directions));
+    row->addWidget(MakeList(binding_, Zolv.Select_Tyres2, Zolv.GearingLabel[kGearingTyreType], directions));
     return directions;
 }
 
@@ -215,7 +216,7 @@ void GearingPageView::AddTitles(QGridLayout& grid, int mode) {
     const Qt::Alignment right = Qt::AlignRight | Qt::AlignBottom;
     const int input = mode == 0 ? 2 : 3;  // "Ratio" and "Speed" change places
     const int result = mode == 0 ? 3 : 2;
-    AddUnitOfRevs(binding_, PanelLabel(mode, 4), add(4, 0, kResult, 3, right));
+    AddUnitOfRevs(binding_, PanelLabel(mode, kGearingEngineSpeed), add(4, 0, kResult, 3, right));
     add(1, 1, kName, 1, Qt::AlignLeft | Qt::AlignBottom);
     // "Ratio", a long word in some languages, reaches over the sliders.
     add(input, 1, kInput, mode == 0 ? 3 : 2, Qt::AlignLeft | Qt::AlignBottom);
@@ -300,7 +301,7 @@ void GearingPageView::AddReverse(QGridLayout& grid, int mode) {
     const int ratio = mode == 0 ? kInput : kResult;
     const int speed = mode == 0 ? kResult : kInput;
     grid.setRowMinimumHeight(row, fontMetrics().height() + kGap);
-    grid.addWidget(MakeWords(binding_, PanelLabel(mode, 14), parent), row, kName);
+    grid.addWidget(MakeWords(binding_, PanelLabel(mode, kGearingReverse), parent), row, kName);
     ValueLabel* const reverseRatio = MakeFigure(binding_, panel.GearR, parent, {}, ChangePlace::None);
     if (ratio == kInput) reverseRatio->setFixedWidth(BoxWidth(*reverseRatio, mode));
     grid.addWidget(reverseRatio, row, ratio);
@@ -318,7 +319,7 @@ void GearingPageView::AddReverse(QGridLayout& grid, int mode) {
 void GearingPageView::AddFinalDrive(QGridLayout& grid, int mode) {
     QWidget* const parent = grid.parentWidget();
     GearingPanel& panel = Zolv.GearingOf(mode);
-    Label& name = PanelLabel(mode, 0);
+    Label& name = PanelLabel(mode, kGearingFinalDrive);
     const int row = NextRow(grid);
     QLabel* const label = MakeWords(binding_, name, parent);
     BreakBetweenWords(binding_, name, *label);
@@ -359,8 +360,8 @@ QWidget* GearingPageView::MakeAcceleration() {
         addFigure(6 + 2 * i, i, 4, 1, {kWidestTime});
         addFigure(7 + 2 * i, i, 5, 1, speedAt);
     }
-    grid->addWidget(MakeWords(binding_, Zolv.GearingLabel[35], group), 2, 3);
-    ExplainMark(binding_, Zolv.AccDataLabel[5], *addFigure(5, 2, 4, 2, speed), WhyStillGaining);
+    grid->addWidget(MakeWords(binding_, Zolv.GearingLabel[kGearingEndSpeed], group), 2, 3);
+    ExplainMark(binding_, Zolv.AccDataLabel[kAccEndSpeed], *addFigure(5, 2, 4, 2, speed), WhyStillGaining);
     grid->setColumnMinimumWidth(2, kSection);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(3, 1);
@@ -417,8 +418,8 @@ QWidget* GearingPageView::MakeChoices() {
     auto* const row = new QHBoxLayout(choices);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kGap);
-    row->addWidget(MakeWords(binding_, Zolv.GearingLabel[39], choices));
-    row->addWidget(MakeList(binding_, Zolv.Select_Graphs, Zolv.GearingLabel[39], choices), 1);
+    row->addWidget(MakeWords(binding_, Zolv.GearingLabel[kGearingGraphs], choices));
+    row->addWidget(MakeList(binding_, Zolv.Select_Graphs, Zolv.GearingLabel[kGearingGraphs], choices), 1);
     auto* const difference = new QCheckBox(choices);
     row->addWidget(difference);
     binding_.Bind(Zolv.TimeDifference, *difference);
@@ -431,7 +432,7 @@ QWidget* GearingPageView::MakeExport(QWidget* parent) {
     auto* const button = new QPushButton(parent);
     button->setObjectName(QStringLiteral("ExportRun"));
     connect(button, &QPushButton::clicked, this, [this] { binding_.Act([] { ExportRun(words["ExportRunTitle"]); }); });
-    binding_.OnChanged(Zolv.GearingLabel[39], [button] {
+    binding_.OnChanged(Zolv.GearingLabel[kGearingGraphs], [button] {
         button->setText(ToQt(words["ExportRun"]));
         button->setAccessibleName(button->text());
     });
@@ -453,7 +454,7 @@ QWidget* GearingPageView::MakePlots() {
     }
     table_ = new RunTable(plots);
     column->addWidget(table_, 1);
-    binding_.Bind(Zolv.AccelerationData, *table_, &Zolv.GearingLabel[39]);
+    binding_.Bind(Zolv.AccelerationData, *table_, &Zolv.GearingLabel[kGearingGraphs]);
     log_ = new LogTable(plots);
     column->addWidget(log_, 1);
     binding_.Bind(Zolv.RunLog, *log_);

@@ -16,6 +16,7 @@
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
 #include "fields/all_windows.h"
+#include "fields/label_names.h"
 #include "text/texts.h"
 
 namespace zolv {
@@ -38,7 +39,7 @@ const WidestOf kPeak{QStringLiteral("888 kW @ 8888 rpm")};
 const WidestOf kPressures{QStringLiteral("888-888 kPa")};
 
 QWidget* MakeBody(Binding& binding, QWidget* parent) {
-    QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[0], parent);
+    QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[kInfoBody], parent);
     auto& words = Zolv.InfoLabel;
     AddFigureRows(binding, *MakeRows(box),
                   {{words[0], Zolv.Info_Mass},
@@ -51,7 +52,7 @@ QWidget* MakeBody(Binding& binding, QWidget* parent) {
 }
 
 QWidget* MakeEngine(Binding& binding, QWidget* parent) {
-    QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[1], parent);
+    QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[kInfoEngine], parent);
     auto& words = Zolv.InfoLabel;
     AddFigureRows(binding, *MakeRows(box),
                   {{words[5], Zolv.Info_Power, kPeak},
@@ -69,7 +70,7 @@ struct AxleRow {
 };
 
 QWidget* MakeWheels(Binding& binding, QWidget* parent) {
-    QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[3], parent);
+    QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[kInfoWheels], parent);
     QGridLayout& grid = *MakeRows(box);
     auto& words = Zolv.InfoLabel;
     grid.addWidget(MakeTitle(binding, words[10], box), 0, 1, Qt::AlignRight);
@@ -110,9 +111,9 @@ public:
 
 /// The text may not decide how small the window gets.
 QWidget* MakeAbout(Binding& binding, QWidget* parent) {
-    QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[2], parent);
+    QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[kInfoAbout], parent);
     auto* const area = new ScrolledText(box);
-    binding.OnChanged(Zolv.InfoPanel[2], [area, box] { area->setAccessibleName(box->accessibleName()); });
+    binding.OnChanged(Zolv.InfoPanel[kInfoAbout], [area, box] { area->setAccessibleName(box->accessibleName()); });
     QLabel* const text = MakeWords(binding, Zolv.AboutZolv, area);
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignLeft | Qt::AlignTop);

@@ -7,6 +7,7 @@
 
 #include "desktop/page_parts.h"
 #include "desktop/theme.h"
+#include "fields/label_names.h"
 
 namespace zolv {
 namespace {
@@ -35,7 +36,7 @@ LanguageWindow::LanguageWindow(Binding& binding, QWidget* parent)
         grid->addWidget(MakeWords(binding, form.LanguageLabel[row], Body()), row, 0);
     }
     grid->addWidget(MakeWords(binding, form.LanguageNow, Body()), 0, 1);
-    QComboBox* const list = MakeList(form.LanguageList, Body(), form.LanguageLabel[1]);
+    QComboBox* const list = MakeList(form.LanguageList, Body(), form.LanguageLabel[kLanguageSelect]);
     list->setMinimumContentsLength(20);
     binding.OnChanged(form.LanguageList, [list] {
         for (int row = 0; row < list->count(); ++row) list->setItemText(row, OwnName(list->itemText(row)));

@@ -30,6 +30,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/tyres_page_view.h"
+#include "fields/label_names.h"
 #include "files/settings_file.h"
 #include "platform/dialogs.h"
 #include "shell/shell_state.h"
@@ -187,7 +188,8 @@ void MainWindow::AddAbout() {
     QAction* const about = help->addAction(QString(), this, [] { ShowMessage(Zolv.AboutZolv.Caption()); });
     about->setObjectName(QStringLiteral("HelpAbout"));
     about->setMenuRole(QAction::AboutRole);
-    binding_.OnChanged(Zolv.InfoPanel[2], [about] { about->setText(ToQt(Zolv.InfoPanel[2].Caption())); });
+    binding_.OnChanged(Zolv.InfoPanel[kInfoAbout],
+                       [about] { about->setText(ToQt(Zolv.InfoPanel[kInfoAbout].Caption())); });
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {

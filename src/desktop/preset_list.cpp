@@ -6,6 +6,7 @@
 #include "desktop/binding.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
+#include "fields/label_names.h"
 
 namespace zolv {
 
@@ -15,7 +16,7 @@ PresetList::PresetList(Binding& binding, QWidget* parent) : QListWidget(parent),
     connect(this, &QListWidget::currentRowChanged, this, &PresetList::Pick);
     for (const Field* field :
          {static_cast<Field*>(&CustomPresets.EditName), static_cast<Field*>(&CustomPresets.Frame_Add),
-          static_cast<Field*>(&CustomPresets.CUPLabel[19])}) {
+          static_cast<Field*>(&CustomPresets.CUPLabel[kCupEditName])}) {
         binding.OnChanged(*field, [this] { Refresh(); });
     }
 }
@@ -29,7 +30,7 @@ void PresetList::Refresh() {
         for (const std::string& name : CustomPresets.EditName.Rows()) addItem(ToQt(name));
         setCurrentRow(std::min(row, count() - 1));
     }
-    setAccessibleName(PlainCaption(CustomPresets.CUPLabel[19].Caption()));
+    setAccessibleName(PlainCaption(CustomPresets.CUPLabel[kCupEditName].Caption()));
     FitRows();
 }
 

@@ -19,6 +19,7 @@
 #include "desktop/preset_list.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
+#include "fields/label_names.h"
 #include "vehicle/custom_presets.h"
 #include "vehicle/preset_state.h"
 
@@ -70,7 +71,7 @@ PresetsWindow::PresetsWindow(Binding& binding, QWidget* parent) : SecondaryWindo
     auto* const grid = new QGridLayout(Body());
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(kSection);
-    grid->addWidget(MakeWords(binding, CustomPresets.CUPLabel[0], Body()), 0, 0, 1, 2);
+    grid->addWidget(MakeWords(binding, CustomPresets.CUPLabel[kCupAbout], Body()), 0, 0, 1, 2);
     list_ = new PresetList(binding, Body());
     grid->addWidget(list_, 1, 0);
     grid->addWidget(MakeForm(), 1, 1);
@@ -118,11 +119,11 @@ QGroupBox* PresetsWindow::MakeAddPanel() {
     auto& form = CustomPresets;
     QGroupBox* const group = MakeGroup(Fields(), form.Frame_Add, Body());
     QGridLayout* const grid = MakeRows(group);
-    grid->addWidget(MakeWords(Fields(), form.CUPLabel[1], group), kNameRow, 0);
-    grid->addWidget(Make<QLineEdit>(form.NewName, group, &form.CUPLabel[1]), kNameRow, 1);
+    grid->addWidget(MakeWords(Fields(), form.CUPLabel[kCupNewName], group), kNameRow, 0);
+    grid->addWidget(Make<QLineEdit>(form.NewName, group, &form.CUPLabel[kCupNewName]), kNameRow, 1);
     AddSentence(*grid, kNameRow, kAdd, {&form.NewName});
-    grid->addWidget(MakeWords(Fields(), form.CUPLabel[2], group), kSecondRow, 0);
-    grid->addWidget(MakeList(form.NewCar, group, form.CUPLabel[2]), kSecondRow, 1);
+    grid->addWidget(MakeWords(Fields(), form.CUPLabel[kCupBasedOn], group), kSecondRow, 0);
+    grid->addWidget(MakeList(form.NewCar, group, form.CUPLabel[kCupBasedOn]), kSecondRow, 1);
     AddSentence(*grid, kSecondRow, kAdd, {&form.NewCar});
     AddLines(*grid, form.New, kAdd);
     FinishPanel(*grid, form.AddCar, form.CP_Load);
@@ -135,12 +136,12 @@ QGroupBox* PresetsWindow::MakeEditPanel() {
     auto& form = CustomPresets;
     QGroupBox* const group = MakeGroup(Fields(), form.Frame_Edit, Body());
     QGridLayout* const grid = MakeRows(group);
-    grid->addWidget(MakeWords(Fields(), form.CUPLabel[19], group), kNameRow, 0);
+    grid->addWidget(MakeWords(Fields(), form.CUPLabel[kCupEditName], group), kNameRow, 0);
     auto* const name = new QLabel(group);
     name->setTextFormat(Qt::PlainText);
     grid->addWidget(name, kNameRow, 1);
     Fields().OnChanged(form.EditName, [name] { name->setText(ToQt(CustomPresets.EditName.Text())); });
-    grid->addWidget(MakeWords(Fields(), form.CUPLabel[18], group), kSecondRow, 0);
+    grid->addWidget(MakeWords(Fields(), form.CUPLabel[kCupPresetsUsed], group), kSecondRow, 0);
     grid->addWidget(MakeWords(Fields(), form.PresetsUsed, group), kSecondRow, 1);
     AddLines(*grid, form.Edit, kEdit);
     FinishPanel(*grid, form.EditUpdate, form.CP_Save);
@@ -259,11 +260,11 @@ void PresetsWindow::FinishPanel(QGridLayout& grid, Button& first, Button& second
     QWidget* const group = grid.parentWidget();
     const int lineHeight = QComboBox().sizeHint().height();  // whatever stands in the line, so that the panels align
     const int lines = NextRow(grid);
-    Fields().OnChanged(
-        CustomPresets.CUPLabel[0], [&grid, lines, lineHeight, sentence = faults_[kAdd].sentences.begin()->second] {
-            const int height = HeightOfFaultSentence(*sentence, ToQt(CustomPresets.CUPLabel[0].Caption()));
-            for (int line = 0; line < lines; ++line) grid.setRowMinimumHeight(line, std::max(lineHeight, height));
-        });
+    Fields().OnChanged(CustomPresets.CUPLabel[kCupAbout], [&grid, lines, lineHeight,
+                                                           sentence = faults_[kAdd].sentences.begin()->second] {
+        const int height = HeightOfFaultSentence(*sentence, ToQt(CustomPresets.CUPLabel[kCupAbout].Caption()));
+        for (int line = 0; line < lines; ++line) grid.setRowMinimumHeight(line, std::max(lineHeight, height));
+    });
     grid.setVerticalSpacing(2);
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(0, kGap, 0, 0);

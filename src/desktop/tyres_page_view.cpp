@@ -15,6 +15,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "fields/all_windows.h"
+#include "fields/label_names.h"
 #include "text/words.h"
 #include "tyres/tyre_figures.h"
 
@@ -30,12 +31,12 @@ void PlaceFitted(Binding& binding, QGridLayout& grid) {
     types->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     auto* const blow = new QCheckBox(grid.parentWidget());
     auto* const caption = new QLabel(grid.parentWidget());
-    binding.OnChanged(Zolv.GearingLabel[38],
-                      [caption] { caption->setText(PlainCaption(Zolv.GearingLabel[38].Caption())); });
+    binding.OnChanged(Zolv.GearingLabel[kGearingTyreType],
+                      [caption] { caption->setText(PlainCaption(Zolv.GearingLabel[kGearingTyreType].Caption())); });
     grid.addWidget(caption, 0, kFitted);
     grid.addWidget(types, 0, kFitted + 1);
     grid.addWidget(blow, 1, kFitted, 1, 2);
-    binding.Bind(Zolv.Select_Tyres, *types, &Zolv.GearingLabel[38]);
+    binding.Bind(Zolv.Select_Tyres, *types, &Zolv.GearingLabel[kGearingTyreType]);
     binding.Bind(Zolv.BlowTyres, *blow);
 }
 
@@ -43,8 +44,9 @@ void PlaceFitted(Binding& binding, QGridLayout& grid) {
 void PlaceSliders(Binding& binding, QGridLayout& grid) {
     const WidestOf pressure = WidestTexts(&UnitState::Pressure, 388);
     int line = 0;
-    for (const SliderRow& row : {SliderRow{Zolv.TyreLabel[1], Zolv.Select_PressureF, Zolv.Label_PressureF, pressure},
-                                 SliderRow{Zolv.TyreLabel[2], Zolv.Select_PressureR, Zolv.Label_PressureR, pressure}}) {
+    for (const SliderRow& row :
+         {SliderRow{Zolv.TyreLabel[kTyrePressureF], Zolv.Select_PressureF, Zolv.Label_PressureF, pressure},
+          SliderRow{Zolv.TyreLabel[kTyrePressureR], Zolv.Select_PressureR, Zolv.Label_PressureR, pressure}}) {
         QSlider* const slider = PlaceSliderRow(binding, grid, line++, kSliders, row);
         const auto enable = [slider, &field = row.slider] {
             slider->setEnabled(field.Enabled() && !Zolv.BlowTyres.Checked());
@@ -53,7 +55,7 @@ void PlaceSliders(Binding& binding, QGridLayout& grid) {
         binding.OnChanged(Zolv.BlowTyres, enable);
     }
     AddAirSpeedRow(binding, grid, line, kSliders,
-                   {Zolv.TyreLabel[0], Zolv.Select_AeroSpeed_TyreTab, Zolv.AeroSpeed_TyreTab});
+                   {Zolv.TyreLabel[kTyreCarSpeed], Zolv.Select_AeroSpeed_TyreTab, Zolv.AeroSpeed_TyreTab});
 }
 
 /// Which of the two tyres is analysed.
@@ -153,8 +155,10 @@ QWidget* MakeDrawings(Binding& binding, QWidget* parent) {
     SetGroupMargins(*grid);
     grid->setHorizontalSpacing(kSection);
     grid->setVerticalSpacing(kGap);
-    PlaceDrawing(binding, *grid, 0, {Zolv.TyreLabel[3], Zolv.TyreLabel[5], Zolv.ZoomCPS, Zolv.CPS});
-    PlaceDrawing(binding, *grid, 1, {Zolv.TyreLabel[4], Zolv.TyreLabel[6], Zolv.ZoomSideOn, Zolv.SV});
+    PlaceDrawing(binding, *grid, 0,
+                 {Zolv.TyreLabel[kTyreFootprint], Zolv.TyreLabel[kTyreZoomFootprint], Zolv.ZoomCPS, Zolv.CPS});
+    PlaceDrawing(binding, *grid, 1,
+                 {Zolv.TyreLabel[kTyreSideView], Zolv.TyreLabel[kTyreZoomSideView], Zolv.ZoomSideOn, Zolv.SV});
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 2);
     grid->setRowStretch(2, 1);

@@ -23,7 +23,7 @@ enum InfoLabelName : int {
     kInfoWheelbase,
 };
 
-enum InfoPanelName : int { kInfoWheels = 3 };
+enum InfoPanelName : int { kInfoBody, kInfoEngine, kInfoAbout, kInfoWheels };
 
 /// The panel of the ratios; that of the speeds has the same words kGearingOfSpeeds further on.
 enum GearingLabelName : int {
@@ -40,6 +40,8 @@ enum GearingLabelName : int {
     kGearingSpeedTime = 30,  // times to five speeds
     kGearingEndSpeed = 35,
     kGearingDistanceTime = 36,  // times over two distances
+    kGearingTyreType = 38,
+    kGearingGraphs,
 };
 
 /// The figures of the run: times to five speeds, the speed at its end, then time and speed over each of two distances.
@@ -49,7 +51,11 @@ enum TyreLabelName : int {
     kTyreCarSpeed = 0,
     kTyrePressureF,
     kTyrePressureR,
-    kTyrePatchWidth = 7,
+    kTyreFootprint,
+    kTyreSideView,
+    kTyreZoomFootprint,
+    kTyreZoomSideView,
+    kTyrePatchWidth,
     kTyrePatchLength,
     kTyrePatchArea,
     kTyrePatchAspect,
@@ -79,9 +85,27 @@ enum AeroLabelName : int {
     kAeroDistribution,
 };
 
-enum AeroPanelName : int { kAeroTotals = 1, kAeroBody = 3, kAeroUndertray = 5, kAeroFrontWing, kAeroRearWing };
+enum AeroPanelName : int {
+    kAeroSpeedSelection = 0,
+    kAeroTotals,
+    kAeroBody = 3,
+    kAeroForces,
+    kAeroUndertray,
+    kAeroFrontWing,
+    kAeroRearWing
+};
 
-/// Words of the add panel.
-enum CupLabelName : int { kCupFrontWheelSize = 13, kCupRearWheelSize = 15 };
+/// Words of the presets: above both panels, in the add panel, in the edit panel.
+enum CupLabelName : int {
+    kCupAbout = 0,
+    kCupNewName,
+    kCupBasedOn,
+    kCupFrontWheelSize = 13,
+    kCupRearWheelSize = 15,
+    kCupPresetsUsed = 18,
+    kCupEditName
+};
+
+enum LanguageLabelName : int { kLanguageSelect = 1 };
 
 }  // namespace zolv

@@ -6,6 +6,7 @@
 
 #include "drawing/document.h"
 #include "fields/all_windows.h"
+#include "fields/label_names.h"
 #include "gearing/gearing_state.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
@@ -56,8 +57,8 @@ std::vector<RunColumn> RunColumns() {
             {texts.TextColResistance, force},
             {texts.TextColNetForce, force},
             {texts.TextColAcceleration, UnitOf(units.Acc.Suffix)},
-            {CaptionName(Zolv.AeroLabel[20].Caption()), force},
-            {CaptionName(Zolv.AeroLabel[21].Caption()), force}};
+            {CaptionName(Zolv.AeroLabel[kAeroFrontWheels].Caption()), force},
+            {CaptionName(Zolv.AeroLabel[kAeroRearWheels].Caption()), force}};
 }
 
 int RowsOfRun() { return gearing.AccelLastRow + 1; }

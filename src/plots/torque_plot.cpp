@@ -95,7 +95,7 @@ void DrawTorquePlot() {
     const PlotFrame frame{.sx = kPlotWidth / setUps.Largest(LongestRevs),
                           .sy = kPlotHeight / setUps.Largest(HighestTorque)};
     Canvas& plot = Zolv.TorquePlot.Draw();
-    const std::string torqueName = CurveName(Zolv.InfoLabel[6]);
+    const std::string torqueName = CurveName(Zolv.InfoLabel[kInfoTorque]);
     // The scale holds the factor of the unit already, so that the data of this plot are in the unit shown.
     DrawGrid(plot, frame,
              {.title = options.EngineTorqueOn ? words["WheelOrEngineSpeed"] : words["WheelSpeed"],

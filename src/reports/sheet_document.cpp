@@ -86,7 +86,7 @@ DocumentSection InputSection() {
         {.Name = NameOf(Zolv.GearingLabel[kGearingFinalDrive]),
          .Number = PresentPanel().FinalDrive.Text(),
          .Held = OfHeld([](const HeldSetUp& held) { return RoundedText(held.Sheet.Gears.FinalDrive, 3); })});
-    section.Figures.push_back({.Name = NameOf(Zolv.GearingLabel[38]),
+    section.Figures.push_back({.Name = NameOf(Zolv.GearingLabel[kGearingTyreType]),
                                .Number = Zolv.Select_Tyres.Text(),
                                .Held = OfHeld([](const HeldSetUp& held) {
                                    const std::vector<std::string>& types = Zolv.Select_Tyres.Rows();

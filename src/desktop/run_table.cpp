@@ -13,18 +13,25 @@
 namespace zolv {
 namespace {
 
-constexpr int kGearColumn = 3;
-constexpr int kTimeLostColumn = 10;  // behind those of the run
-constexpr int kCellRoom = 10;        // beside the text of a cell
+constexpr int kGear = 3;        // of the run's columns
+constexpr int kTimeLost = -1;   // none of the run's
+constexpr int kTimeLostAt = 2;  // behind the speed
+constexpr int kCellRoom = 10;   // beside the text of a cell
 
 QString HeadOf(const RunColumn& column) {
     return ToQt(column.Unit.empty() ? column.Title : column.Title + "\n[" + column.Unit + ']');
 }
 
-/// Those of the run, and where a set-up is held, how much later than its run each speed is reached.
+/// What a column shows: a column of the run, or where a set-up is held, how much later than in its run the speed is
+/// reached.
+int ContentOf(int column) {
+    if (desk.Held == nullptr || column < kTimeLostAt) return column;
+    return column == kTimeLostAt ? kTimeLost : column - 1;
+}
+
 std::vector<RunColumn> ShownColumns() {
     std::vector<RunColumn> columns = RunColumns();
-    if (desk.Held != nullptr) columns.push_back({words["TimeLost"], "s"});
+    if (desk.Held != nullptr) columns.insert(columns.begin() + kTimeLostAt, {words["TimeLost"], "s"});
     return columns;
 }
 
@@ -61,15 +68,14 @@ int RunModel::columnCount(const QModelIndex& parent) const { return parent.isVal
 
 QVariant RunModel::data(const QModelIndex& index, int role) const {
     if (index.row() >= RowsOfRun()) return {};
+    const int content = ContentOf(index.column());
     switch (role) {
         case Qt::DisplayRole:
-            return ToQt(index.column() == kTimeLostColumn ? TimeLostAtRow(index.row())
-                                                          : RunNumber(index.row(), index.column()));
+            return ToQt(content == kTimeLost ? TimeLostAtRow(index.row()) : RunNumber(index.row(), content));
         case Qt::TextAlignmentRole: return QVariant(Qt::AlignRight | Qt::AlignVCenter);
         case Qt::BackgroundRole:
             if (IsGearChange(index.row())) return GearTint(GearOfRow(index.row()), 0.3, QGuiApplication::palette());
-            if (index.column() == kGearColumn)
-                return GearTint(GearOfRow(index.row()), 0.14, QGuiApplication::palette());
+            if (content == kGear) return GearTint(GearOfRow(index.row()), 0.14, QGuiApplication::palette());
             return {};
         default: return {};
     }
@@ -118,7 +124,7 @@ void RunTable::MeasureColumns() {
     const QFontMetrics head = horizontalHeader()->fontMetrics();
     narrowest_.clear();
     for (const RunColumn& column : ShownColumns()) {
-        const bool isGear = static_cast<int>(narrowest_.size()) == kGearColumn;
+        const bool isGear = ContentOf(static_cast<int>(narrowest_.size())) == kGear;
         const int number = fontMetrics().horizontalAdvance(isGear ? QStringLiteral("8") : QStringLiteral("88888"));
         const int title = WidestWord(head, ToQt(column.Title));
         const int unit = head.horizontalAdvance(QLatin1Char('[') + ToQt(column.Unit) + QLatin1Char(']'));

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QTableView>
 
 #include "desktop/kept_set_up.h"
 #include "desktop/value_label.h"
@@ -23,6 +24,7 @@ class Desk : public DesktopTest {
 
 private Q_SLOTS:
     void HoldingMovesNothingAndShowsChanges();
+    void TheRunsTableTellsTheTimeLostBehindTheSpeed();
     void DragsAndTypedNumbersAreOneStepEach();
     void KeysOfStepsBelongToABoxWhileItIsTypedIn();
     void EscapeLeavesNoStep();
@@ -80,6 +82,26 @@ void Desk::HoldingMovesNothingAndShowsChanges() {
     QVERIFY(ChangeOf("Speed3").isEmpty());
     QVERIFY(!Find<QPushButton>("HeldRelease").isVisible());
     QCOMPARE(moved(), QStringList());
+}
+
+void Desk::TheRunsTableTellsTheTimeLostBehindTheSpeed() {
+    ClickTab("Select_Page", 1);
+    PickWithKeys(Find<QComboBox>("Select_Graphs"), 2);
+    const QAbstractItemModel& table = *Find<QTableView>("AccelerationData").model();
+    const auto cell = [&](int row, int column) { return table.index(row, column).data().toString(); };
+    const int columns = table.columnCount();
+    PressKeys(Qt::Key_H, Qt::ControlModifier);
+    QCOMPARE(table.columnCount(), columns + 1);
+    QVERIFY(table.headerData(2, Qt::Horizontal).toString().startsWith(QLatin1String("Time lost")));
+    const QString speed = cell(20, 1);
+    QCOMPARE(cell(20, 2), QStringLiteral("0"));
+    SelectAllAndType(Find<QLineEdit>("Gear1"), "3");
+    Settle();
+    QVERIFY(cell(20, 1) != speed);
+    QVERIFY(cell(20, 2).toDouble() != 0);
+    QCOMPARE(cell(20, 4), QStringLiteral("1"));
+    Click(Find<QPushButton>("HeldRelease"));
+    QCOMPARE(table.columnCount(), columns);
 }
 
 void Desk::DragsAndTypedNumbersAreOneStepEach() {

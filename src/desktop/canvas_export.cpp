@@ -44,16 +44,23 @@ void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& plac
     PaintLabels(painter, canvas, place, inks.words);
 }
 
-QImage PictureOf(const Canvas& canvas, const SvgSize& size, const QFont& font) {
-    constexpr int kResolution = 2;
-    const QSizeF whole(size.width + 2 * kMargin, size.height + 2 * kMargin);
-    QImage image((whole * kResolution).toSize(), QImage::Format_RGB32);
-    image.setDevicePixelRatio(kResolution);
-    image.fill(Qt::white);
-    QPainter painter(&image);
+QSizeF SizeOnPaper(const SvgSize& size) { return {size.width + 2 * kMargin, size.height + 2 * kMargin}; }
+
+void PaintOnPaper(QPainter& painter, const Canvas& canvas, const SvgSize& size, const QFont& font) {
+    painter.save();
+    painter.fillRect(QRectF(QPointF(), SizeOnPaper(size)), Qt::white);
     painter.translate(kMargin, kMargin);
     const PlotPlace place = PlaceOf(canvas, size.shape, {size.width, size.height}, MeasureOf(NumberFont(font)));
     PaintPicture(painter, canvas, place, font, {.words = ToQt(kWordsInk), .frame = ToQt(kFrameInk)});
+    painter.restore();
+}
+
+QImage PictureOf(const Canvas& canvas, const SvgSize& size, const QFont& font) {
+    constexpr int kResolution = 2;
+    QImage image((SizeOnPaper(size) * kResolution).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(kResolution);
+    QPainter painter(&image);
+    PaintOnPaper(painter, canvas, size, font);
     return image;
 }
 

@@ -20,8 +20,14 @@ struct CanvasInks {
 void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QFont& font,
                   const CanvasInks& inks);
 
-/// A drawing as it stands in a view of that size, at twice its resolution, in dark words on white with a margin
-/// around.
+/// Paints a drawing as it stands in a view of that size, in dark words on white with a margin around.
+/// @param font  of the view, with a size in pixels where the device is none of the screen's
+void PaintOnPaper(QPainter& painter, const Canvas& canvas, const SvgSize& size, const QFont& font);
+
+/// How large that is, in pixels of the layout.
+[[nodiscard]] QSizeF SizeOnPaper(const SvgSize& size);
+
+/// The same as an image of twice the resolution.
 [[nodiscard]] QImage PictureOf(const Canvas& canvas, const SvgSize& size, const QFont& font);
 
 /// Ask for a file and write a drawing into it; say so where that fails.

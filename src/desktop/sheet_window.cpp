@@ -1,5 +1,6 @@
 #include "desktop/sheet_window.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -10,11 +11,10 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QTextDocument>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <string_view>
 
-#include "desktop/canvas_export.h"
+#include "desktop/sheet_pictures.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "platform/dialogs.h"
@@ -30,39 +30,23 @@ constexpr QPageSize::PageSizeId kPaper = QPageSize::A4;
 constexpr double kPaperMargin = 12;  // [mm]
 constexpr double kFontSize = 8;      // points, with which the figures fill the first page
 
-QString NameOfPicture(std::size_t number) { return QStringLiteral("picture:%1").arg(number); }
-
-std::string ImageOf(const Canvas& /*picture*/, std::size_t number) {
-    constexpr int kWidth = 320;  // half of a page
-    return "<img src=\"" + FromQt(NameOfPicture(number)) + "\" width=\"" + std::to_string(kWidth) + "\"/>";
-}
-
-/// Figures on the first page, plots on the second: a page that holds too little is laid out larger, and prints smaller.
+/// Figures on the first page, plots on the second, and no figure broken over two lines: a page that holds too little is
+/// laid out larger, and prints smaller.
 void FitOnTwoPages(QTextDocument& page, const QSizeF& paper) {
     constexpr double kPixelsPerPoint = 96.0 / 72;
     constexpr double kSmallest = 2;
+    constexpr double kRounding = 1;  // of widths to whole pixels
     for (double scale = 1; scale <= kSmallest; scale += 0.05) {
         page.setPageSize(paper * (kPixelsPerPoint * scale));
-        if (page.pageCount() <= 2) return;
+        if (page.pageCount() <= 2 && page.size().width() <= page.pageSize().width() + kRounding) return;
     }
-}
-
-std::vector<QImage> PicturesOf(const Document& sheet, const QFont& font) {
-    std::vector<QImage> pictures;
-    for (const DocumentSection& section : sheet.Sections) {
-        for (const Canvas& canvas : section.Pictures) pictures.push_back(PictureOf(canvas, UsualSize(canvas), font));
-    }
-    return pictures;
 }
 
 }  // namespace
 
 SheetWindow::SheetWindow(QWidget* parent)
-    : QDialog(parent),
-      sheet_(SetUpSheet()),
-      pictures_(PicturesOf(sheet_, font())),
-      printer_(std::make_unique<QPrinter>()) {
-    constexpr QSize kRoomy(820, 900);
+    : QDialog(parent), sheet_(SetUpSheet()), printer_(std::make_unique<QPrinter>()) {
+    constexpr QSize kRoomy(1160, 860);  // two pages side by side
     setObjectName(QStringLiteral("SheetWindow"));
     setWindowTitle(ToQt(words["SheetTitle"]));
     printer_->setPageSize(QPageSize(kPaper));
@@ -72,6 +56,7 @@ SheetWindow::SheetWindow(QWidget* parent)
     auto* const column = new QVBoxLayout(this);
     preview_ = new QPrintPreviewWidget(printer_.get(), this);
     preview_->setViewMode(QPrintPreviewWidget::AllPagesView);
+    preview_->setZoomMode(QPrintPreviewWidget::FitInView);
     connect(preview_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) { PaintOn(*printer); });
     column->addWidget(preview_, 1);
     AddButtons(*column);
@@ -101,15 +86,15 @@ void SheetWindow::AddButtons(QBoxLayout& column) {
 
 void SheetWindow::PaintOn(QPagedPaintDevice& device) const {
     QTextDocument page;
-    for (std::size_t i = 0; i < pictures_.size(); ++i) {
-        page.addResource(QTextDocument::ImageResource, QUrl(NameOfPicture(i)), pictures_[i]);
-    }
+    SheetPictures pictures(sheet_, font());
+    page.documentLayout()->registerHandler(QTextFormat::ImageObject, &pictures);
     QFont font = page.defaultFont();
     font.setPointSizeF(kFontSize);
     page.setDefaultFont(font);
-    page.setDefaultStyleSheet(QStringLiteral("h1{font-size:13pt}h2{font-size:10pt}td,th{padding-right:8px}"));
+    page.setDefaultStyleSheet(
+        QStringLiteral("h1{font-size:13pt}h2{font-size:10pt}.short{white-space:nowrap}td,th{padding-right:8px}"));
     page.setDocumentMargin(0);
-    page.setHtml(ToQt(HtmlOf(sheet_, ImageOf)));
+    page.setHtml(ToQt(HtmlOf(sheet_, SheetPictures::Markup)));
     FitOnTwoPages(page, device.pageLayout().paintRect(QPageLayout::Point).size());
     page.print(&device);
 }

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QDialog>
-#include <QImage>
 #include <memory>
-#include <vector>
 
 #include "drawing/document.h"
 
@@ -28,7 +26,6 @@ private:
     void SavePdf();
 
     Document sheet_;
-    std::vector<QImage> pictures_;
     std::unique_ptr<QPrinter> printer_;
     QPrintPreviewWidget* preview_ = nullptr;
 };

@@ -14,7 +14,8 @@ constexpr const char* kStyle =
     "body{font-family:sans-serif;font-size:10pt;color:#282d34;max-width:60em;margin:2em auto;padding:0 1em}"
     "h1{font-size:16pt;margin:0}h2{font-size:12pt;margin:1.2em 0 .3em;border-bottom:1px solid #969ca4}"
     "table{border-collapse:collapse}td,th{padding:1px 12px 1px 0;text-align:left;vertical-align:top}"
-    "td.number{text-align:right}svg{width:100%;height:auto}table.columns{width:100%}"
+    ".short{white-space:nowrap}td.number{text-align:right;white-space:nowrap}svg{width:100%;height:auto}table."
+    "columns{width:100%}"
     "table.columns>tbody>tr>td{width:50%}"
     "@media print{.new-page{page-break-before:always}body{margin:0}h2,svg{page-break-inside:avoid}}";
 
@@ -57,9 +58,16 @@ void AddFigures(std::string& html, const DocumentSection& section, const std::st
     html += "</table>\n";
 }
 
+/// A figure, or a word or two.
+bool IsShort(const std::string& cell) {
+    constexpr std::size_t kShort = 12;
+    return ColumnsOf(cell) <= kShort || !FigureOf("", cell).Unit.empty();
+}
+
+/// What is short does not break over lines.
 void AddRow(std::string& html, const char* tag, const std::vector<std::string>& row) {
     html += "<tr>";
-    for (const std::string& cell : row) AddCell(html, tag, cell);
+    for (const std::string& cell : row) AddCell(html, tag, cell, IsShort(cell) ? " class=\"short\"" : "");
     html += "</tr>\n";
 }
 

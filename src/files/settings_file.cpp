@@ -86,9 +86,6 @@ void SetCurrentFile(const std::string& name) {
 
 bool IsThere(const std::string& car) { return vehicle.RecordNamed(car).has_value(); }
 
-/// Without its folder.
-std::string NameOfFile(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
-
 FileRequest RequestFor(bool saving) {
     return {.forSaving = saving,
             .title = saving ? texts.TextSaveSettings : texts.TextOpenSettings,

@@ -149,6 +149,8 @@ std::int16_t FileExists(const std::string& path) {
     return !error && size > 0 ? 1 : 0;
 }
 
+std::string NameOfFile(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
+
 FileText ReadTextFile(const std::string& path, std::size_t limit) {
     FileText result;
     std::error_code error;

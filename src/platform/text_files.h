@@ -29,6 +29,9 @@ std::string CurrentDirectory();
 /// empty file counts as missing everywhere in the program.
 std::int16_t FileExists(const std::string& path);
 
+/// A path without its folders, of either separator.
+[[nodiscard]] std::string NameOfFile(const std::string& path);
+
 struct FileText {
     bool readable = false;
     std::string text;      // the whole content, without a UTF-8 byte order mark

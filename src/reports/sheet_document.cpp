@@ -13,6 +13,7 @@
 #include "gearing/run_columns.h"
 #include "gearing/run_log_page.h"
 #include "model/acceleration_targets.h"
+#include "platform/text_files.h"
 #include "plots/force_plot.h"
 #include "reports/page_figures.h"
 #include "text/caption_name.h"
@@ -255,7 +256,7 @@ DocumentSection PlotSection() {
 
 Document SetUpSheet() {
     Document sheet{.Title = "Tarmaq Zolv: " + Zolv.Select_Car.Text(),
-                   .Subtitle = files.CurrentFileName,
+                   .Subtitle = NameOfFile(files.CurrentFileName),  // where it lies is nobody else's
                    .LanguageCode = words["LocaleCode"],
                    .HeldTitle = words["SheetHeld"]};
     sheet.Sections = {CarSection(), InputSection(), GearSection()};

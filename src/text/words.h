@@ -253,7 +253,7 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"SheetCopy", "Copy as Text"},
     {"SheetEnding", "The name must end in .html, .csv or .txt"},
     {"SheetFilter", "Set-up sheet (*.html *.csv *.txt)"},
-    {"SheetHeld", "Held set-up"},
+    {"SheetHeld", "Held"},
     {"SheetInputs", "What you set"},
     {"SheetInterpolated", "{0} (interpolated)"},
     {"SheetName", "Figure"},

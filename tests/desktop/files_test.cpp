@@ -286,14 +286,21 @@ void FilesAndPictures::SheetIsWholeAndPrintsOnTwoPages() {
     QCOMPARE(plots, 6);
     QCOMPARE(sections, 8);
 
+    for (const bool held : {true, false}) {  // with all that a held set-up adds
+        held ? Zolv.SetUpHold.Click() : Zolv.SetUpRelease.Click();
+        SheetWindow sheet;
+        sheet.show();
+        auto* const preview = sheet.findChild<QPrintPreviewWidget*>();
+        QVERIFY(preview != nullptr);
+        preview->updatePreview();
+        QCOMPARE(preview->pageCount(), 2);
+    }
     SheetWindow sheet;
-    sheet.show();
-    auto* const preview = sheet.findChild<QPrintPreviewWidget*>();
-    QVERIFY(preview != nullptr);
-    preview->updatePreview();
-    QCOMPARE(preview->pageCount(), 2);
     sheet.findChild<QPushButton*>(QStringLiteral("CopySheet"))->click();
     QVERIFY(QApplication::clipboard()->text().startsWith(QLatin1String("Tarmaq Zolv: ")));
+    Asked().answers << InFolder("sheet.pdf");
+    sheet.findChild<QPushButton*>(QStringLiteral("SheetAsPdf"))->click();
+    QVERIFY(Read("sheet.pdf").startsWith("%PDF-"));
 }
 
 const bool added = AddSuite<FilesAndPictures>("FilesAndPictures");

@@ -366,7 +366,21 @@ bool TakeDialogs(Camera& camera) {
     UseDialogs(&dialogs);
     const bool taken = camera.TakeDialog("dialog-open", [] { Zolv.FileOpen.Click(); }) &&
                        camera.TakeDialog("dialog-save", [] { Zolv.FileSaveAs.Click(); }) &&
-                       camera.TakeDialog("dialog-message", [] { OpenSettingsFile("languages.lst"); });
+                       camera.TakeDialog("dialog-message", [] { OpenSettingsFile("languages.lst"); }) &&
+                       camera.TakeDialog("sheet", [] { Zolv.FileSheet.Click(); });
+    UseDialogs(nullptr);
+    return taken;
+}
+
+/// The pictures of the manual; the sheet is that of the set-ups compared.
+bool TakeDocuments(Camera& camera, const std::string& examples) {
+    if (!camera.Take(DocumentShots(examples))) return false;
+    OpenSettingsFile(examples + "/sable_t_road.zolv");
+    Zolv.SetUpHold.Click();
+    Zolv.Ratios.FinalDrive.Enter("3.4");
+    WindowDialogs dialogs;
+    UseDialogs(&dialogs);
+    const bool taken = camera.TakeDialog("sheet", [] { Zolv.FileSheet.Click(); });
     UseDialogs(nullptr);
     return taken;
 }
@@ -395,7 +409,7 @@ int TakeAll(const QStringList& arguments) {
     });
     Camera camera(desktop, arguments.at(1));
     desktop.Main().resize(1280, 780);
-    if (documents) return camera.Take(DocumentShots(FromQt(arguments.value(3)))) ? 0 : 1;
+    if (documents) return TakeDocuments(camera, FromQt(arguments.value(3))) ? 0 : 1;
     if (const QSize size = SizeAmong(arguments); !size.isEmpty()) {
         desktop.Main().resize(size);
         return camera.Take(PageShots()) ? 0 : 1;

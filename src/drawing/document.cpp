@@ -14,10 +14,14 @@ constexpr const char* kStyle =
     "body{font-family:sans-serif;font-size:10pt;color:#282d34;max-width:60em;margin:2em auto;padding:0 1em}"
     "h1{font-size:16pt;margin:0}h2{font-size:12pt;margin:1.2em 0 .3em;border-bottom:1px solid #969ca4}"
     "table{border-collapse:collapse}td,th{padding:1px 12px 1px 0;text-align:left;vertical-align:top}"
-    ".short{white-space:nowrap}td.number{text-align:right;white-space:nowrap}svg{width:100%;height:auto}table."
+    ".short{white-space:nowrap}td.number{text-align:right}svg{width:100%;height:auto}table."
     "columns{width:100%}"
     "table.columns>tbody>tr>td{width:50%}"
-    "@media print{.new-page{page-break-before:always}body{margin:0}h2,svg{page-break-inside:avoid}}";
+    "@media "
+    "print{.new-page{page-break-before:always}@page{margin:12mm}body{margin:0;padding:0;max-width:none;font-size:7pt}"
+    "h2{font-size:9pt;"
+    "margin-top:.6em}h2,svg{page-break-inside:"
+    "avoid}}";
 
 std::string Escaped(const std::string& text) { return XmlText(text, "\n"); }
 
@@ -39,6 +43,14 @@ std::vector<std::string> HeldRow(const DocumentSection& section, std::size_t row
     return row < section.Held.size() ? section.Held[row] : std::vector<std::string>();
 }
 
+constexpr const char* kShort = " class=\"short\"";
+
+/// A figure, or a word or two.
+bool IsShort(const std::string& cell) {
+    constexpr std::size_t kWords = 12;
+    return ColumnsOf(cell) <= kWords || !FigureOf("", cell).Unit.empty();
+}
+
 void AddFigures(std::string& html, const DocumentSection& section, const std::string& heldTitle) {
     if (section.Figures.empty()) return;
     html += "<table>\n";
@@ -51,23 +63,17 @@ void AddFigures(std::string& html, const DocumentSection& section, const std::st
         html += "<tr>";
         AddCell(html, "td", figure.Name);
         AddCell(html, "td", figure.Number, " class=\"number\" align=\"right\"");
-        AddCell(html, "td", figure.Unit);
-        if (!figure.Held.empty()) AddCell(html, "td", figure.Held);
+        AddCell(html, "td", figure.Unit, kShort);
+        if (!figure.Held.empty()) AddCell(html, "td", figure.Held, IsShort(figure.Held) ? kShort : "");
         html += "</tr>\n";
     }
     html += "</table>\n";
 }
 
-/// A figure, or a word or two.
-bool IsShort(const std::string& cell) {
-    constexpr std::size_t kShort = 12;
-    return ColumnsOf(cell) <= kShort || !FigureOf("", cell).Unit.empty();
-}
-
 /// What is short does not break over lines.
 void AddRow(std::string& html, const char* tag, const std::vector<std::string>& row) {
     html += "<tr>";
-    for (const std::string& cell : row) AddCell(html, tag, cell, IsShort(cell) ? " class=\"short\"" : "");
+    for (const std::string& cell : row) AddCell(html, tag, cell, IsShort(cell) ? kShort : "");
     html += "</tr>\n";
 }
 

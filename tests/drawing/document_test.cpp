@@ -84,14 +84,16 @@ TEST(Document, HasWhatIsHeldBesideAndBelow) {
     EXPECT_THAT(TextOf(held), HasSubstr("                     Held\n  Mass   1027 kg     900 kg\n"));
     EXPECT_THAT(TextOf(held), HasSubstr("  1st      3.5   4800 rpm\n  Held     3.6   4900 rpm\n  2nd      2.4\n"));
     EXPECT_THAT(HtmlOf(held), HasSubstr("<th>Held</th></tr>\n<tr><td>Mass</td>"));
-    EXPECT_THAT(HtmlOf(held), HasSubstr("<td>kg</td><td>900 kg</td></tr>"));
+    EXPECT_THAT(HtmlOf(held), HasSubstr("<td class=\"short\">kg</td><td class=\"short\">900 kg</td></tr>"));
     EXPECT_THAT(HtmlOf(held), HasSubstr("<td class=\"short\">3.6</td><td class=\"short\">4900 rpm</td></tr>\n<tr>"));
 }
 
 TEST(Document, StandsAloneAsHtml) {
     const std::string html = HtmlOf(HandMade());
     EXPECT_THAT(html, HasSubstr("<h1>A &amp; B</h1>\n<p>&lt;file&gt;.zolv</p>"));
-    EXPECT_THAT(html, HasSubstr("<tr><td>Mass</td><td class=\"number\" align=\"right\">1027</td><td>kg</td></tr>"));
+    EXPECT_THAT(
+        html,
+        HasSubstr("<tr><td>Mass</td><td class=\"number\" align=\"right\">1027</td><td class=\"short\">kg</td></tr>"));
     EXPECT_THAT(html, HasSubstr("<svg xmlns"));
     EXPECT_THAT(html, Not(HasSubstr("<?xml")));
     EXPECT_THAT(html, Not(HasSubstr("src=")));

@@ -14,14 +14,11 @@ constexpr const char* kStyle =
     "body{font-family:sans-serif;font-size:10pt;color:#282d34;max-width:60em;margin:2em auto;padding:0 1em}"
     "h1{font-size:16pt;margin:0}h2{font-size:12pt;margin:1.2em 0 .3em;border-bottom:1px solid #969ca4}"
     "table{border-collapse:collapse}td,th{padding:1px 12px 1px 0;text-align:left;vertical-align:top}"
-    ".short{white-space:nowrap}td.number{text-align:right}svg{width:100%;height:auto}table."
-    "columns{width:100%}"
-    "table.columns>tbody>tr>td{width:50%}"
-    "@media "
-    "print{.new-page{page-break-before:always}@page{margin:12mm}body{margin:0;padding:0;max-width:none;font-size:7pt}"
-    "h2{font-size:9pt;"
-    "margin-top:.6em}h2,svg{page-break-inside:"
-    "avoid}}";
+    ".short{white-space:nowrap}td.number{text-align:right}svg{width:100%;height:auto}"
+    "table.columns{width:100%}table.columns>tbody>tr>td{width:50%}"
+    // Figures on one page, plots on the next.
+    "@media print{.new-page{page-break-before:always}@page{margin:12mm}h2,svg{page-break-inside:avoid}"
+    "body{margin:0;padding:0;max-width:none;font-size:7pt}h2{font-size:9pt;margin-top:.6em}}";
 
 std::string Escaped(const std::string& text) { return XmlText(text, "\n"); }
 

@@ -41,7 +41,9 @@ TEST_F(Messages, AreSaidInTheWordsInForce) {
         {MissingLines("\n\n\n", "a set-up", 3), "LineEndsChanged()"},
         {CannotWrite("b.csv", ReadTextFile("no such file", 10).reason), "CannotWrite(b.csv|NoSuchFile()|)"},
         {ReadTextFile(".", 10).reason, "IsDirectory()"},
+#ifndef _WIN32
         {ReadTextFile("/dev/null", 10).reason, "NotRegularFile()"},
+#endif
         {ParseOptions("").Reason(), "NotOptions(0|31|)"},
         {outOfRange, "OptionOutOfRange(1|9|0|3|)"},
         {ParseLanguageList("").Reason(), "NotLanguageList()"},

@@ -79,9 +79,14 @@ def type_and_save(display, wine, program, set_up, ratio):
             zolv.kill()
 
 
+KEPT = ("zolv.ini", "set-up.ini")
+
+
 def check_kept(folder, other, ratio):
-    check(f"Gear3: {ratio}" in Path(folder, "zolv.ini").read_text("utf-8"), f"the set-up is not kept in {folder}")
-    check(not Path(other, "zolv.ini").exists(), f"something is kept in {other}")
+    check(Path(folder, "zolv.ini").exists(), f"the visit is not kept in {folder}")
+    check(f"Gear3: {ratio}" in Path(folder, "set-up.ini").read_text("utf-8"), f"the set-up is not kept in {folder}")
+    for name in KEPT:
+        check(not Path(other, name).exists(), f"something is kept in {other}")
 
 
 def main():
@@ -102,7 +107,8 @@ def main():
             check(users, "Wine has no user")
             type_and_save(display, wine, folder / "zolv.exe", set_up, "1.875")
             check_kept(folder, users / "Zolv", "1.875")
-            (folder / "zolv.ini").unlink()
+            for name in KEPT:
+                (folder / name).unlink()
             folder.chmod(0o555)
             write_png(picture, type_and_save(display, wine, folder / "zolv.exe", set_up, "1.625"))
             folder.chmod(0o755)

@@ -12,7 +12,15 @@ namespace {
 /// Has the system's shell run a command whose words are in quotes; returns its exit status, -1 where it has none.
 int StatusOf(const std::string& command) {
 #ifdef _WIN32
-    return std::system(('"' + command + '"').c_str());  // that shell takes the outermost quotes away
+    // That shell takes the outermost quotes away. Under Wine it is now and then not there, or does not see the program,
+    // and is asked again.
+    constexpr int kNoShell = -1;
+    constexpr int kNoProgram = 9009;
+    int status = kNoShell;
+    for (int attempt = 0; attempt < 3 && (status == kNoShell || status == kNoProgram); ++attempt) {
+        status = std::system(('"' + command + '"').c_str());
+    }
+    return status;
 #else
     const int result = std::system(command.c_str());
     return WIFEXITED(result) ? WEXITSTATUS(result) : -1;

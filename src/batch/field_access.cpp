@@ -5,6 +5,7 @@
 
 #include "batch/output.h"
 #include "batch/script_error.h"
+#include "desk/held.h"
 #include "model/whole_number.h"
 #include "text/nearest_name.h"
 #include "text/number_text.h"
@@ -125,7 +126,7 @@ constexpr Property kProperties[] = {
     {"max", [](const Field& field) { return NumberText(SliderOf(field).Max()); }},
     {"rows", RowsOf},
     {"held", [](const Field& field) { return LabelOf(field).Held(); }},
-    {"change", [](const Field& field) { return LabelOf(field).Change(); }},
+    {"change", [](const Field& field) { return ChangeOf(LabelOf(field)); }},
 };
 
 std::string OperationText(const Canvas& canvas, const DrawingOperation& operation) {

@@ -101,6 +101,23 @@ void ShowWhatIsHeld() {
     for (MenuEntry* entry : {&Zolv.SetUpSwap, &Zolv.SetUpRelease}) entry->SetEnabled(held);
 }
 
+bool FollowsFromGears(const Label& figure) {
+    const auto has = [&](auto& row, int first, int last) {
+        for (int i = first; i <= last; ++i) {
+            if (&row[i] == &figure) return true;
+        }
+        return false;
+    };
+    for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
+        const bool reverse = &figure == &panel->SpeedR || &figure == &panel->RPMR || &figure == &panel->TorqueR;
+        if (reverse || has(panel->Result, 1, kGears) || has(panel->RPM, 1, kGears) || has(panel->RAC, 1, kGears - 1) ||
+            has(panel->Torque, 1, kGears)) {
+            return true;
+        }
+    }
+    return has(Zolv.AccDataLabel, 0, Zolv.AccDataLabel.Size() - 1);
+}
+
 }  // namespace
 
 void ShowHeld() {
@@ -146,8 +163,13 @@ BetterWay BetterWayOf(const Label& figure) {
     return BetterWay::Neither;
 }
 
+std::string ChangeOf(const Label& figure) {
+    const bool older = !gearing.WrongOrder.empty() && FollowsFromGears(figure);
+    return older ? std::string() : figure.Change();
+}
+
 std::string TimeLostAtRow(int row) {
-    if (desk.Held == nullptr || !desk.Held->Sheet.WrongOrder.empty()) return {};
+    if (desk.Held == nullptr || !gearing.WrongOrder.empty() || !desk.Held->Sheet.WrongOrder.empty()) return {};
     const double speed = gearing.AccelRows[static_cast<std::size_t>(row)][AccelColumn::Speed];
     const std::optional<double> held = desk.Held->Times.At(speed);
     if (!held) return {};

@@ -64,6 +64,9 @@ void ReleaseHeld();
 enum class BetterWay : std::uint8_t { Neither, Up, Down };
 [[nodiscard]] BetterWay BetterWayOf(const Label& figure);
 
+/// Label::Change, but none for what is older than the inputs while the gears are in the wrong order.
+[[nodiscard]] std::string ChangeOf(const Label& figure);
+
 /// By how much later the present run has the speed of one of its rows than the held run: "+0.12", in seconds, or empty
 /// where no run is held or it does not reach that speed.
 [[nodiscard]] std::string TimeLostAtRow(int row);

@@ -138,6 +138,14 @@ void StartHistory() {
 void Undo() { Move(history.Done, history.Undone); }
 void Redo() { Move(history.Undone, history.Done); }
 
+bool TakeBack(int gesture) {
+    if (gesture == 0 || history.Done.empty() || history.Done.back().Gesture != gesture) return false;
+    Undo();
+    history.Undone.clear();
+    ShowHistory();
+    return true;
+}
+
 void ShowHistory() {
     const struct {
         MenuEntry& entry;

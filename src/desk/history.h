@@ -54,6 +54,10 @@ void StartHistory();
 void Undo();
 void Redo();
 
+/// Undoes the last step where it is that of a gesture, so that nothing of it is left to be done again.
+/// @return whether it was
+bool TakeBack(int gesture);
+
 /// Writes into the two menu entries what they would do, in the language in force.
 void ShowHistory();
 

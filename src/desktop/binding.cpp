@@ -64,23 +64,31 @@ void StepByRatio(QSlider& slider) {
     });
 }
 
-/// Which moves of a slider are one step of the user: a drag, or moves by keys or the wheel that follow each other soon.
-class SliderMoves {
+/// Which moves of a slider are one step of the user: a drag, from press to release, or moves by keys or the wheel that
+/// follow each other soon.
+class SliderMoves : public QObject {
 public:
-    int GestureOf(const QSlider& slider) {
+    explicit SliderMoves(QSlider& slider) : QObject(&slider), slider_(slider) {
+        const auto begin = [this] {
+            gesture_ = NewGesture();
+            last_.invalidate();
+        };
+        connect(&slider, &QSlider::sliderPressed, this, begin);
+        connect(&slider, &QSlider::sliderReleased, this, begin);
+    }
+
+    int GestureOfMove() {
         constexpr qint64 kSoon_ms = 1000;
-        const bool goesOn = last_.isValid() && last_.elapsed() < kSoon_ms;
-        const bool drags = slider.isSliderDown();
-        if (!(drags && dragged_) && (drags || dragged_ || !goesOn)) gesture_ = NewGesture();
-        dragged_ = drags;
+        const bool goesOn = slider_.isSliderDown() || (last_.isValid() && last_.elapsed() < kSoon_ms);
+        if (!goesOn) gesture_ = NewGesture();
         last_.start();
         return gesture_;
     }
 
 private:
+    QSlider& slider_;
     QElapsedTimer last_;
-    bool dragged_ = false;
-    int gesture_ = 0;
+    int gesture_ = NewGesture();
 };
 
 }  // namespace
@@ -181,6 +189,8 @@ void Binding::Bind(Button& field, QPushButton& button) {
 void Binding::Bind(MenuEntry& field, QAction& action) {
     Name(action, field);
     action.setShortcuts(QKeySequence::listFromString(ToQt(field.Shortcut())));
+    // What is taken over from another window can be taken back there.
+    if (&field == &Zolv.EditUndo || &field == &Zolv.EditRedo) action.setShortcutContext(Qt::ApplicationShortcut);
     OnChanged(field, [&] {
         action.setText(ToQt(field.Caption()));
         action.setEnabled(field.Enabled());
@@ -248,11 +258,10 @@ void Binding::Bind(Slider& field, QSlider& slider, const Field* caption) {
         PaintLook(field, slider);
     });
     if (HoldsRatio(field)) StepByRatio(slider);
-    QObject::connect(&slider, &QSlider::valueChanged, this,
-                     [this, &field, &slider, moves = SliderMoves()](int value) mutable {
-                         Input(
-                             field, [&] { field.Drag(value); }, moves.GestureOf(slider));
-                     });
+    QObject::connect(&slider, &QSlider::valueChanged, this, [this, &field, moves = new SliderMoves(slider)](int value) {
+        Input(
+            field, [&] { field.Drag(value); }, moves->GestureOfMove());
+    });
 }
 
 void Binding::Bind(PickList& field, QComboBox& box, const Field* caption) {

@@ -54,7 +54,7 @@ void Desktop::PreselectSystemLanguage() {
 
 void Desktop::Open() {
     PreselectSystemLanguage();
-    binding_.PaintChanged();
+    binding_.Act([] {});  // what follows each act follows the start as well
     binding_.Bind(Zolv, *main_);
 }
 

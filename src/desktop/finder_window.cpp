@@ -164,7 +164,9 @@ QGroupBox* FinderView::MakeResult() {
     figures->addStretch();
     for (Button* button : {&Finder.HoldOld, &Finder.TakeOver}) {
         QPushButton* const ofFind = MakeButton(*button, group);
-        Fields().OnChanged(Finder.Table, [ofFind] { ofFind->setEnabled(finder.Find.has_value()); });
+        for (const Field* field : {static_cast<Field*>(button), static_cast<Field*>(&Finder.Table)}) {
+            Fields().OnChanged(*field, [ofFind] { ofFind->setEnabled(finder.Find.has_value()); });
+        }
         figures->addWidget(ofFind);
     }
     column->addLayout(figures);

@@ -73,8 +73,10 @@ QWidget* MakeWheels(Binding& binding, QWidget* parent) {
     QGroupBox* const box = MakeGroup(binding, Zolv.InfoPanel[kInfoWheels], parent);
     QGridLayout& grid = *MakeRows(box);
     auto& words = Zolv.InfoLabel;
-    grid.addWidget(MakeTitle(binding, words[10], box), 0, 1, Qt::AlignRight);
-    grid.addWidget(MakeTitle(binding, words[11], box), 0, 2, Qt::AlignRight);
+    QLabel* const front = MakeTitle(binding, words[10], box);
+    QLabel* const rear = MakeTitle(binding, words[11], box);
+    grid.addWidget(front, 0, 1, Qt::AlignRight);
+    grid.addWidget(rear, 0, 2, Qt::AlignRight);
     grid.setColumnStretch(0, 1);
     for (const AxleRow& row :
          {AxleRow{words[12], Zolv.Info_RimF, Zolv.Info_RimR}, AxleRow{words[13], Zolv.Info_TWF, Zolv.Info_TWR},
@@ -83,8 +85,11 @@ QWidget* MakeWheels(Binding& binding, QWidget* parent) {
           AxleRow{words[17], Zolv.Info_TrackF, Zolv.Info_TrackR}}) {
         const int line = NextRow(grid);
         grid.addWidget(MakeWords(binding, row.words, box), line, 0);
-        grid.addWidget(MakeFigure(binding, row.front, box, row.widest), line, 1);
+        ValueLabel* const figure = MakeFigure(binding, row.front, box, row.widest);
+        grid.addWidget(figure, line, 1);
         grid.addWidget(MakeFigure(binding, row.rear, box, row.widest), line, 2);
+        // The titles stand above the figures, not above the room of their changes.
+        for (QLabel* title : {front, rear}) title->setContentsMargins(0, 0, figure->contentsMargins().right(), 0);
     }
     return box;
 }

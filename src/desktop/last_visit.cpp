@@ -48,6 +48,10 @@ void LastVisit::BringBack() {
         window.setWindowState(window.windowState() & ~(Qt::WindowFullScreen | Qt::WindowMinimized));
     }
     window.Recent().SetFiles(settings_.value(kRecent).toStringList());
+    window.Recent().WhenChanged([this, &window] {  // not only at the end, which a crash would not reach
+        settings_.setValue(kRecent, window.Recent().Files());
+        settings_.sync();
+    });
     Pick(Zolv.Select_Graphs, settings_.value(kGraph));
     Pick(Zolv.Select_RunView, settings_.value(kRunView));
     Pick(Zolv.Select_Page, settings_.value(kPage));
@@ -64,7 +68,6 @@ void LastVisit::Keep() {
     settings_.setValue(kPage, Zolv.Select_Page.Picked());
     settings_.setValue(kGraph, Zolv.Select_Graphs.Picked());
     settings_.setValue(kRunView, Zolv.Select_RunView.Picked());
-    settings_.setValue(kRecent, desktop_.Main().Recent().Files());
     settings_.beginGroup(kFolders);
     for (const auto& [kind, folder] : dialogs_.Folders().asKeyValueRange()) settings_.setValue(kind.mid(2), folder);
     settings_.endGroup();

@@ -29,6 +29,7 @@ void RecentFiles::Note() {
     files_.removeAll(file);
     files_.prepend(file);
     SetFiles(files_);
+    if (changed_) changed_();
 }
 
 void RecentFiles::Fill() {
@@ -53,6 +54,7 @@ void RecentFiles::Fill() {
     connect(clear, &QAction::triggered, this, [this] {
         files_.clear();
         if (!files.CurrentFileName.empty()) files_.prepend(ToQt(files.CurrentFileName));
+        if (changed_) changed_();
     });
     QAction* const line = add(new QAction(this));
     line->setSeparator(true);

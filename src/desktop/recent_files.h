@@ -2,6 +2,8 @@
 
 #include <QObject>
 #include <QStringList>
+#include <functional>
+#include <utility>
 
 class QAction;
 class QMenu;
@@ -20,6 +22,9 @@ public:
     const QStringList& Files() const { return files_; }
     void SetFiles(const QStringList& list);
 
+    /// @param work  called whenever the list has changed
+    void WhenChanged(std::function<void()> work) { changed_ = std::move(work); }
+
 private:
     void Note();
     void Fill();
@@ -29,6 +34,7 @@ private:
     QAction& before_;
     QList<QAction*> entries_;
     QStringList files_;  // with their whole paths
+    std::function<void()> changed_;
 };
 
 }  // namespace zolv

@@ -50,7 +50,7 @@ SweepView::SweepView(Binding& binding, QWidget* parent) : SecondaryWindow(bindin
     auto* const plot = new LargePlot(SweepPanel.Plot, CanvasShape::Stretched, shown);
     binding.Bind(SweepPanel.Plot, *plot);
     binding.OnChanged(SweepPanel, [plot] { plot->setAccessibleName(ToQt(SweepPanel.Title())); });
-    plot->SetClick([this](double x, double y) { Fields().Act([&] { ClickSweepPoint(x, y); }); });
+    plot->SetClick([this](double x, double y) { Fields().Input(SweepPanel.TakeOver, [&] { ClickSweepPoint(x, y); }); });
     auto* const table = new TextTable(shown);
     binding.Bind(SweepPanel.Table, *table, &SweepPanel.ResultCaption);
     shown->addWidget(plot);

@@ -102,8 +102,8 @@ void TypedBox::Edited() {
 
 void TypedBox::Paused() {
     // A box that has no range would take "" for 0, and the converter would complain of a tyre without a width.
-    const bool waits = composing_ || (slider_ == nullptr && HoldsNumber() && !HasDigit(edit_.text()));
-    if (waits || !user_.IsTypingInto(*this)) return;
+    const bool lacksDigits = slider_ == nullptr && HoldsNumber() && !HasDigit(edit_.text());
+    if (composing_ || lacksDigits || BeginsBelowRange() || !user_.IsTypingInto(*this)) return;
     GiveToField(Moment::Pause);
 }
 
@@ -122,7 +122,13 @@ void TypedBox::GiveToField(Moment moment) {
     }
     if (open && moment == Moment::Pause && StandsFor(typed)) return;
     Rewrite();
-    if (moment == Moment::Pause) edit_.selectAll();  // the next key begins anew
+}
+
+/// "0." on the way to "0.9": cut to the range, a slow hand could not go on from there.
+bool TypedBox::BeginsBelowRange() const {
+    const QString typed = Typed();
+    return slider_ != nullptr && slider_->Min() > 0 && HoldsNumber() && !typed.isEmpty() &&
+           std::ranges::all_of(typed, [](QChar c) { return c == u'0' || c == u'.'; });
 }
 
 /// Whether what was typed is what the field holds, but for its form: "2." on the way to "2.5" is to stay.
@@ -186,9 +192,12 @@ void TypedBox::Restore() {
     user_.TypesNoMoreInto(*this);
     const std::string before = FromQt(*before_);
     before_.reset();
-    // Not by Enter: the program's own text may be longer than what a user may type.
-    user_.Input(
-        field_, [&] { field_.SetText(before); }, gesture_);
+    user_.Act([&] {
+        if (TakeBack(gesture_)) return;  // with all that followed, as a final drive that was raised
+        // Not by Enter: the program's own text may be longer than what a user may type.
+        field_.SetText(before);
+        NoteInput(field_, gesture_);
+    });
     Rewrite();
 }
 

@@ -108,7 +108,8 @@ void ValueLabel::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
     if (standing_ == FigureStanding::Older) return;
     if (HasMark(state_)) PaintMark();
-    if (!change_.isEmpty() && changePlace_ != ChangePlace::None) PaintChange();
+    const bool older = standing_ == FigureStanding::Older;
+    if (!change_.isEmpty() && !older && changePlace_ != ChangePlace::None) PaintChange();
 }
 
 void ValueLabel::PaintMark() {

@@ -16,6 +16,7 @@
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "text/texts.h"
+#include "text/words.h"
 #include "units/unit_state.h"
 #include "vehicle/vehicle_state.h"
 
@@ -134,7 +135,7 @@ void HoldSettingsFile(const std::string& name) {
     const Parsed<SettingsFile> settings = file.readable ? ParseSettings(file.text) : Refusal{file.reason};
     if (!settings) return ShowMessage(CannotRead(name, settings.Reason()));
     const std::optional<CarRecord> car = vehicle.RecordNamed(settings->CarName);
-    if (!car) return ShowMessage(texts.TextCarNotSupported + "\r\n" + texts.TextTryAddingIt);
+    if (!car) return ShowMessage(CannotRead(name, words.Sentence("CarIsGone", {settings->CarName})));
     SetUp setUp = With(PresentSetUp(), *settings, units.Speed.Factor);
     setUp.Car = *car;
     Hold(WithinRanges(std::move(setUp)), NameOfFile(name));

@@ -228,6 +228,11 @@ std::string WriteTextFile(const std::string& path, std::string_view text) {
     return {};
 }
 
+void RemoveFile(const std::string& path) {
+    std::error_code none;
+    fs::remove(PathOf(path), none);
+}
+
 std::string CannotRead(const std::string& path, std::string_view reason) {
     return "Cannot read " + path + ": " + std::string(reason);
 }

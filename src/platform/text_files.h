@@ -47,6 +47,9 @@ FileText ReadTextFile(const std::string& path, std::size_t limit);
 /// @return the reason as words for a message, empty when the file was written
 [[nodiscard]] std::string WriteTextFile(const std::string& path, std::string_view text);
 
+/// Takes a file away, if it is there and that is possible.
+void RemoveFile(const std::string& path);
+
 /// Messages about a file, with the file and the reason: "Cannot read set-up.zolv: No such file or directory".
 [[nodiscard]] std::string CannotRead(const std::string& path, std::string_view reason);
 [[nodiscard]] std::string CannotWrite(const std::string& path, std::string_view reason);

@@ -15,6 +15,8 @@
 namespace zolv {
 namespace {
 
+constexpr std::size_t kLongestRun = 1U << 24U;
+
 bool EndsWith(const std::string& path, std::string_view ending) {
     const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
     return path.size() > ending.size() &&
@@ -26,15 +28,23 @@ std::string Write(const std::string& path, std::string_view text) {
     return reason.empty() ? reason : CannotWrite(path, reason);
 }
 
-/// The rows first: a sheet that is there has them beside it.
+/// The rows first: a sheet that is there has them beside it. Where the sheet cannot be written, the rows are again what
+/// they were.
 std::string WriteCsv(const std::string& path) {
-    if (options.AccelerationOn && RowsOfRun() > 0 && gearing.WrongOrder.empty()) {
-        const std::string failed = Write(RunFileBeside(path), RunAsCsv());
+    const std::string runFile = RunFileBeside(path);
+    const bool hasRun = options.AccelerationOn && RowsOfRun() > 0 && gearing.WrongOrder.empty();
+    const FileText before = hasRun ? ReadTextFile(runFile, kLongestRun) : FileText{};
+    if (hasRun) {
+        const std::string failed = Write(runFile, RunAsCsv());
         if (!failed.empty()) return failed;
     }
     const Document sheet = SetUpSheet();
-    return Write(path, CsvOf(sheet, {words["SheetSection"], words["SheetName"], words["SheetNumber"],
-                                     words["SheetUnit"], words["SheetHeld"]}));
+    const std::string failed =
+        Write(path, CsvOf(sheet, {words["SheetSection"], words["SheetName"], words["SheetNumber"], words["SheetUnit"],
+                                  words["SheetHeld"]}));
+    if (!failed.empty() && before.missing) RemoveFile(runFile);
+    if (!failed.empty() && before.readable) (void)Write(runFile, before.text);
+    return failed;
 }
 
 }  // namespace

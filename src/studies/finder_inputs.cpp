@@ -10,6 +10,8 @@
 #include "model/acceleration_targets.h"
 #include "studies/finder_state.h"
 #include "studies/study_text.h"
+#include "text/caption_name.h"
+#include "text/messages.h"
 #include "text/number_text.h"
 #include "text/words.h"
 #include "units/unit_state.h"
@@ -132,6 +134,35 @@ FinderTask PresentTask() {
     task.Free[FinderInput::FrontWing] = Finder.FreeFrontWing.Checked();
     task.Free[FinderInput::RearWing] = Finder.FreeRearWing.Checked();
     return task;
+}
+
+std::string NoNumberMessage() {
+    const auto check = [](const std::string& name, const TextBox& box) {
+        const bool wrong = !box.Text().empty() && !IsNumber(box.Text());
+        return wrong ? words.Sentence("NotANumber", {name, box.Text()}) : std::string();
+    };
+    const auto captioned = [&](const Field& caption, const TextBox& box) {
+        return check(CaptionName(InWords(caption.Caption())), box);
+    };
+    const auto goal = static_cast<GoalKind>(std::max(0, Finder.Goal.Picked()));
+    const bool between = goal == GoalKind::BetweenSpeeds;
+    std::vector<std::string> messages;
+    if (between) messages.push_back(captioned(Finder.FromSpeedCaption, Finder.FromSpeed));
+    if (between || goal == GoalKind::ToSpeed) messages.push_back(captioned(Finder.ToSpeedCaption, Finder.ToSpeed));
+    if (goal == GoalKind::OverDistance) messages.push_back(captioned(Finder.DistanceCaption, Finder.Distance));
+    if (Finder.WishTopSpeed.Checked()) messages.push_back(captioned(Finder.WishTopSpeed, Finder.TopSpeed));
+    if (Finder.WishDownforce.Checked()) {
+        messages.push_back(captioned(Finder.WishDownforce, Finder.Downforce));
+        messages.push_back(captioned(Finder.WishDownforce, Finder.DownforceSpeed));
+    }
+    const FinderTask task = PresentTask();
+    for (const BoundBoxes& bound : AllBounds()) {
+        for (const TextBox* box : {&bound.low, &bound.high}) {
+            if (task.Free[bound.input] && box->Visible()) messages.push_back(check(NameOf(bound.input), *box));
+        }
+    }
+    const auto first = std::ranges::find_if(messages, [](const std::string& message) { return !message.empty(); });
+    return first == messages.end() ? std::string() : *first;
 }
 
 void LoadFinderInputs() {

@@ -11,6 +11,10 @@ namespace zolv {
 /// Reads: Finder, finder, and what PresentSetUp reads
 [[nodiscard]] FinderTask PresentTask();
 
+/// What stands in a box that the search goes by and is no number, as a message; empty where all are numbers. An empty
+/// box is told otherwise, or bounds nothing.
+[[nodiscard]] std::string NoNumberMessage();
+
 /// Fills the list of goals and the boxes with units.
 void LoadFinderInputs();
 

@@ -40,7 +40,7 @@ TextRow GoalRow(const FinderFind& find) {
     return {Finder.Goal.Rows()[static_cast<std::size_t>(kind)],
             GoalText(kind, before),
             GoalText(kind, after),
-            both ? ChangeText((after.Value - before.Value) * factor, 3) : "N/A",
+            both ? ChangeText(Round(after.Value * factor, 3) - Round(before.Value * factor, 3), 3) : "N/A",
             "",
             ""};
 }
@@ -156,9 +156,12 @@ void LoadFinder() {
 }
 
 void StartFinder() {
+    finderWork.Abandon();
+    finder.Find.reset();
+    End(FinderState::Said::Nothing);
     FinderTask task = PresentTask();
     if (task.Target.Kind == GoalKind::AlongStraights && !ExpectTrack()) return;
-    finder.Find.reset();
+    if (const std::string message = NoNumberMessage(); !message.empty()) return ShowMessage(message);
     finder.Sought = task.Present;
     finder.Done = 0;
     finder.Status = FinderState::Said::Searching;
@@ -202,7 +205,8 @@ void ShowFinder() {
 
 void FollowSetUpInFinder() {
     if (finder.Sought) ShowStatus();
-    if (Finder.Visible()) ShowStraightTimes();
+    // A script that asks for them has no window open.
+    if (Finder.Visible() || !postToFields) ShowStraightTimes();
 }
 
 }  // namespace zolv

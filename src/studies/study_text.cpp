@@ -42,6 +42,11 @@ std::string ChangeText(double change, int decimals) {
     return std::isfinite(change) && Round(change, decimals) > 0 ? '+' + text : text;
 }
 
+bool IsNumber(std::string_view text) {
+    return text.find_first_of("0123456789") != std::string_view::npos &&
+           text.find_first_not_of("0123456789.,+- ") == std::string_view::npos;
+}
+
 std::string SecondsText(double seconds) {
     return std::isfinite(seconds) ? FixedText(seconds, 3) + " s" : FixedText(seconds, 3);
 }

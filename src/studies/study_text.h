@@ -14,6 +14,9 @@ namespace zolv {
 /// FixedText with a sign in front, also of what is above 0.
 [[nodiscard]] std::string ChangeText(double change, int decimals);
 
+/// Whether a box has a number and nothing else, with a point or a comma.
+[[nodiscard]] bool IsNumber(std::string_view text);
+
 /// "26.512 s".
 [[nodiscard]] std::string SecondsText(double seconds);
 

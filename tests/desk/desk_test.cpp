@@ -29,6 +29,12 @@ TEST_F(Desk, ChangesStandBesideFiguresWhileOneIsHeld) {
     EXPECT_EQ(BetterWayOf(Zolv.AccDataLabel[1]), BetterWay::Down);
     EXPECT_EQ(BetterWayOf(Zolv.AccDataLabel[7]), BetterWay::Up);
     EXPECT_EQ(BetterWayOf(Zolv.Aero_TotalDrag), BetterWay::Neither);
+    Give("Gear3", "2");
+    EXPECT_EQ(ChangeOf(Zolv.Ratios.Result[3]), Zolv.Ratios.Result[3].Change());
+    EXPECT_NE(ChangeOf(Zolv.AccDataLabel[1]), "");
+    Give("Gear1", "1.9");  // wrong order: what follows from the gears is older than they are
+    EXPECT_EQ(ChangeOf(Zolv.Ratios.Result[3]) + ChangeOf(Zolv.AccDataLabel[1]), "");
+    EXPECT_EQ(ChangeOf(Zolv.WingAngleRear), "+6");
     ReleaseHeld();
     EXPECT_EQ(Zolv.Ratios.Result[3].Held(), "");
     EXPECT_FALSE(Zolv.Label_Held.Visible());

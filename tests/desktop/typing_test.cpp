@@ -65,6 +65,7 @@ void Typing::TypedAndPaused_data() {
     };
     add("LastDigitAnew", "<6", {}, "2.6", "2.6", 2600);
     add("PointStays", "<", {}, "2.", "2.", 2000);
+    add("ZeroWaits", "*0.", {}, "0.", "0.", 2400);
     add("Emptied", "*<", {}, "", "0.5", 500);
     add("OwnFormStays", "*02.50", {}, "02.50", "02.50", 2500);
     add("FarTooMuch", "*24", {}, "24", "7.5", 7500);
@@ -98,8 +99,11 @@ void Typing::TypedAndPaused() {
     QCOMPARE(ThirdGearSlider(), thousandths);
     if (paused != shown) QCOMPARE(box.cursorPosition(), paused.size());
 
+    QVERIFY(!box.hasSelectedText());
+
     Find<QLineEdit>("Gear1").setFocus();  // and when it is left the number stands there in its own form
-    QCOMPARE(box.text(), QString::number(thousandths / 1000.0));
+    const bool waited = paused == QLatin1String("0.");
+    QCOMPARE(box.text(), waited ? QStringLiteral("0.5") : QString::number(thousandths / 1000.0));
 }
 
 /// What can come while a text is still being typed.
@@ -149,6 +153,13 @@ void Typing::PassingDigitsNeverReachTheSearch() {
     Pause();
     QCOMPARE(Find<QSlider>("Select_Speed1").value(), 17);
     QCOMPARE(Find<QLineEdit>("B_Final").text(), QStringLiteral("4"));
+
+    Press(first, QStringLiteral("*1"));  // a slow hand: Escape takes back what the search made of it
+    Pause();
+    QCOMPARE(Find<QLineEdit>("B_Final").text(), QStringLiteral("7.5"));
+    QTest::keyClick(&first, Qt::Key_Escape);
+    QCOMPARE(Find<QLineEdit>("B_Final").text(), QStringLiteral("4"));
+    QCOMPARE(first.text(), QStringLiteral("16"));  // with which the typing in this box began
 }
 
 void Typing::EscapeBringsTheOldTextBack() {

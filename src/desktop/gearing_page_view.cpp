@@ -114,7 +114,7 @@ private:
 void Fade(QWidget& view, bool faded) {
     if (faded == (view.graphicsEffect() != nullptr)) return;
     auto* const effect = faded ? new QGraphicsOpacityEffect(&view) : nullptr;
-    if (effect != nullptr) effect->setOpacity(0.35);
+    if (effect != nullptr) effect->setOpacity(0.6);
     view.setGraphicsEffect(effect);
 }
 

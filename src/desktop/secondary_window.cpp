@@ -152,6 +152,14 @@ void SecondaryWindow::closeEvent(QCloseEvent* event) {
     binding_.Act([this] { window_.Close(); });
 }
 
+/// One that grows at its lower edge goes up before it leaves the screen.
+void SecondaryWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const QRect room = screen()->availableGeometry();
+    const int beyond = frameGeometry().bottom() - room.bottom();
+    if (isVisible() && beyond > 0) move(x(), std::max(room.top(), y() - beyond));
+}
+
 void SecondaryWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         close();

@@ -133,6 +133,7 @@ void Studies::AClickOnAMapTakesItsInputsOver() {
     // The middle of the view lies a little off that of the plot, which has its numbers on the left and below.
     QVERIFY2(front >= 6 && front <= 9 && rear >= 13 && rear <= 17, qPrintable(QString::number(front)));
     QCOMPARE(Find<QLineEdit>("Point", "Sweep").text(), QString::number(front));
+    QVERIFY(Find<QAction>("EditUndo").isEnabled());  // a step of its own
     QCOMPARE(Find<QLineEdit>("Point2", "Sweep").text(), QString::number(rear));
     Asked().answers = {InFolder("map.png")};
     Press("SavePng", "Sweep");

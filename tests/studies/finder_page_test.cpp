@@ -56,7 +56,7 @@ TEST_F(FinderPage, TellsWhatCannotBeFound) {
         {{{"Finder.WishTopSpeed", "on"}, {"Finder.TopSpeed", "70"}}, "the wished top speed of 70 m/s; the most is 5"},
         {{{"Finder.WishDownforce", "on"}}, "No angle of the wings"},
         {{{"Finder.WishTopSpeed", "on"}, {"Finder.TopSpeed", "fast"}}, "\"fast\" is not a number."},
-        {{{"Finder.LowFinalDrive", "3,9x"}}, "Final Drive: \"3,9x\" is not a number."},
+        {{{"Finder.LowFinalDrive", "3,9x"}}, "Final Drive: \"3.9x\" is not a number."},
     };
     const std::string gearbox = Shown({"Gear1", "Gear4", "GearF"});
     for (const auto& row : kCases) {

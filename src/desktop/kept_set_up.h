@@ -3,6 +3,7 @@
 #include <QSettings>
 #include <QTimer>
 #include <optional>
+#include <string>
 
 #include "model/set_up.h"
 
@@ -20,13 +21,16 @@ public:
     /// In the user's data folder.
     static QString UsersFile();
 
-    /// Behind the load, without a question: lays out what was kept. Of what is broken nothing comes back.
+    /// Behind the load, without a question: lays out what was kept, and adds its car where that is a custom preset. Of
+    /// what is broken nothing comes back; a car that is gone is told.
     void BringBack();
 
     /// Now.
     void Keep();
 
 private:
+    void BringBackPreset(const std::string& car);
+    void KeepPreset(const std::string& car);
     void Watch();
 
     QSettings settings_;

@@ -254,17 +254,21 @@ void ChooseBaseCar() {
     ApplyTyreRule(TyreRuleOf(baseCar));
 }
 
+void AddPresetOf(const std::string& name, const CarFigures& figures) {
+    vehicle.StorePreset(vehicle.PresetsUsed, name, figures);
+    Zolv.Select_Car.Add(name);
+    ++vehicle.PresetsUsed;
+    ShowPresetsUsed();
+    CustomPresets.EditName.Add(name);
+}
+
 void AddPreset() {
     ReadAddPanel(presets.Entry);
     if (!PassesChecks(presets.Entry, true)) return;
 
     const std::string name = CustomPresets.NewName.Text();
     const int baseCar = vehicle.FindCar(CustomPresets.NewCar.Text());
-    vehicle.StorePreset(vehicle.PresetsUsed, name, FiguresOf(presets.Entry, baseCar));
-    Zolv.Select_Car.Add(name);
-    ++vehicle.PresetsUsed;
-    ShowPresetsUsed();
-    CustomPresets.EditName.Add(name);
+    AddPresetOf(name, FiguresOf(presets.Entry, baseCar));
     Tell(presetFollowUps.Stored, texts.TextAddedPreset + " " + name);
 }
 

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "model/car_record.h"
+
 namespace zolv {
 
 class Field;
@@ -27,6 +29,11 @@ void ChooseBaseCar();
 /// Reads:  the add panel
 /// Writes: presets.Entry, vehicle.CustomData/CustomName/PresetsUsed, Select_Car, EditName, PresetsUsed
 void AddPreset();
+
+/// Adds a preset whose name is free, without a question.
+/// @param figures  of a car as the checks let one through; vehicle.PresetsUsed is below kMaxPresets
+/// Writes: what AddPreset writes of the cars and the lists
+void AddPresetOf(const std::string& name, const CarFigures& figures);
 
 /// What is wrong on a panel, and the field that is to be mended.
 struct PresetFault {

@@ -9,12 +9,17 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSettings>
 #include <QSlider>
 #include <QTableView>
+#include <QTemporaryDir>
 
 #include "desktop/kept_set_up.h"
+#include "desktop/texts_of_qt.h"
 #include "desktop/value_label.h"
 #include "suites.h"
+#include "vehicle/custom_presets.h"
+#include "vehicle/vehicle_state.h"
 
 namespace zolv {
 namespace {
@@ -29,6 +34,7 @@ private Q_SLOTS:
     void KeysOfStepsBelongToABoxWhileItIsTypedIn();
     void EscapeLeavesNoStep();
     void WhatWasNotClosedComesBack();
+    void ACustomCarComesBackWithItsSetUp();
     void TitleMarksWhatIsNotSaved();
     void FilesOpenedLastAreListed();
 };
@@ -185,6 +191,30 @@ void Desk::WhatWasNotClosedComesBack() {
     QCOMPARE(Find<QLineEdit>("Gear3").text(), QStringLiteral("1.777"));
     QVERIFY(Find<QCheckBox>("BlowTyres").isChecked());
     QVERIFY(Find<QRadioButton>("UseFixedSpeed").isChecked());
+}
+
+void Desk::ACustomCarComesBackWithItsSetUp() {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("set-up.ini"));
+    Windows().TheBinding().Act([] {
+        CarFigures figures = vehicle.FiguresOfCar(vehicle.FindCar("Sable T"));
+        figures[static_cast<std::size_t>(CarField::Mass)] = 1100;
+        AddPresetOf("Mine", figures);
+    });
+    PickWithKeys(Find<QComboBox>("Select_Car"), "Mine");
+    KeptSetUp(file, Windows().TheBinding()).Keep();
+    Stop();
+    Start();
+    QCOMPARE(vehicle.PresetsUsed, 0);
+    KeptSetUp(file, Windows().TheBinding()).BringBack();
+    QCOMPARE(FromQt(QStringLiteral("Mine")), Zolv.Select_Car.Text());
+    QCOMPARE(vehicle.CurrentCar.Mass, 1100);
+
+    QSettings(file, QSettings::IniFormat).setValue(QStringLiteral("SetUp/Preset"), QStringList{QStringLiteral("1")});
+    Stop();
+    Start();
+    KeptSetUp(file, Windows().TheBinding()).BringBack();
+    QVERIFY(TakeMessage().contains(QLatin1String("Mine")));
 }
 
 void Desk::TitleMarksWhatIsNotSaved() {

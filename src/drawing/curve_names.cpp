@@ -184,7 +184,9 @@ private:
                     box.left = second ? from.x - kAside - box.width : from.x + kAside;
                     box.top = std::min(from.y, to.y) + kAside + box.height * shift;
                 }
-                Weigh(best, box, shift * 0.5 + (second ? 0.1 : 0));
+                // At the right edge it is looked for, whatever curve ends there; only another mark's name sends it
+                // away.
+                Weigh(best, box, shift * (lies ? kCoverCost : 0.5) + (second ? 0.1 : 0));
             }
         }
         if (best) Add(part.name->name, *best, part.name->meaning);

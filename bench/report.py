@@ -213,8 +213,8 @@ def main():
     desktop = build / "bin" / "zolv-desktop-bench"
     if desktop.exists():
         for name, repetitions in run_benchmarks(desktop).items():
-            spoken = re.sub("([a-z])([A-Z])", lambda match: f"{match[1]} {match[2].lower()}", name.split("/")[0])
-            rows.append((f"windows: {spoken.lower()}", text_of(median(repetitions, "real_time")), "by the clock"))
+            spoken = re.sub("(?<!^)(?=[A-Z])", " ", name.split("/")[0]).lower()
+            rows.append((f"windows: {spoken}", text_of(median(repetitions, "real_time")), "by the clock"))
     lines = ["# Performance", "", described,
              f"Times are medians of CPU time over {REPETITIONS} repetitions. A yardstick is the same work as flat loops "
              "without any structure, in `bench/yardstick.cpp`; it gives the same characters.", "",

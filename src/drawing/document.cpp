@@ -122,11 +122,47 @@ void AddCsvLine(std::string& csv, std::vector<std::string> cells, bool held) {
 }
 
 /// The two figures of a line have one unit: a figure that is none ("N/A") has that of the held one.
-void AddCsvFigure(std::string& csv, const std::string& section, const DocumentFigure& figure, bool held) {
+void AddCsvNumber(std::string& csv, const std::string& section, const DocumentFigure& figure, bool held) {
     const DocumentFigure other = FigureOf("", figure.Held);
     const bool none = figure.Number.find_first_of("0123456789") == std::string::npos;
     const std::string& unit = figure.Unit.empty() && none ? other.Unit : figure.Unit;
     AddCsvLine(csv, {section, figure.Name, figure.Number, unit, other.Unit == unit ? other.Number : figure.Held}, held);
+}
+
+/// The numbers of a figure that has several, as "181 kW @ 6021 rpm" or "54.3% Front / 45.7% Rear", each with what
+/// stands behind it; none of a text that is no such figure.
+std::vector<DocumentFigure> NumbersOf(const std::string& text) {
+    std::vector<DocumentFigure> numbers;
+    std::string rest = text;
+    while (!rest.empty()) {
+        const std::size_t at = std::min(rest.find(" @ "), rest.find(" / "));
+        const std::string piece = rest.substr(0, at);
+        const std::size_t end = std::min(piece.find_first_not_of("-.0123456789"), piece.size());
+        if (end == 0 || piece.find(" : ") != std::string::npos) return {};
+        const std::size_t unit = std::min(piece.find_first_not_of(' ', end), piece.size());
+        numbers.push_back({"", piece.substr(0, end), piece.substr(unit)});
+        rest = at == std::string::npos ? std::string() : rest.substr(at + 3);
+    }
+    return numbers;
+}
+
+/// One number a line: what has several is "Power", "Power, 2". Where only one of the two set-ups has numbers, the text
+/// of the other stands beside each.
+void AddCsvFigure(std::string& csv, const std::string& section, const DocumentFigure& figure, bool held) {
+    const std::string beside = Flat(figure.Held);
+    const auto numbers = figure.Unit.empty() ? NumbersOf(figure.Number) : std::vector<DocumentFigure>();
+    const auto others = figure.Unit.empty() ? NumbersOf(beside) : std::vector<DocumentFigure>();
+    const std::size_t count = std::max(numbers.size(), others.size());
+    if (count < 2) return AddCsvNumber(csv, section, figure, held);
+    const bool has = numbers.size() == count;
+    const bool othersHave = others.size() == count;
+    for (std::size_t i = 0; i < count; ++i) {
+        AddCsvLine(csv,
+                   {section, i == 0 ? figure.Name : figure.Name + ", " + std::to_string(i + 1),
+                    has ? numbers[i].Number : figure.Number, has ? numbers[i].Unit : others[i].Unit,
+                    othersHave ? others[i].Number : beside},
+                   held);
+    }
 }
 
 bool HoldsAny(const Document& document) {

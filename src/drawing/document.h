@@ -51,7 +51,7 @@ using PictureMarkup = std::string (*)(const Canvas& picture, std::size_t number)
 /// The same with the pictures as `markup` has them.
 [[nodiscard]] std::string HtmlOf(const Document& document, PictureMarkup markup);
 
-/// As comma-separated values, one figure a line: section, name, number, unit, and where a set-up is held its number.
+/// As comma-separated values, one number a line: section, name, number, unit, and where a set-up is held its number.
 /// A table's rows are figures of the section, named by their first cell and the head of the column. Lines end in CR LF.
 /// @param titles  of the columns, five of them
 [[nodiscard]] std::string CsvOf(const Document& document, const std::vector<std::string>& titles);

@@ -1,6 +1,8 @@
 #include "plots/force_plot.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 #include "desk/held.h"
@@ -94,6 +96,18 @@ void AddDrive(Chart& chart, const Drive& drive, double fastest) {
                            .held = drive.IsHeld()});
 }
 
+/// A limit that lies above all that is shown has no curve to be read from.
+void TellGripAbove(Canvas& plot, const Chart& chart) {
+    double lowest = std::numeric_limits<double>::infinity();
+    for (const ChartSeries& series : chart.series) {
+        if (series.role != Role::GripLimit || series.held) continue;
+        for (const ChartPoint& point : series.points) lowest = std::min(lowest, point.y);
+    }
+    if (!std::isfinite(lowest) || lowest <= chart.y.to) return;
+    const std::string force = units.Force.Text(lowest / units.Force.Factor);
+    plot.AddLegend({words.Sentence("ForceGripAbove", {force}), Role::GripLimit});
+}
+
 bool HasHeldForces() { return desk.Held != nullptr && desk.Held->Sheet.WrongOrder.empty(); }
 
 }  // namespace
@@ -114,6 +128,7 @@ void DrawForcePlot(Canvas& plot) {
     if (HasHeldForces()) AddDrive(chart, {desk.Held->Start, desk.Held->Forces, Standing::Held}, fastest);
     AddDrive(chart, {setup, forces}, fastest);
     DrawChart(chart, plot);
+    TellGripAbove(plot, chart);
     if (HasHeldForces()) PlottedSetUps().AddLegend(plot, Role::Gear1);
     if (!forces.Reached) plot.Print(words["DoesNotMoveOff"]);
 }

@@ -116,6 +116,7 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"FolderUnusable", "The folder {0} cannot be used: {1}"},
     {"Force", "Force"},
     {"ForceGrip", "Limit of grip"},
+    {"ForceGripAbove", "Limit of grip from {0} on"},
     {"ForcePlot.ToolTip", "Discs: from here on the next gear pulls harder. Rings: here you change up."},
     {"ForceReached", "Reaches {0}"},
     {"ForceReachedAtLimiter", "Limiter at {0}"},

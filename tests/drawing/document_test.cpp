@@ -60,11 +60,19 @@ TEST(Document, ReadsBackFromCsvFigureByFigure) {
     Document held = HandMade();
     held.Sections[0].Figures[0].Held = "900 kg";
     held.Sections[0].Figures.push_back({.Name = "0-60", .Number = "N/A", .Held = "6.5s"});
+    held.Sections[0].Figures.push_back({.Name = "Power", .Number = "181 kW @ 6021 rpm", .Held = "90 kW @ 5000 rpm"});
+    held.Sections[0].Figures.push_back({.Name = "Weight", .Number = "54.3% Front / 45.7% Rear"});
+    held.Sections[0].Figures.push_back({.Name = "Lift/Drag", .Number = "3.49 : 1"});
     held.Sections[1].Held = {{}, {"held", "3.6", "4900 rpm"}};
     EXPECT_EQ(ReadCsv(CsvOf(held, titles)), (Lines{titles,
                                                    {"Car", "Mass", "1027", "kg", "900"},
                                                    {"Car", "Name", "\"Pell\", S", "", ""},
                                                    {"Car", "0-60", "N/A", "s", "6.5"},
+                                                   {"Car", "Power", "181", "kW", "90"},
+                                                   {"Car", "Power, 2", "6021", "rpm", "5000"},
+                                                   {"Car", "Weight", "54.3", "% Front", ""},
+                                                   {"Car", "Weight, 2", "45.7", "% Rear", ""},
+                                                   {"Car", "Lift/Drag", "3.49 : 1", "", ""},
                                                    {"Gears", "1st, Ratio", "3.5", "", "3.6"},
                                                    {"Gears", "1st, After", "4800", "rpm", "4900"},
                                                    {"Gears", "2nd, Ratio", "2.4", "", ""}}));

@@ -44,10 +44,13 @@ void ClearHeldFigures() {
     }
 }
 
-/// Gears that the held car lacks have no figures.
-void ClearLackingGears(int numGears) {
+/// Gears that the held car lacks have no figures; a reverse of exactly 1 is none.
+void ClearLackingGears(const CarRecord& car) {
     for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) {
-        for (int gear = numGears + 1; gear <= kGears; ++gear) {
+        if (car.Reverse == 1) {
+            for (Label* label : {&panel->SpeedR, &panel->RPMR, &panel->TorqueR}) label->Write(Showing::Held, {});
+        }
+        for (int gear = car.NumGears + 1; gear <= kGears; ++gear) {
             for (Label* label :
                  {&panel->Result[gear], &panel->RPM[gear], &panel->Torque[gear], &panel->RAC[gear - 1]}) {
                 label->Write(Showing::Held, {});
@@ -62,7 +65,7 @@ void ShowHeldGears(const HeldSetUp& held) {
     if (!sheet.WrongOrder.empty()) return;
     for (GearingPanel* panel : {&Zolv.Ratios, &Zolv.Speeds}) ShowGearsOf(Showing::Held, *panel, sheet.Gears);
     ShowReverseRevs(Showing::Held, sheet.Gears);
-    ClearLackingGears(held.SetUp.Car.NumGears);
+    ClearLackingGears(held.SetUp.Car);
     if (options.AccelerationOn) ShowRunOf(Showing::Held, sheet.Run.Results, sheet.Run.Speed);
 }
 

@@ -125,14 +125,18 @@ std::vector<std::vector<std::string>> HeldGearLines() {
                          panel.Result[gear].Held(), panel.RPM[gear].Held(), gear < last ? panel.RAC[gear].Held() : "",
                          panel.Torque[gear].Held()});
     }
-    lines.push_back({Zolv.GearingLabel[kGearingReverse].Caption(), RoundedText(box.GearRatio[0], 3),
-                     panel.SpeedR.Held(), panel.RPMR.Held(), "", panel.TorqueR.Held()});
+    const float reverse = desk.Held->SetUp.Car.Reverse;
+    if (reverse != 1) {  // the car has one
+        lines.push_back({Zolv.GearingLabel[kGearingReverse].Caption(), NumberText(reverse), panel.SpeedR.Held(),
+                         panel.RPMR.Held(), "", panel.TorqueR.Held()});
+    }
     return lines;
 }
 
 /// Below each gear that of the held set-up; a gear that only the held car has stands alone.
 void AddGears(DocumentSection& section) {
     const auto held = HeldGearLines();
+    if (!held.empty()) section.Held.emplace_back();  // of the head
     const auto lineOf = [](const auto& lines, const std::string& gear) {
         return std::ranges::find_if(lines, [&](const auto& line) { return line.front() == gear; });
     };
@@ -159,7 +163,6 @@ DocumentSection GearSection() {
         section.Figures.push_back({.Name = order.notUpdated, .Number = OrderSentence(order, gear)});
     }
     section.Table.push_back(GearTitles());
-    if (!HeldGearLines().empty()) section.Held.emplace_back();  // of the head
     AddGears(section);
     return section;
 }

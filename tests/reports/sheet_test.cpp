@@ -99,6 +99,15 @@ TEST_F(Sheet, HoldsBesideEachFigureWhatStoodThere) {
     }
 }
 
+TEST_F(Sheet, HasNoReverseOfAHeldCarWithoutOne) {
+    UseCustomCar("Series Mu", {{CarField::Reverse, 1}});
+    HoldPresent();
+    Set("Select_Car", "Pell S");
+    EXPECT_EQ(ColumnOf(2).at("Gearing/Reverse, Ratio"), "7.5");
+    EXPECT_EQ(ColumnOf(4).at("Gearing/Reverse, Ratio"), "");
+    EXPECT_EQ(Zolv.Ratios.SpeedR.Held(), "");
+}
+
 TEST_F(Sheet, LeavesOutWhatDoesNotFollowFromWrongGears) {
     Set("Gear2", "4");
     const std::string text = TextOf(SetUpSheet());

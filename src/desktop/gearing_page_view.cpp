@@ -226,16 +226,17 @@ void GearingPageView::AddTitles(QGridLayout& grid, int mode) {
     add(7, 1, kTorque, 1, right);
 }
 
-/// A gear's name with its colour in front, the same as in the plots and the table.
+/// A gear's name with its colour in front, the same as in the plots and the table. They stand in a widget of their own
+/// that goes with them: a layout within the grid would keep its height on a panel that is not in view.
 void GearingPageView::AddGearName(QGridLayout& grid, int row, Label& name, int gear) {
-    QWidget* const parent = grid.parentWidget();
-    auto* const cell = new QHBoxLayout;
-    cell->setSpacing(kGap / 2 + 2);
-    auto* const chip = new GearChip(gear, parent);
-    cell->addWidget(chip, 0, Qt::AlignVCenter);
-    cell->addWidget(MakeWords(binding_, name, parent), 1);
-    binding_.OnChanged(name, [&name, chip] { chip->setVisible(name.Visible()); });
-    grid.addLayout(cell, row, kName);
+    auto* const cell = new QWidget(grid.parentWidget());
+    auto* const parts = new QHBoxLayout(cell);
+    parts->setContentsMargins(0, 0, 0, 0);
+    parts->setSpacing(kGap / 2 + 2);
+    parts->addWidget(new GearChip(gear, cell), 0, Qt::AlignVCenter);
+    parts->addWidget(MakeWords(binding_, name, cell), 1);
+    binding_.OnChanged(name, [&name, cell] { cell->setVisible(name.Visible()); });
+    grid.addWidget(cell, row, kName);
 }
 
 void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
@@ -476,15 +477,22 @@ void GearingPageView::ShowOrder() {
     log_->SetGreyed(older);
 }
 
+/// A fault is one of two gears. Both boxes are marked; the sentence stands beside the higher gear, which it begins
+/// with.
 void GearingPageView::ShowOrderOf(int mode, int gear, bool older) {
     const GearRow& row = rows_[mode][gear];
-    const bool faulty = older && std::ranges::find(gearing.WrongOrder, gear - 1) != gearing.WrongOrder.end();
+    const auto sentenceOf = [older](int lower) {
+        const bool wrong = older && std::ranges::find(gearing.WrongOrder, lower) != gearing.WrongOrder.end();
+        return wrong ? ToQt(OrderSentence(OrderWordsOf(gearing.From()), lower)) : QString();
+    };
+    const QString here = sentenceOf(gear - 1);
+    const QString above = sentenceOf(gear);
     FigureStanding standing = FigureStanding::Follows;
-    if (older) standing = faulty ? FigureStanding::NotShown : FigureStanding::Older;
+    if (older) standing = here.isEmpty() ? FigureStanding::Older : FigureStanding::NotShown;
     for (ValueLabel* figure : row.figures) figure->SetStanding(standing);
-    row.sentence->setVisible(faulty);
-    if (faulty) row.sentence->setText(ToQt(OrderSentence(OrderWordsOf(gearing.From()), gear - 1)));
-    MarkFault(*row.box, faulty ? row.sentence->text() : QString());
+    row.sentence->setVisible(!here.isEmpty());
+    if (!here.isEmpty()) row.sentence->setText(here);
+    MarkFault(*row.box, here.isEmpty() ? above : here);
 }
 
 }  // namespace zolv

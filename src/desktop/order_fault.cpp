@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QPainter>
+#include <QStringList>
 #include <functional>
 
 #include "desktop/binding.h"
@@ -16,12 +17,15 @@ namespace {
 
 constexpr int kGearingPage = 1;
 
-/// "Speeds have NOT been updated: The ratio for 2nd cannot be shorter than the ratio for 1st".
+/// "Speeds have NOT been updated: The ratio for 2nd cannot be shorter than the ratio for 1st", and so on for each
+/// fault.
 QString Headline() {
     const OrderWords said = OrderWordsOf(gearing.From());
     QString headline = ToQt(said.notUpdated);
     while (!headline.isEmpty() && headline.back().isPunct()) headline.chop(1);  // some languages go on with a comma
-    return headline + QStringLiteral(": ") + ToQt(OrderSentence(said, gearing.WrongOrder.front()));
+    QStringList sentences;
+    for (const int gear : gearing.WrongOrder) sentences.append(ToQt(OrderSentence(said, gear)));
+    return headline + QStringLiteral(": ") + sentences.join(QStringLiteral("; "));
 }
 
 }  // namespace

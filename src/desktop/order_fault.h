@@ -11,8 +11,8 @@ class Binding;
 /// `paint` runs now and whenever that may have changed.
 void OnOrderChanged(Binding& binding, const std::function<void()>& paint);
 
-/// A line at the top of every page: that figures have not been updated, and which gear is the
-/// reason. A press leads to that gear's box.
+/// A line at the top of every page: that figures have not been updated, and which gears are the reason. A press leads
+/// to the first one's box.
 class OrderFaultLine : public QPushButton {
 public:
     OrderFaultLine(Binding& binding, QWidget* parent);

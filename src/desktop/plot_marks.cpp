@@ -7,6 +7,7 @@
 #include "desktop/canvas_painting.h"
 #include "desktop/texts_of_qt.h"
 #include "drawing/curve_reading.h"
+#include "drawing/reading_box.h"
 
 namespace zolv {
 namespace {
@@ -54,17 +55,6 @@ void PaintWords(QPainter& painter, const PlacedWords& words, const QColor& ink) 
     painter.setPen(words.onPlot ? ToQt(words.colour) : ink);
     painter.drawText(box, static_cast<int>(AlignmentOf(words.anchor) | Qt::AlignVCenter) | Qt::TextDontClip,
                      ToQt(words.text));
-}
-
-/// Up and right of the pointer, on another side where there is no room.
-QRectF ReadingBox(const QPointF& pointer, const QSizeF& size, const QRectF& bounds) {
-    constexpr double kOffset = 12;
-    QRectF box(QPointF(pointer.x() + kOffset, pointer.y() - kOffset - size.height()), size);
-    if (box.right() > bounds.right()) box.moveRight(pointer.x() - kOffset);
-    if (box.top() < bounds.top()) box.moveTop(pointer.y() + kOffset);
-    box.moveLeft(std::max(bounds.left(), std::min(box.left(), bounds.right() - box.width())));
-    box.moveTop(std::max(bounds.top(), std::min(box.top(), bounds.bottom() - box.height())));
-    return box;
 }
 
 void PaintCross(QPainter& painter, const QRectF& ground, const Crosshair& crosshair) {
@@ -143,7 +133,8 @@ void PaintCrosshair(QPainter& painter, const Canvas& canvas, const PlotPlace& pl
     const double height = metrics.height();
     const QSizeF size(names + kBetween + values + 4 * kPadding,
                       static_cast<double>(lines.size()) * height + 2 * kPadding);
-    const QRectF box = ReadingBox({crosshair.x, crosshair.y}, size, bounds);
+    const QRectF box = ToQt(ReadingBox(canvas, place, {crosshair.x, crosshair.y}, {size.width(), size.height()},
+                                       {bounds.x(), bounds.y(), bounds.width(), bounds.height()}));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(140, 147, 156), 1));
     painter.setBrush(QColor(255, 255, 255, 240));

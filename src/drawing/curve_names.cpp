@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "drawing/occupancy.h"
 #include "drawing/palette.h"
 #include "text/number_text.h"
 
@@ -15,77 +16,12 @@ namespace {
 constexpr double kAside = 3;    // from a line to its name
 constexpr double kPadding = 1;  // beside the words
 
-struct ViewPoint {
-    double x = 0, y = 0;
-};
-
-/// Where lines and names lie on the ground, in cells of a few pixels.
-class Occupancy {
-public:
-    explicit Occupancy(const Box& ground)
-        : ground_(ground),
-          columns_(std::max(1, static_cast<int>(std::min(ground.width / kCell, kMostCells)) + 1)),
-          rows_(std::max(1, static_cast<int>(std::min(ground.height / kCell, kMostCells)) + 1)),
-          cells_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_), 0) {}
-
-    void TakeLine(ViewPoint from, ViewPoint to) {
-        const double length = std::max(std::fabs(to.x - from.x), std::fabs(to.y - from.y));
-        const int steps = static_cast<int>(length / kCell) + 1;
-        for (int i = 0; i <= steps; ++i) {
-            const double share = static_cast<double>(i) / steps;
-            Cell(Column(from.x + (to.x - from.x) * share), Row(from.y + (to.y - from.y) * share)) = 1;
-        }
-    }
-
-    /// The share of a box that lines cross, 0 to 1.
-    [[nodiscard]] double ShareTaken(const Box& box) const {
-        const int left = Column(box.left);
-        const int right = Column(box.Right());
-        const int top = Row(box.top);
-        const int bottom = Row(box.Bottom());
-        int taken = 0;
-        for (int row = top; row <= bottom; ++row) {
-            for (int column = left; column <= right; ++column) taken += Cell(column, row);
-        }
-        return static_cast<double>(taken) / ((right - left + 1) * (bottom - top + 1));
-    }
-
-private:
-    static constexpr double kCell = 3;
-    static constexpr double kMostCells = 2000;
-
-    [[nodiscard]] int Column(double x) const {
-        return std::clamp(static_cast<int>((x - ground_.left) / kCell), 0, columns_ - 1);
-    }
-    [[nodiscard]] int Row(double y) const {
-        return std::clamp(static_cast<int>((y - ground_.top) / kCell), 0, rows_ - 1);
-    }
-    [[nodiscard]] std::uint8_t& Cell(int column, int row) {
-        return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-                      static_cast<std::size_t>(column)];
-    }
-    [[nodiscard]] std::uint8_t Cell(int column, int row) const {
-        return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-                      static_cast<std::size_t>(column)];
-    }
-
-    Box ground_;
-    int columns_, rows_;
-    std::vector<std::uint8_t> cells_;
-};
-
 /// What is seen of a named mark or curve: its points in the view, in the order drawn.
 struct SeenPart {
     const PartName* name = nullptr;
     std::vector<ViewPoint> points;  // the last one is missing while its line goes on
     ViewPoint end{};
 };
-
-Box Inside(Box box, const Box& ground) {
-    box.left = std::clamp(box.left, ground.left, std::max(ground.left, ground.Right() - box.width));
-    box.top = std::clamp(box.top, ground.top, std::max(ground.top, ground.Bottom() - box.height));
-    return box;
-}
 
 class NamePlacer {
 public:

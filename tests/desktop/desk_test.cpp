@@ -49,29 +49,16 @@ void PressKeys(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 QString ChangeOf(const char* figure) { return Find<ValueLabel>(figure).Change(); }
 
 void Desk::HoldingMovesNothingAndShowsChanges() {
-    const auto places = [] {
-        std::map<QString, QRect> all;
-        for (const QWidget* widget : WindowNamed("Zolv").findChildren<QWidget*>()) {
-            const bool strip = widget->objectName().contains(QLatin1String("Held"));
-            if (widget->isVisible() && !widget->objectName().isEmpty() && !strip) {
-                all[widget->objectName()] = QRect(widget->mapToGlobal(QPoint()), widget->size());
-            }
-        }
+    const auto places = [] {  // the strip itself comes and goes
+        std::map<QString, QRect> all = PlacesOf(WindowNamed("Zolv"));
+        std::erase_if(all, [](const auto& one) { return one.first.contains(QLatin1String("Held")); });
         return all;
     };
     ClickTab("Select_Page", 1);
     Find<QLineEdit>("Gear1").setFocus();
     Settle();
     const auto before = places();
-    const auto moved = [&] {
-        QStringList names;
-        const auto now = places();
-        for (const auto& [name, place] : now) {
-            const auto was = before.find(name);
-            if (was == before.end() || was->second != place) names << name;
-        }
-        return now.size() == before.size() ? names : names << QStringLiteral("another number of widgets");
-    };
+    const auto moved = [&] { return MovedSince(before, places()); };
     PressKeys(Qt::Key_H, Qt::ControlModifier);
     QVERIFY(Find<QLabel>("Label_Held").text().startsWith(QLatin1String("Held: Pell S, ")));
     SelectAllAndType(Find<QLineEdit>("Gear3"), "1.9");

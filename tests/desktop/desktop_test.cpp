@@ -225,6 +225,27 @@ std::map<QString, QString> TextsOf(QWidget& window) {
     return read;
 }
 
+std::map<QString, QRect> PlacesOf(QWidget& window) {
+    std::map<QString, QRect> places;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->objectName().isEmpty()) continue;
+        places[widget->objectName()] = QRect(widget->mapToGlobal(QPoint()), widget->size());
+    }
+    return places;
+}
+
+QStringList MovedSince(const std::map<QString, QRect>& before, const std::map<QString, QRect>& now) {
+    QStringList names;
+    for (const auto& [name, place] : now) {
+        const auto was = before.find(name);
+        if (was == before.end() || was->second != place) names << name;
+    }
+    for (const auto& [name, place] : before) {
+        if (!now.contains(name)) names << name;
+    }
+    return names;
+}
+
 QStringList CutOff(QWidget& window) {
     QStringList cut;
     for (const QWidget* widget : window.findChildren<QWidget*>()) {

@@ -111,6 +111,12 @@ void Settle();
 /// rows of lists, tabs, menu entries, tool tips, the title.
 std::map<QString, QString> TextsOf(QWidget& window);
 
+/// Where each widget with a name that is in view stands on the screen.
+std::map<QString, QRect> PlacesOf(QWidget& window);
+
+/// The names of those that came, went or moved meanwhile.
+QStringList MovedSince(const std::map<QString, QRect>& before, const std::map<QString, QRect>& now);
+
 /// Figures and words in view that their widgets have no room for. A box may hold more than it shows.
 QStringList CutOff(QWidget& window);
 

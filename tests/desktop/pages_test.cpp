@@ -128,10 +128,13 @@ void Pages::WrongOrderIsSaidForAsLongAsItLasts() {
     ClickTab("Select_Page", 1);
     QVERIFY(!line.isVisible());
     PickWithKeys(Find<QComboBox>("Select_Graphs"), 2);
+    Enter("Gear2", "2.4");
+    const auto before = PlacesOf(WindowNamed("Zolv"));
     Enter("Gear2", "4");
     QVERIFY(line.isVisible());
     QVERIFY(line.text().endsWith(QStringLiteral("The ratio for 2nd cannot be shorter than the ratio for 1st")));
     QVERIFY(Find<QLineEdit>("Gear2").property("faulty").toBool());
+    QVERIFY(Find<QLineEdit>("Gear1").property("faulty").toBool());  // the other one of the two
     QVERIFY(!Find<QLineEdit>("Gear3").property("faulty").toBool());
     QVERIFY(Find<QLineEdit>("Gear2").accessibleDescription().contains(QStringLiteral("2nd")));
     for (const char* figure : {"Speed1", "Torque3", "AccDataLabel(0)", "SpeedR"}) QVERIFY2(IsGreyed(figure), figure);
@@ -147,7 +150,15 @@ void Pages::WrongOrderIsSaidForAsLongAsItLasts() {
     Enter("Gear2", "2.4");
     QVERIFY(!line.isVisible());
     QVERIFY(!Find<QLineEdit>("Gear2").property("faulty").toBool());
+    QVERIFY(!Find<QLineEdit>("Gear1").property("faulty").toBool());
     QVERIFY(!IsGreyed("Speed1"));
+    PickWithKeys(Find<QComboBox>("Select_Graphs"), 2);  // which gave way to the report
+    ExpectNone(MovedSince(before, PlacesOf(WindowNamed("Zolv"))));
+
+    // Each fault is told.
+    Enter("Gear2", "4");
+    Enter("Gear5", "2");
+    QVERIFY(line.text().contains(QStringLiteral("for 2nd ")) && line.text().contains(QStringLiteral("for 5th ")));
 }
 
 void Pages::MarksSayWhy() {

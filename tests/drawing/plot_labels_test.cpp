@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "drawing/curve_reading.h"
+#include "drawing/reading_box.h"
 #include "drawing/stroke_style.h"
 
 namespace zolv {
@@ -183,6 +184,37 @@ TEST_F(PlotOfTime, ReadsEachCurveThatPasses) {
     EXPECT_TRUE(ShareX(canvas, other));
     other.SetAxes({.scale = 1, .title = "Time", .unit = "min"}, {.scale = 1});
     EXPECT_FALSE(ShareX(canvas, other));
+}
+
+TEST_F(PlotOfTime, ReadingsStandWhereTheyCoverNoCurve) {
+    const PlotPlace place = Place({600, 400});
+    const Box& ground = place.ground;
+    const Box view{0, 0, 600, 400};
+    constexpr ViewSize kSize{120, 60};
+    const ViewPoint middle{ground.CentreX(), ground.CentreY()};
+    const auto box = [&](ViewPoint pointer) { return ReadingBox(canvas, place, pointer, kSize, view); };
+    const auto side = [&](ViewPoint pointer) {
+        const Box found = box(pointer);
+        return std::string(found.Bottom() < pointer.y ? "above " : "below ") +
+               (found.left > pointer.x ? "right" : "left");
+    };
+
+    EXPECT_EQ(side(middle), "above right");
+    EXPECT_EQ(side({ground.Right() - 5, middle.y}), "above left");
+    EXPECT_EQ(side({middle.x, ground.top + 5}), "below right");
+    EXPECT_EQ(side({ground.Right() - 5, ground.top + 5}), "below left");
+
+    // A falling curve through the pointer leaves the room above right; one that rises from there does not. Where one
+    // falls and one rises on both sides, a corner of the ground is free.
+    Curve({Role::Torque}, "falling", 25, 7.5, 75, 2.5);
+    EXPECT_EQ(side(middle), "above right");
+    Curve({Role::Power}, "rising", 50, 5, 75, 7.5);
+    EXPECT_EQ(side(middle), "below left");
+    Curve({Role::Power}, "rising", 25, 2.5, 50, 5);
+    const Box corner = box(middle);
+    EXPECT_NEAR(corner.Right(), ground.Right(), 10);
+    EXPECT_NEAR(corner.Bottom(), ground.Bottom(), 10);
+    EXPECT_EQ(side({ground.Right() - 5, ground.Bottom() - 5}), "above left");
 }
 
 }  // namespace

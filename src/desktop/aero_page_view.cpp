@@ -132,9 +132,15 @@ QWidget* MakeFitting(Binding& binding, int panel, int firstWords, FittingLabels&
 QLayout* MakeColumn(std::initializer_list<QWidget*> groups) {
     auto* const column = new QVBoxLayout;
     column->setSpacing(kSection);
-    for (QWidget* const group : groups) column->addWidget(group);
+    for (QWidget* const group : groups) {
+        group->setMaximumWidth(kWidestColumn);
+        column->addWidget(group);
+    }
     column->addStretch(1);
-    return column;
+    auto* const room = new QHBoxLayout;
+    room->addLayout(column, 1);
+    room->addStretch();
+    return room;
 }
 
 /// Drag and downforce over the speed. It is drawn anew with whatever it follows from: the speed in force, the wings,
@@ -176,13 +182,7 @@ void Fill(Binding& binding, Canvas& canvas, QWidget* page) {
 }  // namespace
 
 AeroPageView::AeroPageView(Binding& binding, QWidget* parent) : QWidget(parent) {
-    auto* const room = new QHBoxLayout(this);
-    room->setContentsMargins(0, 0, 0, 0);
-    auto* const page = new QWidget(this);
-    page->setMaximumWidth(3 * kWidestColumn + 2 * kSection + 2 * kMargin);
-    room->addWidget(page, 1);
-    room->addStretch();
-    Fill(binding, plot_, page);
+    Fill(binding, plot_, this);
 }
 
 }  // namespace zolv

@@ -149,7 +149,8 @@ GearingPageView::GearingPageView(Binding& binding, QWidget* parent) : QWidget(pa
 
     auto* const left = new QVBoxLayout;
     left->setSpacing(kSection);
-    columns->addLayout(left, 2);
+    // The sliders move by less a pixel the longer they are; the plots have more than half all the same.
+    columns->addLayout(left, 47);
     left->addWidget(MakeDirections());
     left->addWidget(MakePanels());
     left->addWidget(MakeAdvice());
@@ -157,7 +158,7 @@ GearingPageView::GearingPageView(Binding& binding, QWidget* parent) : QWidget(pa
 
     auto* const right = new QVBoxLayout;
     right->setSpacing(kGap);
-    columns->addLayout(right, 3);
+    columns->addLayout(right, 53);
     right->addWidget(MakeViews());
     right->addWidget(MakeChoices());
     right->addWidget(MakePlots(), 1);

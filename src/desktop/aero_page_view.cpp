@@ -181,8 +181,6 @@ void Fill(Binding& binding, Canvas& canvas, QWidget* page) {
 
 }  // namespace
 
-AeroPageView::AeroPageView(Binding& binding, QWidget* parent) : QWidget(parent) {
-    Fill(binding, plot_, this);
-}
+AeroPageView::AeroPageView(Binding& binding, QWidget* parent) : QWidget(parent) { Fill(binding, plot_, this); }
 
 }  // namespace zolv

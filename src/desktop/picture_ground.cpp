@@ -5,20 +5,26 @@
 #include <cstdlib>
 #include <vector>
 
+#include "desktop/colours.h"
+
 namespace zolv {
 namespace {
 
 constexpr int kBright = 190;  // the darkest channel of a plate
-constexpr int kNear = 60;     // how far a pixel of the plate may be from the plate's colour at the edge of its row
+constexpr int kNear = 47;     // how far a pixel of the plate may be from the plate's colour at the edge of its row
+constexpr int kBrighter = 9;  // and how much brighter; a white headlight at the edge of a car is none of the plate
+constexpr QPoint kSteps[] = {{1, 0}, {-1, 0}, {0, 1}, {0, -1}};
 
 int Distance(QRgb one, QRgb other) {
     return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
                      std::abs(qBlue(one) - qBlue(other))});
 }
 
-bool IsBright(QRgb colour) { return std::min({qRed(colour), qGreen(colour), qBlue(colour)}) >= kBright; }
+int Darkest(QRgb colour) { return std::min({qRed(colour), qGreen(colour), qBlue(colour)}); }
 
-/// The pixels of the plate, found from the left and right edges inward.
+bool IsBright(QRgb colour) { return Darkest(colour) >= kBright; }
+
+/// The pixels of the plate, found from the left and right edges inward, and from where it is seen through the car.
 class Plate {
 public:
     explicit Plate(const QImage& picture)
@@ -28,16 +34,35 @@ public:
             Visit({0, y});
             Visit({picture.width() - 1, y});
         }
+        Spread();
+        for (int y = 1; y < picture.height() - 1; ++y) {
+            for (int x = 1; x < picture.width() - 1; ++x) {
+                if (!Has({x, y}) && IsSeenThrough({x, y})) Visit({x, y});
+            }
+        }
+        Spread();
+    }
+
+    bool Has(QPoint at) const { return picture_.rect().contains(at) && found_[Index(at)]; }
+
+private:
+    void Spread() {
         while (!open_.empty()) {
             const QPoint at = open_.back();
             open_.pop_back();
-            for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) Visit(at + step);
+            for (const QPoint step : kSteps) Visit(at + step);
         }
     }
 
-    bool Has(QPoint at) const { return found_[Index(at)]; }
+    /// Whether a pixel and those beside it have the very colour of the plate, but for what compression left of it.
+    bool IsSeenThrough(QPoint at) const {
+        constexpr int kSame = 3;
+        const QRgb plate = picture_.pixel(0, 0);
+        return Distance(picture_.pixel(at), plate) <= kSame && std::ranges::all_of(kSteps, [&](QPoint step) {
+                   return Distance(picture_.pixel(at + step), plate) <= kSame;
+               });
+    }
 
-private:
     std::size_t Index(QPoint at) const {
         return static_cast<std::size_t>(at.y()) * static_cast<std::size_t>(picture_.width()) +
                static_cast<std::size_t>(at.x());
@@ -45,7 +70,10 @@ private:
 
     void Visit(QPoint at) {
         if (!picture_.rect().contains(at) || found_[Index(at)]) return;
-        if (Distance(picture_.pixel(at), picture_.pixel(0, at.y())) > kNear) return;
+        const QRgb plate = picture_.pixel(0, at.y());
+        if (Distance(picture_.pixel(at), plate) > kNear) return;
+        const int brightest = std::max(Darkest(plate), Darkest(picture_.pixel(0, 0)));  // a row may be the road's edge
+        if (Darkest(picture_.pixel(at)) > brightest + kBrighter) return;
         found_[Index(at)] = true;
         open_.push_back(at);
     }
@@ -62,6 +90,21 @@ QRgb Shifted(QRgb pixel, QRgb plate, const QColor& ground) {
                 shift(qBlue(pixel), qBlue(plate), ground.blue()));
 }
 
+/// A pixel at the rim of the car, where its colour and the plate's run into each other, with the ground in the plate's
+/// place. The car's own colour is taken from two pixels further in.
+QRgb Rim(const QImage& picture, const Plate& plate, QPoint at, const QColor& ground) {
+    for (const QPoint step : kSteps) {
+        const QPoint inside = at + 2 * step;
+        if (!plate.Has(at - step) || plate.Has(inside) || !picture.rect().contains(inside)) continue;
+        const QRgb outside = picture.pixel(picture.rect().contains(at - 2 * step) ? at - 2 * step : at - step);
+        const int whole = Distance(picture.pixel(inside), outside);
+        if (whole == 0) continue;
+        const double share = std::min(1.0, static_cast<double>(Distance(picture.pixel(at), outside)) / whole);
+        return Blend(QColor(picture.pixel(inside)), ground, share).rgb();
+    }
+    return picture.pixel(at);
+}
+
 }  // namespace
 
 QImage OnGround(const QImage& picture, const QColor& ground) {
@@ -71,11 +114,13 @@ QImage OnGround(const QImage& picture, const QColor& ground) {
     const bool hasPlate = IsBright(plate) && IsBright(changed.pixel(0, changed.height() - 1)) &&
                           Distance(plate, changed.pixel(changed.width() - 1, 0)) < kNear;
     if (!hasPlate) return picture;
-    const Plate found(changed);
     const QImage before = changed.copy();
+    const Plate found(before);
     for (int y = 0; y < changed.height(); ++y) {
         for (int x = 0; x < changed.width(); ++x) {
-            if (found.Has({x, y})) changed.setPixel(x, y, Shifted(before.pixel(x, y), plate, ground));
+            const QPoint at(x, y);
+            changed.setPixel(at,
+                             found.Has(at) ? Shifted(before.pixel(at), plate, ground) : Rim(before, found, at, ground));
         }
     }
     return changed;

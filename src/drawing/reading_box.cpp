@@ -20,8 +20,8 @@ Occupancy CurvesOf(const Canvas& canvas, const PlotPlace& place) {
 }  // namespace
 
 Box ReadingBox(const Canvas& canvas, const PlotPlace& place, ViewPoint pointer, ViewSize size, const Box& bounds) {
-    constexpr double kOffset = 12;        // from the pointer
-    constexpr double kInset = 6;          // from the corners of the ground
+    constexpr double kOffset = 12;         // from the pointer
+    constexpr double kInset = 6;           // from the corners of the ground
     constexpr double kReluctance = 0.004;  // to stand at a later place: the share of the box that a curve would cover
     constexpr double kToCorner = 0.012;    // and to leave the pointer
     const Occupancy curves = CurvesOf(canvas, place);

@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -14,6 +15,7 @@
 #include <QTabBar>
 #include <cmath>
 
+#include "desktop/picture_ground.h"
 #include "desktop/run_table.h"
 #include "desktop/theme.h"
 #include "suites.h"
@@ -27,6 +29,7 @@ class Pages : public DesktopTest {
 private Q_SLOTS:
     void WordsStandOutFromEachGround_data();
     void WordsStandOutFromEachGround();
+    void PlateBehindACarIsTheGroundAndTheCarIsNot();
     void SelectionOfTheRunIsCopiedAsNumbers();
     void RunIsExportedFromItsPage();
     void WrongOrderIsSaidForAsLongAsItLasts();
@@ -82,6 +85,31 @@ void Pages::WordsStandOutFromEachGround() {
 void ShowTable() {
     ClickTab("Select_Page", 1);
     PickWithKeys(Find<QComboBox>("Select_Graphs"), 2);
+}
+
+void Pages::PlateBehindACarIsTheGroundAndTheCarIsNot() {
+    const QColor plate(234, 239, 245);
+    const QColor cover(183, 192, 201);
+    const QColor ground(30, 34, 38);
+    QImage picture(60, 40, QImage::Format_RGB32);
+    picture.fill(plate);
+    QPainter painter(&picture);
+    painter.fillRect(10, 10, 40, 20, cover);
+    painter.fillRect(10, 12, 6, 4, Qt::white);               // a headlight at the edge
+    painter.fillRect(30, 14, 8, 8, plate);                   // seen through the car
+    painter.fillRect(10, 30, 40, 2, QColor(191, 201, 210));  // a shadow
+    painter.fillRect(40, 10, 10, 20, QColor(240, 178, 46));
+    painter.fillRect(40, 9, 10, 1, QColor(237, 208, 145));  // its rim: half its colour, half the plate's
+    painter.end();
+
+    const QImage shown = OnGround(picture, ground);
+    for (const QPoint at : {QPoint(0, 0), QPoint(59, 39), QPoint(33, 17)}) QCOMPARE(shown.pixelColor(at), ground);
+    QCOMPARE(shown.pixelColor(25, 20), cover);
+    QCOMPARE(shown.pixelColor(12, 13), QColor(Qt::white));
+    QVERIFY(shown.pixelColor(25, 31).lightness() < ground.lightness());
+    const QColor rim = shown.pixelColor(45, 9);
+    QVERIFY(std::abs(rim.red() - 135) < 3 && std::abs(rim.green() - 106) < 3 && std::abs(rim.blue() - 42) < 3);
+    QCOMPARE(OnGround(shown, ground), shown);  // a dark picture has no plate
 }
 
 void Pages::SelectionOfTheRunIsCopiedAsNumbers() {

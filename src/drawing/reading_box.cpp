@@ -26,6 +26,8 @@ Box ReadingBox(const Canvas& canvas, const PlotPlace& place, ViewPoint pointer, 
     constexpr double kToCorner = 0.012;    // and to leave the pointer
     const Occupancy curves = CurvesOf(canvas, place);
     const Box& ground = place.ground;
+    const bool fits = size.width <= ground.width && size.height <= ground.height;
+    const Box& room = fits ? ground : bounds;
     const double right = pointer.x + kOffset;
     const double left = pointer.x - kOffset - size.width;
     const double above = pointer.y - kOffset - size.height;
@@ -49,7 +51,7 @@ Box ReadingBox(const Canvas& canvas, const PlotPlace& place, ViewPoint pointer, 
     Box best{};
     std::optional<double> least;
     for (const Corner& corner : corners) {
-        const Box box = Inside({corner.at.x, corner.at.y, size.width, size.height}, bounds);
+        const Box box = Inside({corner.at.x, corner.at.y, size.width, size.height}, room);
         const bool covers = Box{pointer.x, pointer.y, 0, 0}.Meets(box);
         const double cost = corner.reluctance + curves.ShareTaken(box) + (covers ? 1 : 0);
         if (least && cost >= *least) continue;

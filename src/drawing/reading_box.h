@@ -9,7 +9,7 @@ namespace zolv {
 /// the pointer unless it is larger than the room on every side.
 /// @param pointer  on the ground, in the view
 /// @param size     of the box
-/// @param bounds   what the box stays in: the view
+/// @param bounds   the view, which the box stays in where the ground is too small for it
 [[nodiscard]] Box ReadingBox(const Canvas& canvas, const PlotPlace& place, ViewPoint pointer, ViewSize size,
                              const Box& bounds);
 

@@ -268,6 +268,11 @@ FinderResult FindBest(const FinderTask& task, const std::stop_token& stop, const
         result.Fault = FinderFault::Goal;
         return result;
     }
+    const FinderWishes& wishes = task.Wishes;
+    if (wishes.TopSpeed.value_or(1) <= 0 || (wishes.Downforce && wishes.Downforce->Speed <= 0)) {
+        result.Fault = FinderFault::WishAtNoSpeed;
+        return result;
+    }
     const Trial trial(task);
     result.Before = trial.PresentValue();
     result.Fault = trial.Fault();

@@ -72,7 +72,9 @@ enum class FinderFault : std::uint8_t {
     None,
     Goal,  // FaultOf(Target) says what
     NothingFree,
-    BoundsLeaveNothing,  // for the input: no step lies within them, or none in the order of the gears
+    WishAtNoSpeed,       // one for a speed, or for downforce at one, that is not above 0
+    BoundsHoldNoStep,    // for the input: no value that the simulator takes lies within them
+    BoundsLeaveNothing,  // for the gear: none of those is in order with its neighbours
     WishesLeaveNothing,  // no angle of the wings gives the downforce and the balance
 };
 

@@ -67,7 +67,7 @@ void Trial::TakeBounds() {
         bounds = StepsWithin(
             input, {std::max(task_.Bounds[input].Low, slider.Low), std::min(task_.Bounds[input].High, slider.High)});
         if (bounds.Low <= bounds.High) continue;
-        fault_ = FinderFault::BoundsLeaveNothing;
+        fault_ = FinderFault::BoundsHoldNoStep;
         faultInput_ = input;
         return;
     }

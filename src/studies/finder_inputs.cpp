@@ -138,8 +138,7 @@ FinderTask PresentTask() {
 
 std::string NoNumberMessage() {
     const auto check = [](const std::string& name, const TextBox& box) {
-        const bool wrong = !box.Text().empty() && !IsNumber(box.Text());
-        return wrong ? words.Sentence("NotANumber", {name, box.Text()}) : std::string();
+        return box.Text().empty() ? std::string() : NotANumberText(name, box.Text());
     };
     const auto captioned = [&](const Field& caption, const TextBox& box) {
         return check(CaptionName(InWords(caption.Caption())), box);

@@ -34,6 +34,9 @@ std::string FaultText(const FinderTask& task, const FinderResult& result) {
     switch (result.Fault) {
         case FinderFault::Goal: return GoalFaultText(task.Target);
         case FinderFault::NothingFree: return words["FinderNothingFree"];
+        case FinderFault::WishAtNoSpeed: return words["FinderWishAtNoSpeed"];
+        case FinderFault::BoundsHoldNoStep:
+            return words.Sentence("FinderBoundsHoldNoStep", {NameOf(result.FaultInput)});
         case FinderFault::BoundsLeaveNothing:
             return words.Sentence("FinderBoundsLeaveNothing", {NameOf(result.FaultInput)});
         case FinderFault::WishesLeaveNothing: return words["FinderWishesLeaveNothing"];

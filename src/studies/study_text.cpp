@@ -47,6 +47,10 @@ bool IsNumber(std::string_view text) {
            text.find_first_not_of("0123456789.,+- ") == std::string_view::npos;
 }
 
+std::string NotANumberText(const std::string& name, const std::string& text) {
+    return IsNumber(text) ? std::string() : words.Sentence("NotANumber", {name, text});
+}
+
 std::string SecondsText(double seconds) {
     return std::isfinite(seconds) ? FixedText(seconds, 3) + " s" : FixedText(seconds, 3);
 }

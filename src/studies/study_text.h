@@ -17,6 +17,9 @@ namespace zolv {
 /// Whether a box has a number and nothing else, with a point or a comma.
 [[nodiscard]] bool IsNumber(std::string_view text);
 
+/// What is wrong with the number in a box, by its name; empty if it is one.
+[[nodiscard]] std::string NotANumberText(const std::string& name, const std::string& text);
+
 /// "26.512 s".
 [[nodiscard]] std::string SecondsText(double seconds);
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <utility>
 
 #include "desk/present.h"
 #include "fields/all_windows.h"
@@ -10,6 +12,8 @@
 #include "studies/study_text.h"
 #include "studies/sweep_names.h"
 #include "studies/sweep_state.h"
+#include "text/caption_name.h"
+#include "text/messages.h"
 #include "text/number_text.h"
 #include "text/words.h"
 #include "units/unit_state.h"
@@ -107,10 +111,11 @@ void FillResults() {
 
 SweepAxis AxisOf(std::size_t axis) {
     const SweepState::Axis& state = sweep.Axes[axis];
+    const double steps = Val(FieldsOf(axis).Steps.Text());
     return {.Input = state.Picked ? state.Picked->Input : SweepInput::FinalDrive,
             .From = state.From,
             .To = state.To,
-            .Steps = ToInt32(Val(FieldsOf(axis).Steps.Text()))};
+            .Steps = steps == std::floor(steps) ? ToInt32(steps) : 0};  // a broken number of them is none
 }
 
 }  // namespace
@@ -120,6 +125,21 @@ SweepTask PresentSweepTask() {
     if (sweep.Axes[1].Picked) task.Second = AxisOf(1);
     task.Result = static_cast<std::size_t>(std::max(0, SweepPanel.Result.Picked()));
     return task;
+}
+
+std::string NoSweepNumberMessage() {
+    for (std::size_t axis = 0; axis < 2; ++axis) {
+        if (!sweep.Axes[axis].Picked) continue;
+        const SweepAxisFields& fields = FieldsOf(axis);
+        const std::string input = NameOf(*sweep.Axes[axis].Picked);
+        for (const auto& [caption, box] :
+             {std::pair(&fields.FromCaption, &fields.From), std::pair(&fields.ToCaption, &fields.To),
+              std::pair(&fields.StepsCaption, &fields.Steps)}) {
+            const std::string name = input + ", " + CaptionName(InWords(caption->Caption()));
+            if (std::string message = NotANumberText(name, box->Text()); !message.empty()) return message;
+        }
+    }
+    return {};
 }
 
 void LoadSweepInputs() { ShowSweepInputs(); }

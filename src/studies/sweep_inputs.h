@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 
 #include "search/sweep.h"
 
@@ -20,6 +21,9 @@ void ShowSweepInputs();
 /// Another input has been picked: its ends are those of its slider, or for a gear its neighbours, which bound it.
 /// @param axis  0 or 1
 void PickSweepInput(std::size_t axis);
+
+/// The first box in use that holds no number, as a message; empty if there is none.
+[[nodiscard]] std::string NoSweepNumberMessage();
 
 /// An end has been typed.
 void TakeSweepEnds(std::size_t axis);

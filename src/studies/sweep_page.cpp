@@ -156,16 +156,20 @@ void SaveAs(const std::string& path, std::string_view content) {
 void LoadSweep() { LoadSweepInputs(); }
 
 void StartSweep() {
+    sweepWork.Abandon();
     SweepTask task = PresentSweepTask();
     sweep.Run.reset();
     sweep.Drawn.reset();
     sweep.Swept = task.Present;
     sweep.Done = 0;
-    sweep.Status = Said::Sweeping;
+    sweep.Status = Said::Nothing;
     SweepPanel.Table.SetText("");
     SweepPanel.PointResult.SetCaption("");
     SweepPanel.Plot.Draw().Clear();
+    const std::string message = NoSweepNumberMessage();
+    if (message.empty()) sweep.Status = Said::Sweeping;
     ShowStatus();
+    if (!message.empty()) return ShowMessage(message);
     sweepWork.Start([task = std::move(task)](const std::stop_token& stop, const Background::Tell& tell) {
         std::function<void(double)> watch;
         if (tell) {

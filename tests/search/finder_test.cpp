@@ -203,9 +203,9 @@ TEST(Finder, NamesWhatLeavesNothingToSeek) {
 
     FinderTask narrow = TaskWith("Wisp 4", kKilometre, {Ratio2});
     narrow.Bounds[Ratio2] = {2.5, 2.4};
-    EXPECT_EQ(faultOf(narrow), FinderFault::BoundsLeaveNothing);
+    EXPECT_EQ(faultOf(narrow), FinderFault::BoundsHoldNoStep);
     narrow.Bounds[Ratio2] = {2.0001, 2.0009};  // between two steps
-    EXPECT_EQ(faultOf(narrow), FinderFault::BoundsLeaveNothing);
+    EXPECT_EQ(faultOf(narrow), FinderFault::BoundsHoldNoStep);
     narrow.Bounds[Ratio2] = {1.2, 1.5};  // below third gear
     EXPECT_EQ(faultOf(narrow), FinderFault::BoundsLeaveNothing);
     EXPECT_EQ(FindBest(narrow).FaultInput, Ratio2);

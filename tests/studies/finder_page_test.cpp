@@ -42,9 +42,9 @@ TEST_F(FinderPage, TellsWhatCannotBeFound) {
     } kCases[] = {
         {{{"Finder.FreeFinalDrive", "off"}}, "Nothing may be changed"},
         {{{"Finder.FreeFinalDrive", "off"}, {"Finder.FreeRearWing", "on"}}, "Nothing may be changed"},
-        {{{"Finder.HighFinalDrive", "3.8"}}, "The bounds of Final Drive leave nothing"},
+        {{{"Finder.HighFinalDrive", "3.8"}}, "The bounds of Final Drive leave nothing: no value that"},
         {{{"Finder.FreeRatios", "on"}, {"Finder.LowRatio4", "2"}, {"Finder.HighRatio3", "1,9"}},
-         "The bounds of Ratio 3 leave nothing"},
+         "The bounds of Ratio 3 leave nothing: no value lies between them in the order"},
         {{{"Finder.Distance", "0"}}, "The distance must be above 0 m."},
         {{{"Finder.Distance", "90000"}}, "No gearbox covers 90000 m within 90 s; the most is "},
         {{{"Finder.Goal", "Quickest to a Speed"}, {"Finder.ToSpeed", ""}}, "The speed to reach must be above 0."},
@@ -56,6 +56,8 @@ TEST_F(FinderPage, TellsWhatCannotBeFound) {
         {{{"Finder.WishTopSpeed", "on"}, {"Finder.TopSpeed", "70"}}, "the wished top speed of 70 m/s; the most is 5"},
         {{{"Finder.WishDownforce", "on"}}, "No angle of the wings"},
         {{{"Finder.WishTopSpeed", "on"}, {"Finder.TopSpeed", "fast"}}, "\"fast\" is not a number."},
+        {{{"Finder.WishTopSpeed", "on"}, {"Finder.TopSpeed", ""}}, "The speed of a wish must be above 0."},
+        {{{"Finder.WishDownforce", "on"}, {"Finder.DownforceSpeed", "-3"}}, "The speed of a wish must be above 0."},
         {{{"Finder.LowFinalDrive", "3,9x"}}, "Final Drive: \"3.9x\" is not a number."},
     };
     const std::string gearbox = Shown({"Gear1", "Gear4", "GearF"});

@@ -12,6 +12,8 @@
 #include "drawing/plot_labels.h"
 #include "drawing/text_measure.h"
 #include "studies/contours.h"
+#include "studies/sweep_inputs.h"
+#include "studies/sweep_state.h"
 #include "support/zolv_test.h"
 
 namespace zolv {
@@ -49,6 +51,34 @@ TEST_F(SweepPage, AClickTakesTheInputsThereOver) {
     ClickSweepPoint(0, 0);
     ExpectMessage(HasSubstr("The sweep is of Series Mu"));
     EXPECT_THAT(Shown("Sweep.Status"), HasSubstr("not for the one on the pages"));
+}
+
+TEST_F(SweepPage, TellsWhatCannotBeSwept) {
+    const struct {
+        const char *field, *text, *message;
+    } kCases[] = {
+        {"Sweep.From", "9", "The range of Front Wing must go from a smaller"},
+        {"Sweep.To", "16", "The range of Front Wing must lie between 0 degrees and 15"},
+        {"Sweep.From", "low", "Front Wing, From: \"low\" is not a number."},
+        {"Sweep.To2", "", "Rear Wing, To: \"\" is not a number."},
+        {"Sweep.Steps2", "2.5", "There must be 2 to 1000 steps"},
+        {"Sweep.Steps", "1e", "Front Wing, Steps: \"1e\" is not a number."},
+        {"Sweep.Input2", "Front Wing", "Both inputs are the same."},
+    };
+    for (const auto& row : kCases) {
+        SCOPED_TRACE(row.text);
+        sweep = {};
+        LoadSweep();
+        SweepWings();
+        Set("Sweep.From", "1");
+        Set("Sweep.To", "8");
+        Set(row.field, row.text);
+        SweepPanel.Start.Click();
+        ExpectMessage(HasSubstr(row.message));
+        EXPECT_EQ(Shown({"Sweep.Table", "Sweep.Status"}), "||");
+        SweepPanel.TakeOver.Click();
+        ExpectMessage(HasSubstr("nothing to be taken over"));
+    }
 }
 
 TEST_F(SweepPage, InputsFollowTheCarAndTheDirection) {

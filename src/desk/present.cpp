@@ -170,6 +170,15 @@ SetUp PresentSetUp() {
     return setUp;
 }
 
+bool LiesOnPages(const SetUp& setUp) {
+    SetUp present = PresentSetUp();
+    const bool fromRatios = present.From == Direction::FromRatios;
+    present.Targets = setUp.Targets;
+    (fromRatios ? present.Speeds : present.Ratios) = fromRatios ? setUp.Speeds : setUp.Ratios;
+    present.FinalDrive[fromRatios ? 1 : 0] = setUp.FinalDrive[fromRatios ? 1 : 0];
+    return present == setUp;
+}
+
 bool LayOut(const SetUp& setUp) {
     return Lay(setUp, [] {});
 }

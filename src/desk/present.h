@@ -15,6 +15,10 @@ namespace zolv {
 /// Reads: Select_Car, both gearboxes, pressures, wings, tyre type, air speed, vehicle, tyres, aero, options, units
 [[nodiscard]] SetUp PresentSetUp();
 
+/// Whether a set-up lies on the pages as far as anything follows from it: the numbers of the direction that is not in
+/// force do not count, nor do the targets, which go by the unit of speed.
+[[nodiscard]] bool LiesOnPages(const SetUp& setUp);
+
 /// Writes a set-up to the fields and refreshes the pages once at the end. Choices (direction, tyre type, blown tyres,
 /// speed of the air, shift points) are placed without their events, since each of them starts a hand-over or a
 /// recalculation of its own; the car and the inputs are written as their own events have it, in the order of a settings

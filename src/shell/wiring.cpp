@@ -55,6 +55,12 @@ void ShowStudies() {
     ShowSweep();
 }
 
+/// They say whether what they found is still for the set-up on the pages.
+void FollowSetUpInStudies() {
+    FollowSetUpInFinder();
+    FollowSetUpInSweep();
+}
+
 /// What follows the procedures. AnalyseTyres comes behind CalcAeroForces, whose axle loads it reads, and before the
 /// gearing, whose rolling radius rests on its stiffness.
 void WireFollowUps() {
@@ -77,8 +83,7 @@ void WireFollowUps() {
     };
     gearingFollowUps.SpeedsFound = gearingFollowUps.RatiosFound = [] {
         DrawGearingPlots();
-        FollowSetUpInFinder();
-        FollowSetUpInSweep();
+        FollowSetUpInStudies();
     };
     optionFollowUps.GearingOptionChanged = [] {
         Recalculate();
@@ -225,6 +230,7 @@ void WireAeroPage() {
     // follow: its axle loads rest on each gear's own speed.
     const auto analyseAtSliderSpeed = [] {
         if (!aero.FixedSpeedMode) AnalyseTyres();
+        FollowSetUpInStudies();
     };
     Zolv.Select_AeroSpeed.OnScroll = [analyseAtSliderSpeed] {
         MoveAeroSpeed();

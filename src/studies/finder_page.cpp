@@ -99,7 +99,7 @@ std::string StatusText() {
 
 void ShowStatus() {
     std::string status = StatusText();
-    const bool other = finder.Status != FinderState::Said::Nothing && finder.Sought && *finder.Sought != PresentSetUp();
+    const bool other = finder.Status != FinderState::Said::Nothing && finder.Sought && !LiesOnPages(*finder.Sought);
     if (other) status += ' ' + words["SoughtAnother"];
     Finder.Status.SetCaption(status);
     const bool searching = finder.Status == FinderState::Said::Searching;

@@ -66,7 +66,7 @@ std::string StatusText() {
 void ShowStatus() {
     std::string status = StatusText();
     const bool other =
-        sweep.Status != Said::Nothing && sweep.Status != Said::Stopped && sweep.Swept && *sweep.Swept != PresentSetUp();
+        sweep.Status != Said::Nothing && sweep.Status != Said::Stopped && sweep.Swept && !LiesOnPages(*sweep.Swept);
     if (other) status += ' ' + words["SoughtAnother"];
     SweepPanel.Status.SetCaption(status);
     SweepPanel.Progress.SetCaption(sweep.Status == Said::Sweeping ? RoundedText(sweep.Done * 100, 0) + " %" : "");
@@ -240,7 +240,7 @@ void ShowSweep() {
 void FollowSetUpInSweep() {
     if (!sweep.Swept) return;
     ShowStatus();
-    if (sweep.Run && SweepPanel.Visible() && sweep.Drawn != PresentSetUp()) DrawPlot();
+    if (sweep.Run && SweepPanel.Visible() && !LiesOnPages(*sweep.Drawn)) DrawPlot();
 }
 
 }  // namespace zolv

@@ -47,6 +47,10 @@ std::string StateOf(const Field& field) {
         for (const int part : {colour->red, colour->green, colour->blue}) state += ' ' + std::to_string(part);
     }
     if (!field.ToolTip().empty()) state += " (" + field.ToolTip() + ')';
+    if (field.Kind() == FieldKind::Label) {
+        const std::string& held = static_cast<const Label&>(field).Held();
+        if (!held.empty()) state += " held " + held;
+    }
     if (field.Kind() == FieldKind::Slider) {
         const auto& slider = static_cast<const Slider&>(field);
         state += " of " + std::to_string(slider.Min()) + " to " + std::to_string(slider.Max());

@@ -1,7 +1,11 @@
 // What is held, and the steps of the driver, by hand-made cases.
 
 #include "desk/held.h"
+
+#include <algorithm>
+
 #include "desk/history.h"
+#include "support/drawn.h"
 #include "support/zolv_test.h"
 #include "vehicle/vehicle_state.h"
 
@@ -20,7 +24,7 @@ protected:
 TEST_F(Desk, ChangesStandBesideFiguresWhileOneIsHeld) {
     EXPECT_EQ(Zolv.Ratios.Result[3].Held(), "");
     EXPECT_FALSE(Zolv.SetUpSwap.Enabled());
-    HoldPresent();
+    Zolv.SetUpHold.Click();
     EXPECT_EQ(Zolv.Ratios.Result[3].Held(), "32.9 m/s");
     EXPECT_EQ(Zolv.Ratios.Result[3].Change(), "");
     Give("Select_RearWingAngle", "20");
@@ -35,20 +39,43 @@ TEST_F(Desk, ChangesStandBesideFiguresWhileOneIsHeld) {
     Give("Gear1", "1.9");  // wrong order: what follows from the gears is older than they are
     EXPECT_EQ(ChangeOf(Zolv.Ratios.Result[3]) + ChangeOf(Zolv.AccDataLabel[1]), "");
     EXPECT_EQ(ChangeOf(Zolv.WingAngleRear), "+6");
-    ReleaseHeld();
+    Zolv.SetUpRelease.Click();
     EXPECT_EQ(Zolv.Ratios.Result[3].Held(), "");
     EXPECT_FALSE(Zolv.Label_Held.Visible());
     EXPECT_FALSE(Zolv.SetUpRelease.Enabled());
 }
 
+TEST_F(Desk, WhatIsHeldIsDrawnAtOnce) {
+    const auto held = [](const CanvasField& plot) {
+        return std::ranges::any_of(plot.Drawing().Operations(), [](const DrawingOperation& operation) {
+            return operation.meaning.standing == Standing::Held;
+        });
+    };
+    const auto drawnOf = [&] {
+        std::string drawn;
+        for (const CanvasField* plot : {&Zolv.TorquePowerPlot, &Zolv.CPS, &Zolv.SpeedPlot, &Zolv.TorquePlot}) {
+            if (held(*plot)) drawn += plot->Name() + '|';
+        }
+        return drawn;
+    };
+    EXPECT_EQ(drawnOf(), "");
+    Zolv.SetUpHold.Click();
+    EXPECT_EQ(drawnOf(), "TorquePowerPlot|CPS|SpeedPlot|TorquePlot|");
+    Set("Gear2", "4");  // whose report stands on the plot of the torque, and stays there
+    const auto report = Drawn(Zolv.TorquePlot.Drawing());
+    Zolv.SetUpRelease.Click();
+    EXPECT_EQ(drawnOf(), "");
+    EXPECT_EQ(Drawn(Zolv.TorquePlot.Drawing()), report);
+}
+
 TEST_F(Desk, SwapTakesEachForTheOther) {
-    HoldPresent();
+    Zolv.SetUpHold.Click();
     Give("Gear3", "2");
     Zolv.SetUpSwap.Click();
     EXPECT_EQ(Shown("Gear3"), "1.7");
     EXPECT_EQ(desk.Held->SetUp.Ratios[3], 2);
     NoteInput(Zolv.SetUpSwap);
-    Undo();
+    Zolv.EditUndo.Click();
     EXPECT_EQ(Shown("Gear3"), "2");
     EXPECT_EQ(desk.Held->SetUp.Ratios[3], 1.7);
 }
@@ -57,7 +84,7 @@ TEST_F(Desk, ACarThatIsNotTheSameAnyMoreIsNamed) {
     UseCustomCar("Series Mu", {{CarField::Mass, 420}});
     const std::string preset = Shown("Select_Car");
     StartHistory();
-    HoldPresent();
+    Zolv.SetUpHold.Click();
     Give("Select_Car", "Mote 900");
     vehicle.CustomData[static_cast<std::size_t>(CarField::Mass) * kMaxPresets] = 430;
     for (void (*move)() : {Undo, SwapWithHeld}) {
@@ -68,7 +95,7 @@ TEST_F(Desk, ACarThatIsNotTheSameAnyMoreIsNamed) {
     EXPECT_TRUE(Zolv.EditUndo.Enabled());
     EXPECT_EQ(desk.Held->SetUp.CarName, preset);
     vehicle.PresetsUsed = 0;
-    Undo();
+    Zolv.EditUndo.Click();
     ExpectMessage(testing::HasSubstr(preset));
 }
 
@@ -79,9 +106,12 @@ TEST_F(Desk, StepsAreNamedAndDropWhatCouldBeRedone) {
     Give("Select_PressureR", "160");
     Give("Select_PressureR", "160");  // changes nothing
     EXPECT_EQ(Zolv.EditUndo.Caption(), "&Undo rear tyre pressure");
-    Undo();
+    Zolv.EditUndo.Click();
     EXPECT_EQ(Zolv.EditRedo.Caption(), "&Redo rear tyre pressure");
     EXPECT_EQ(Shown({"Gear3", "Select_PressureR"}), "2|175|");
+    Zolv.EditRedo.Click();
+    EXPECT_EQ(Shown({"Gear3", "Select_PressureR"}), "2|160|");
+    Zolv.EditUndo.Click();
     Give("Select_Tyres2", Zolv.Select_Tyres2.Rows()[1].c_str());
     EXPECT_EQ(Zolv.EditUndo.Caption(), "&Undo tyre type");
     EXPECT_FALSE(Zolv.EditRedo.Enabled());
@@ -93,8 +123,8 @@ TEST_F(Desk, MovesOfOneGestureAreOneStep) {
     EXPECT_EQ(history.Done.size(), 2U);
     for (const char* value : {"2900", "2800"}) Give("Select_Ratio2", value, 9);  // and back
     EXPECT_EQ(history.Done.size(), 2U);
-    Undo();
-    Undo();
+    Zolv.EditUndo.Click();
+    Zolv.EditUndo.Click();
     EXPECT_EQ(Shown("Gear2"), "2.4");
 }
 
@@ -104,7 +134,7 @@ TEST_F(Desk, AFinalDriveThatTheSearchRaisedGoesBackWithItsInput) {
     const std::string before = Shown({"B_Final", "B_Speed1"});
     Give("B_Speed1", "1");
     EXPECT_EQ(Shown("B_Final"), "7.5");
-    Undo();
+    Zolv.EditUndo.Click();
     EXPECT_EQ(Shown({"B_Final", "B_Speed1"}), before);
 }
 
@@ -118,12 +148,12 @@ TEST_F(Desk, AnOpenedFileIsAStepWithItsName) {
     Zolv.FileOpen.Click();
     NoteInput(Zolv.FileOpen);
     EXPECT_EQ(Zolv.EditUndo.Caption(), "&Undo opening of road.zolv");
-    Undo();
+    Zolv.EditUndo.Click();
     EXPECT_EQ(Shown("Gear2"), "2.2");
 }
 
 TEST_F(Desk, WhatCannotBeHeldIsToldAndLeavesWhatIsHeld) {
-    HoldPresent();
+    Zolv.SetUpHold.Click();
     const auto held = desk.Held;
     for (const auto& [content, message] : {std::pair("no set-up", "bad.zolv"), {"", "bad.zolv"}}) {
         WriteContent("bad.zolv", content);

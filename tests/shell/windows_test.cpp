@@ -1,7 +1,12 @@
 // Which windows and pages are in front, and what opens, closes and covers them.
 
+#include <string>
+#include <utility>
+
 #include "shell/fresh_start.h"
 #include "shell/shell_state.h"
+#include "support/drawn.h"
+#include "support/posted.h"
 #include "support/zolv_test.h"
 
 namespace zolv {
@@ -37,7 +42,9 @@ TEST_F(OpenWindows, FollowTheirEntriesAndTheirCloseButtonsAndBoxes) {
         {CustomPresets.LoadUnitConv.OnClick, "Zolv|UnitConv|", {&UnitConv.CloseConv.OnClick, &UnitConv.OnClose}},
         {Zolv.ToolsLanguage.OnClick,
          "Zolv|LanguageSelection|",
-         {&LanguageSelection.SaveLanguage.OnClick, &LanguageSelection.OnClose}}};
+         {&LanguageSelection.SaveLanguage.OnClick, &LanguageSelection.OnClose}},
+        {Zolv.ToolsFinder.OnClick, "Zolv|Finder|", {&Finder.CloseFinder.OnClick, &Finder.OnClose}},
+        {Zolv.ToolsSweep.OnClick, "Zolv|Sweep|", {&SweepPanel.CloseSweep.OnClick, &SweepPanel.OnClose}}};
     for (const auto& row : kCases) {
         for (const Hook* close : row.closes) {
             row.opens();
@@ -99,6 +106,34 @@ TEST_F(StartedTest, PagesOfOneStripCoverEachOtherAndNoOthers) {
     EXPECT_EQ(inFront(), "Page(1)|CalcSpeeds|OptionsPage(2)|");
     CustomPresets.Frame_Add.BringToFront();  // lies alone
     EXPECT_EQ(inFront(), "Page(1)|CalcSpeeds|OptionsPage(2)|");
+}
+
+TEST_F(StartedTest, PagesAreTurnedOneByOneAndAround) {
+    std::string pages;
+    const auto turn = [&](MenuEntry& entry) {
+        entry.Click();
+        pages += Shown("Select_Page") + '|';
+    };
+    for (int i = 0; i < 4; ++i) turn(Zolv.ViewNextPage);
+    for (int i = 0; i < 2; ++i) turn(Zolv.ViewPreviousPage);
+    EXPECT_EQ(pages, "Gearing|Tyres|Aerodynamics|Info|Aerodynamics|Tyres|");
+}
+
+// While they are hidden, windows that cost time to draw wait; a window that opens shows the set-up of that moment.
+TEST_F(StartedTest, StudiesAreUpToDateWhenTheirWindowsOpen) {
+    Posted posted;
+    Set("Finder.Straights", "name,entry speed,length\r\nHill,20,300\r\n");
+    SweepPanel.Start.Click();
+    while (Shown("Sweep.Table").empty()) posted.RunOne();
+    const auto shown = [] { return std::pair(Shown("Finder.StraightTimes"), Drawn(SweepPanel.Plot.Drawing())); };
+    const auto before = shown();
+    Set("GearF", "3");
+    EXPECT_EQ(shown(), before);
+    Zolv.ToolsFinder.Click();
+    Zolv.ToolsSweep.Click();
+    const auto after = shown();
+    EXPECT_NE(after.first, before.first);
+    EXPECT_NE(after.second, before.second);
 }
 
 }  // namespace

@@ -61,11 +61,25 @@ TEST_F(Desk, WhatIsHeldIsDrawnAtOnce) {
     EXPECT_EQ(drawnOf(), "");
     Zolv.SetUpHold.Click();
     EXPECT_EQ(drawnOf(), "TorquePowerPlot|CPS|SpeedPlot|TorquePlot|");
+    const auto run = Drawn(Zolv.SpeedTimeGraph.Drawing());
+    Set("TimeDifference", "on");
+    EXPECT_NE(Drawn(Zolv.SpeedTimeGraph.Drawing()), run);
     Set("Gear2", "4");  // whose report stands on the plot of the torque, and stays there
     const auto report = Drawn(Zolv.TorquePlot.Drawing());
     Zolv.SetUpRelease.Click();
     EXPECT_EQ(drawnOf(), "");
     EXPECT_EQ(Drawn(Zolv.TorquePlot.Drawing()), report);
+}
+
+TEST_F(Desk, FiguresOfTheTyreThatIsPickedAreHeld) {
+    Set("Select_PressureF", "130");
+    Zolv.SetUpHold.Click();
+    const std::string front = Zolv.CPL.Held();
+    Set("RearTyreAnal", "on");
+    const std::string rear = Zolv.CPL.Held();
+    EXPECT_NE(rear, front);
+    Zolv.SetUpHold.Click();
+    EXPECT_EQ(Zolv.CPL.Held(), rear);
 }
 
 TEST_F(Desk, SwapTakesEachForTheOther) {

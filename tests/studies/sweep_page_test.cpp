@@ -95,6 +95,8 @@ TEST_F(SweepPage, InputsFollowTheCarAndTheDirection) {
     Set("OptionsPanel.Select_SpeedUnits", "Kilometers per Hour");
     EXPECT_EQ(Shown("Sweep.Unit"), "km/h");
     EXPECT_THAT(SweepPanel.Result.Rows(), Contains("Time to 100 km/h"));
+    Set("Direction1", "on");
+    EXPECT_THAT(SweepPanel.First.Input.Rows(), Contains("Ratio 4"));
 }
 
 TEST_F(SweepPage, AMapShowsItsCellsItsScaleAndTwoPoints) {

@@ -380,7 +380,7 @@ void WireSweep() {
     SweepPanel.Second.Input.OnClick = [] { PickSweepInput(1); };
     for (TextBox* box : {&SweepPanel.First.From, &SweepPanel.First.To}) box->OnChange = [] { TakeSweepEnds(0); };
     for (TextBox* box : {&SweepPanel.Second.From, &SweepPanel.Second.To}) box->OnChange = [] { TakeSweepEnds(1); };
-    for (TextBox* box : {&SweepPanel.Point, &SweepPanel.Point2}) box->OnChange = ShowPointResult;
+    for (TextBox* box : {&SweepPanel.Point, &SweepPanel.Point2}) box->OnChange = TakeSweepPoint;
     TakeNumbers(SweepPanel);
     SweepPanel.Start.OnClick = StartSweep;
     SweepPanel.Stop.OnClick = StopSweep;

@@ -9,6 +9,7 @@
 #include "desk/present.h"
 #include "drawing/svg.h"
 #include "fields/all_windows.h"
+#include "fields/guards.h"
 #include "platform/dialogs.h"
 #include "platform/text_files.h"
 #include "studies/study_text.h"
@@ -77,35 +78,42 @@ void DrawPlot() {
     DrawSweep(*sweep.Run, *sweep.Drawn, SweepPanel.Plot.Draw());
 }
 
-/// The names and units of the point, without its numbers.
-void ShowPointCaptions() {
+void ShowPointResult() {
+    const PlottedSweep plotted(*sweep.Run);
+    const std::size_t nearest = plotted.Nearest(sweep.Point[0], plotted.Second ? sweep.Point[1] : 0);
+    SweepPanel.PointResult.SetCaption(plotted.Result.Name + ": " +
+                                      plotted.Result.Shown.Text(sweep.Run->Sheet.Values[nearest]));
+}
+
+/// The names, numbers and units of the point, and its result.
+void WritePoint() {
+    const Raised quiet(sweep.WritingBoxes);
     const PlottedSweep plotted(*sweep.Run);
     SweepPanel.PointCaption.SetCaption(plotted.First.Name + ':');
+    SweepPanel.Point.SetText(plotted.First.Shown.Number(sweep.Point[0]));
     SweepPanel.PointUnit.SetCaption(plotted.First.Shown.Unit);
     const bool two = plotted.Second.has_value();
     SweepPanel.PointCaption2.SetCaption(two ? plotted.Second->Name + ':' : "");
+    if (two) SweepPanel.Point2.SetText(plotted.Second->Shown.Number(sweep.Point[1]));
     SweepPanel.PointUnit2.SetCaption(two ? plotted.Second->Shown.Unit : "");
     for (Field* field : {static_cast<Field*>(&SweepPanel.PointCaption2), static_cast<Field*>(&SweepPanel.Point2),
                          static_cast<Field*>(&SweepPanel.PointUnit2)}) {
         field->SetVisible(two);
     }
+    ShowPointResult();
 }
 
 /// @param index  of the point among the values of the sweep
-void ShowPoint(std::size_t index) {
+void TakePointAt(std::size_t index) {
     const PlottedSweep plotted(*sweep.Run);
-    ShowPointCaptions();
-    SweepPanel.Point.SetText(plotted.First.Shown.Number(plotted.FirstOf(index)));
-    if (plotted.Second) SweepPanel.Point2.SetText(plotted.Second->Shown.Number(plotted.SecondOf(index)));
-    ShowPointResult();
+    sweep.Point = {plotted.FirstOf(index), plotted.Second ? plotted.SecondOf(index) : 0};
 }
 
 void ShowRun() {
     if (!sweep.Run) return;
     SweepPanel.Table.SetText(TableText(RowsOf(*sweep.Run)));
     DrawPlot();
-    ShowPointCaptions();
-    ShowPointResult();
+    WritePoint();
 }
 
 void EndSweep(const SweepTask& task, SweepSheet sheet) {
@@ -118,8 +126,7 @@ void EndSweep(const SweepTask& task, SweepSheet sheet) {
     }
     sweep.Run = {.Task = task, .Sheet = std::move(sheet)};
     sweep.Status = Said::Done;
-    ShowPoint(PlottedSweep(*sweep.Run).Nearest(*sweep.Swept));
-    if (sweep.Run->Sheet.Best) ShowPoint(*sweep.Run->Sheet.Best);
+    TakePointAt(sweep.Run->Sheet.Best.value_or(PlottedSweep(*sweep.Run).Nearest(*sweep.Swept)));
     ShowRun();
     ShowStatus();
     if (std::ranges::all_of(sweep.Run->Sheet.Values, [](double value) { return std::isnan(value); })) {
@@ -127,10 +134,9 @@ void EndSweep(const SweepTask& task, SweepSheet sheet) {
     }
 }
 
-/// The base value in a box of the point, on a step of its input and within its range.
-double PointIn(const TextBox& box, const SweepChoice& choice) {
-    const double typed = Val(box.Text()) / ShownIn(choice.Quantity).Factor;
-    const double onStep = std::nearbyint(typed / choice.Step) * choice.Step;
+/// A number of the point, on a step of its input and within its range.
+double OnStep(double value, const SweepChoice& choice) {
+    const double onStep = std::nearbyint(value / choice.Step) * choice.Step;
     return std::clamp(choice.Step < 1 ? Round(onStep, 3) : onStep, choice.Low, choice.High);
 }
 
@@ -190,17 +196,17 @@ void StopSweep() { sweepWork.Stop(); }
 void ClickSweepPoint(double x, double y) {
     if (!sweep.Run) return;
     const PlottedSweep plotted(*sweep.Run);
-    ShowPoint(plotted.Nearest(x / plotted.First.Shown.Factor, plotted.Second ? y / plotted.Second->Shown.Factor : 0));
+    TakePointAt(plotted.Nearest(x / plotted.First.Shown.Factor, plotted.Second ? y / plotted.Second->Shown.Factor : 0));
+    WritePoint();
     TakeOverSweepPoint();
 }
 
-void ShowPointResult() {
-    if (!sweep.Run) return;
+void TakeSweepPoint() {
+    if (!sweep.Run || sweep.WritingBoxes) return;
     const PlottedSweep plotted(*sweep.Run);
-    const double x = Val(SweepPanel.Point.Text()) / plotted.First.Shown.Factor;
-    const double y = plotted.Second ? Val(SweepPanel.Point2.Text()) / plotted.Second->Shown.Factor : 0;
-    SweepPanel.PointResult.SetCaption(plotted.Result.Name + ": " +
-                                      plotted.Result.Shown.Text(sweep.Run->Sheet.Values[plotted.Nearest(x, y)]));
+    sweep.Point[0] = Val(SweepPanel.Point.Text()) / plotted.First.Shown.Factor;
+    if (plotted.Second) sweep.Point[1] = Val(SweepPanel.Point2.Text()) / plotted.Second->Shown.Factor;
+    ShowPointResult();
 }
 
 void TakeOverSweepPoint() {
@@ -212,8 +218,8 @@ void TakeOverSweepPoint() {
     if (setUp.CarName != task.Present.CarName || !first || !second) {
         return ShowMessage(words.Sentence("SweepOfAnother", {task.Present.CarName}));
     }
-    SetInput(setUp, task.First.Input, PointIn(SweepPanel.Point, *first));
-    if (task.Second) SetInput(setUp, task.Second->Input, PointIn(SweepPanel.Point2, *second));
+    SetInput(setUp, task.First.Input, OnStep(sweep.Point[0], *first));
+    if (task.Second) SetInput(setUp, task.Second->Input, OnStep(sweep.Point[1], *second));
     if (!LayOut(setUp)) return ShowMessage(words.Sentence("CarIsGone", {setUp.CarName}));
     DrawPlot();
     ShowStatus();
@@ -231,8 +237,6 @@ void SaveSweepSvg() {
 
 void ShowSweep() {
     ShowSweepInputs();
-    if (!sweep.Run) return ShowStatus();
-    const PlottedSweep plotted(*sweep.Run);
     ShowRun();
     ShowStatus();
 }

@@ -23,8 +23,8 @@ void StopSweep();
 /// over. @param x, y  as the axes read; y does not count for a curve
 void ClickSweepPoint(double x, double y);
 
-/// A point has been typed: the result at the nearest one of the sweep.
-void ShowPointResult();
+/// A point has been typed: the result at the nearest one of the sweep is shown.
+void TakeSweepPoint();
 
 /// Lays out the present set-up with the inputs of the point. Without a sweep, or where it was of another car or
 /// direction, a message says so.

@@ -27,8 +27,9 @@ struct SweepState {
 
     std::optional<SetUp> Swept;  // the set-up that is swept, or was last
     std::optional<SweepRun> Run;
-    std::optional<SetUp> Drawn;  // the present set-up that the plot marks
-    double Done = 0;             // share of the sweep that runs
+    std::optional<SetUp> Drawn;     // the present set-up that the plot marks
+    double Done = 0;                // share of the sweep that runs
+    std::array<double, 2> Point{};  // what the boxes of the point hold, in base units
 
     enum class Said : unsigned char { Nothing, Sweeping, Done, Stopped };
     Said Status = Said::Nothing;

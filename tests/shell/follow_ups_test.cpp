@@ -9,14 +9,16 @@
 #include <vector>
 
 #include "desk/history.h"
+#include "search/sweep.h"
 #include "shell/fresh_start.h"
 #include "support/zolv_test.h"
 
 namespace zolv {
 namespace {
 
-/// The final drive found in a narrow range and a sweep over it, with another gearbox than the one that is held.
-void HoldFindAndSweep() {
+/// The final drive found in a narrow range, and a sweep over it and a pressure, with another gearbox than the one that
+/// is held. Of results that are times the name would tell the unit of speed.
+void HoldFindAndSweep(std::string_view result = "Top Speed") {
     Zolv.SetUpHold.Click();
     const auto step = [](const char* name, const char* value) {
         Set(name, value);
@@ -28,8 +30,11 @@ void HoldFindAndSweep() {
         Set(field, value);
     }
     Set("Finder.Straights", "name,entry speed,length\r\nHill,20,300\r\n");
-    constexpr int kTopSpeed = 10;  // row of the results; the times are those to the targets of the unit in force
-    SweepPanel.Result.Pick(kTopSpeed);
+    constexpr int kFrontPressure = 8;  // row of the inputs of a car with six gears, behind "None" and the final drive
+    SweepPanel.Second.Input.Pick(kFrontPressure);
+    Set("Sweep.Steps2", "3");
+    const auto row = std::ranges::find(SweepResults(), result, &SweepResultRow::Name);
+    SweepPanel.Result.Pick(static_cast<int>(row - SweepResults().begin()));
     Finder.Start.Click();
     SweepPanel.Start.Click();
 }
@@ -51,6 +56,7 @@ void ExpectSame(const std::vector<std::string>& changed, const std::vector<std::
 struct Change {
     const char *list, *unit;
     bool air, run;  // whether the forces of the air, and the run, are worked out anew
+    const char* result = "Top Speed";
 };
 
 class AUnitThatIsPicked : public ZolvTest, public testing::WithParamInterface<Change> {
@@ -61,7 +67,7 @@ protected:
         for (int gear = 6; gear > 0; --gear) Set("B_Speed" + std::to_string(gear), std::to_string(140 + 10 * gear));
         Set("Select_Car", "Series Lo");
         Set("EnableVLoads", "on");
-        HoldFindAndSweep();
+        HoldFindAndSweep(GetParam().result);
         if (!GetParam().air && !GetParam().run) Set("Select_AeroSpeed", "60");  // the air once more, for the tyres
     }
 
@@ -89,20 +95,21 @@ TEST_P(AUnitThatIsPicked, ShowsWhatAStartWithItShows) {
     ExpectSame(picked, ShownNowAndForTheOtherTyre());
 }
 
-INSTANTIATE_TEST_SUITE_P(Quantities, AUnitThatIsPicked,
-                         testing::Values(Change{"Select_SpeedUnits", "Miles per Hour", true, true},
-                                         Change{"Select_DistanceUnits", "Inches", false, false},
-                                         Change{"Select_AreaUnits", "Square Inches", true, false},
-                                         Change{"Select_PressureUnits", "Pounds per Square Inch", false, false},
-                                         Change{"Select_MassUnits", "Pounds", false, false},
-                                         Change{"Select_ForceUnits", "Poundals", true, true},
-                                         Change{"Select_StiffnessUnits", "Pounds per Inch", false, false},
-                                         Change{"Select_AccUnits", "Gal", false, true},
-                                         Change{"Select_PowerUnits", "Feet Pound-force per Second", false, false},
-                                         Change{"Select_TorqueUnits", "Pound-force Inches", false, true},
-                                         Change{"Select_P2WUnits", "Pound per Horsepower", false, false},
-                                         Change{"Select_T2WUnits", "Inch Pounds per Pound", false, false}),
-                         [](const auto& row) { return std::string(row.param.list).substr(7); });
+INSTANTIATE_TEST_SUITE_P(
+    Quantities, AUnitThatIsPicked,
+    testing::Values(Change{"Select_SpeedUnits", "Miles per Hour", true, true},
+                    Change{"Select_DistanceUnits", "Inches", false, false},
+                    Change{"Select_AreaUnits", "Square Inches", true, false, "Front Contact Patch"},
+                    Change{"Select_PressureUnits", "Pounds per Square Inch", false, false},
+                    Change{"Select_MassUnits", "Pounds", false, false},
+                    Change{"Select_ForceUnits", "Poundals", true, true},
+                    Change{"Select_StiffnessUnits", "Pounds per Inch", false, false},
+                    Change{"Select_AccUnits", "Gal", false, true},
+                    Change{"Select_PowerUnits", "Feet Pound-force per Second", false, false},
+                    Change{"Select_TorqueUnits", "Pound-force Inches", false, true, "Torque in Gear 1"},
+                    Change{"Select_P2WUnits", "Pound per Horsepower", false, false},
+                    Change{"Select_T2WUnits", "Inch Pounds per Pound", false, false}),
+    [](const auto& row) { return std::string(row.param.list).substr(7); });
 
 class WhatStandsAlready : public ZolvTest {
 protected:

@@ -76,6 +76,38 @@ TEST_F(FinderPage, TellsWhatCannotBeFound) {
     EXPECT_EQ(Shown({"Gear1", "Gear4", "GearF"}), gearbox);
 }
 
+TEST_F(FinderPage, ShowsTheBoxesOfTheGoalAndWarnsOfFreeWings) {
+    const auto visible = [](const std::string& goal) {
+        Set("Finder.Goal", goal);
+        std::string shown;
+        for (const Field* field : std::initializer_list<const Field*>{&Finder.FromSpeed, &Finder.ToSpeed,
+                                                                      &Finder.Distance, &Finder.StraightsFrame}) {
+            if (field->Visible()) shown += field->Name() + '|';
+        }
+        return shown;
+    };
+    EXPECT_EQ(visible("Quickest between Speeds"), "FromSpeed|ToSpeed|");
+    EXPECT_EQ(visible("Quickest to a Speed"), "ToSpeed|");
+    EXPECT_EQ(visible("Highest Top Speed"), "");
+    EXPECT_EQ(visible("Quickest along Straights"), "StraightsFrame|");
+    EXPECT_EQ(visible("Quickest over a Distance"), "Distance|");
+
+    std::string warned;
+    const auto set = [&](const char* field, const char* value) {
+        Set(field, value);
+        warned += Shown("Finder.Note").empty() ? '-' : 'W';
+    };
+    set("Finder.FreeFrontWing", "on");  // no wings yet
+    Set("Select_Car", "Series Mu");
+    set("Finder.FreeRearWing", "on");
+    set("Finder.FreeFrontWing", "off");
+    set("Finder.FreeRearWing", "off");
+    set("Finder.FreeFrontWing", "on");
+    set("Finder.WishDownforce", "on");
+    set("Finder.WishDownforce", "off");
+    EXPECT_EQ(warned, "-WW-W-W");
+}
+
 /// The cells of a column, one after the other.
 std::string ColumnOf(const std::string& table, int column) {
     std::string cells;

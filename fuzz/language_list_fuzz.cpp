@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "support/expect.h"
+#include "support/parsing.h"
 
 namespace zolv {
 namespace {
@@ -28,7 +29,7 @@ void Read(std::string_view content) {
     Expect(static_cast<bool>(list) == list.Reason().empty(), "a value or a reason");
     if (!list) return;
     Expect(list->Number >= -9 && list->Number <= 99, "two characters");
-    if (list->Names.empty()) return;
+    if (list->Names.empty() || !IsWrittenToo(content)) return;
     SaveChoice(*list, list->Names.front());
     SaveChoice(*list, "");
 }

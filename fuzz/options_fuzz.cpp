@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "support/expect.h"
+#include "support/parsing.h"
 
 namespace zolv {
 namespace {
@@ -21,7 +21,7 @@ void Read(std::string_view content) {
     for (std::size_t i = 0; i < read->Units.size(); ++i) {
         Expect(read->Units[i] >= 0 && read->Units[i] < static_cast<int>(UnitCatalogue()[i].rows.size()), "a unit");
     }
-    if (!FixedRevsFitTheirLine(read->Options)) return;
+    if (!FixedRevsFitTheirLine(read->Options) || !IsWrittenToo(content)) return;
     const std::string text = OptionsText(*read);
     const Parsed<OptionsFile> again = ParseOptions(text);
     Expect(again && *again == *read, "written options read as they were", text);

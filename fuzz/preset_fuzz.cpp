@@ -26,6 +26,7 @@ void Read(std::string_view content) {
     if (!preset) return;
     const double drivetrain = (*preset)[CarField::DrivetrainType];
     Expect(drivetrain >= 0 && drivetrain <= kUnknownDrivetrain, "a drivetrain or none");
+    if (!IsWrittenToo(content)) return;
     if (!std::ranges::all_of(SingleFigures(*preset), [](float figure) { return std::isfinite(figure); })) return;
     Expect(ExpectReadsBack(*preset, ParsePreset, TextOf).Name == preset->Name, "the name comes back", preset->Name);
 }

@@ -14,6 +14,7 @@
 #include "studies/contours.h"
 #include "studies/sweep_inputs.h"
 #include "studies/sweep_state.h"
+#include "support/posted.h"
 #include "support/zolv_test.h"
 
 namespace zolv {
@@ -51,6 +52,26 @@ TEST_F(SweepPage, AClickTakesTheInputsThereOver) {
     ClickSweepPoint(0, 0);
     ExpectMessage(HasSubstr("The sweep is of Series Mu"));
     EXPECT_THAT(Shown("Sweep.Status"), HasSubstr("not for the one on the pages"));
+}
+
+TEST_F(SweepPage, GoesFromEndToEndAndIsStopped) {
+    SweepWings();
+    Set("Sweep.From", "2");
+    Set("Sweep.To", "8");
+    Set("Sweep.From2", "5");
+    Set("Sweep.To2", "25");
+    SweepPanel.Start.Click();
+    EXPECT_THAT(SweepPanel.Table.Text(), HasSubstr("\t2\t4\t6\t8\r\n5\t"));
+    EXPECT_THAT(SweepPanel.Table.Text(), HasSubstr("\r\n25\t"));
+
+    Posted posted;
+    Set("Sweep.Input2", "Final Drive");
+    Set("Sweep.Result", "Time over 1000 m");
+    Set("Sweep.Steps2", "1000");
+    SweepPanel.Start.Click();
+    SweepPanel.Stop.Click();
+    while (sweepWork.Running()) posted.RunOne();
+    EXPECT_EQ(Shown({"Sweep.Status", "Sweep.Table"}), "Stopped.||");
 }
 
 TEST_F(SweepPage, TellsWhatCannotBeSwept) {

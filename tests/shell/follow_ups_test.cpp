@@ -194,6 +194,11 @@ TEST_F(WhatStandsAlready, FollowsTheSetUp) {
     EXPECT_EQ(Zolv.AccDataLabel[1].Held(), "");
     Set("AccelerationTestingEnable", "on");
     EXPECT_EQ(Zolv.AccDataLabel[1].Held(), Zolv.AccDataLabel[1].Caption());
+    OptionsPanel.OptionsSave.Click();
+    Set("AccelerationTestingEnable", "off");
+    Zolv.SetUpHold.Click();
+    OptionsPanel.OptionsLoad.Click();
+    EXPECT_EQ(Zolv.AccDataLabel[1].Held(), Zolv.AccDataLabel[1].Caption());
 }
 
 }  // namespace

@@ -36,7 +36,9 @@ FileRequest RequestFor(std::string_view title, std::string_view kind, const std:
 void PaintPicture(QPainter& painter, const Canvas& canvas, const PlotPlace& place, const QFont& font,
                   const CanvasInks& inks) {
     PaintGround(painter, place.ground, inks.frame, inks.frameWidth);
+    painter.setOpacity(inks.strokes);
     PaintStrokes(painter, canvas, place);
+    painter.setOpacity(1);
     PaintScale(painter, place.scale, inks.frame);
     painter.setFont(font);
     PaintPrints(painter, canvas, place.ground);

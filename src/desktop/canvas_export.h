@@ -13,6 +13,7 @@ struct CanvasInks {
     QColor words;  // numbers, titles and legend
     QColor frame;
     double frameWidth = 1;  // in pixels of the layout
+    double strokes = 1;     // how much of the lines shows, 0 to 1; words are to be read all the same
 };
 
 /// Paints a drawing with its numbers and names as it stands in a view.

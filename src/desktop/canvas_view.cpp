@@ -21,10 +21,12 @@ namespace zolv {
 namespace {
 
 /// What stands around a plot is paler than a page's own text, so that the curves come first.
-CanvasInks InksOf(const QWidget& view) {
+CanvasInks InksOf(const QWidget& view, bool faded) {
     const QColor words = view.palette().color(QPalette::WindowText);
     const QColor ground = view.palette().color(QPalette::Window);
-    CanvasInks inks{.words = Blend(words, ground, 0.8), .frame = Blend(words, ground, 0.4)};
+    constexpr double kFaded = 0.4;
+    CanvasInks inks{
+        .words = Blend(words, ground, 0.8), .frame = Blend(words, ground, 0.4), .strokes = faded ? kFaded : 1};
     if (view.hasFocus()) {
         inks.frame = view.palette().color(QPalette::Highlight);
         inks.frameWidth = 2;
@@ -51,6 +53,12 @@ PlotPlace CanvasView::Place() const {
     return PlaceOf(canvas_, shape_, {double(width()), double(height())}, MeasureOf(NumberFont(font())));
 }
 
+void CanvasView::SetFaded(bool faded) {
+    if (faded_ == faded) return;
+    faded_ = faded;
+    update();
+}
+
 void CanvasView::CopyPicture() const {
     QGuiApplication::clipboard()->setImage(PictureOf(canvas_, PictureSize(), font()));
 }
@@ -58,7 +66,7 @@ void CanvasView::CopyPicture() const {
 void CanvasView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const PlotPlace place = Place();
-    PaintPicture(painter, canvas_, place, font(), InksOf(*this));
+    PaintPicture(painter, canvas_, place, font(), InksOf(*this, faded_));
     if (!place.hasAxes) return;
     painter.setFont(font());
     const Box& ground = place.ground;

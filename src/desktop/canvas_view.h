@@ -33,6 +33,9 @@ class CanvasView : public QWidget {
     /// Ask for a file and write the picture into it as it stands in the view.
     void SavePng();
 
+    /// Whether its lines are pale, as those of a drawing that is older than what is set.
+    void SetFaded(bool faded);
+
     /// Puts the picture into the clipboard, at twice the resolution of the screen.
     void CopyPicture() const;
 
@@ -55,6 +58,7 @@ private:
     Shape shape_;
     std::optional<QPointF> pointer_;  // the mouse, in widget coordinates
     std::function<void(double, double)> click_;
+    bool faded_ = false;
     std::optional<double> sharedX_;  // value of x under the mouse in another view
 };
 

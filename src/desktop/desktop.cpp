@@ -21,13 +21,14 @@ namespace zolv {
 Desktop::Desktop() {
     main_ = std::make_unique<MainWindow>(binding_);
     secondary_.push_back(std::make_unique<OptionsWindow>(binding_));
-    secondary_.push_back(std::make_unique<PresetsWindow>(binding_));
-    secondary_.push_back(std::make_unique<ConverterWindow>(binding_));
+    SecondaryWindow& presets = *secondary_.emplace_back(std::make_unique<PresetsWindow>(binding_));
+    SecondaryWindow& converter = *secondary_.emplace_back(std::make_unique<ConverterWindow>(binding_));
     secondary_.push_back(std::make_unique<LanguageWindow>(binding_));
     secondary_.push_back(std::make_unique<FinderView>(binding_));
     secondary_.push_back(std::make_unique<SweepView>(binding_));
     main_->winId();  // has its handle before a window is to stay above it
     for (const auto& window : secondary_) window->StayAbove(*main_);
+    converter.StayAbove(*main_, &presets);
     binding_.OnChanged(LanguageSelection.LanguageList, [this] { qtWords_.Follow(); });
     postToFields = [this](std::function<void()> work) {
         QMetaObject::invokeMethod(

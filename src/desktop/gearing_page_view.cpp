@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGraphicsOpacityEffect>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -109,14 +108,6 @@ protected:
 private:
     int gear_;
 };
-
-/// Whether a drawing is pale, as one that is older than what is set.
-void Fade(QWidget& view, bool faded) {
-    if (faded == (view.graphicsEffect() != nullptr)) return;
-    auto* const effect = faded ? new QGraphicsOpacityEffect(&view) : nullptr;
-    if (effect != nullptr) effect->setOpacity(0.6);
-    view.setGraphicsEffect(effect);
-}
 
 /// An engine speed, with room for five digits. Its unit, which is long in some languages, stands in the column's title.
 ValueLabel* MakeRevs(Binding& binding, Label& field, QWidget* parent) {
@@ -375,7 +366,7 @@ QWidget* GearingPageView::MakeAcceleration() {
 
 /// The run as a small plot, where the window is high enough.
 QWidget* GearingPageView::MakeStrip(QWidget* parent) {
-    constexpr int kLowest = 110;
+    constexpr int kLowest = 92;
     auto* const view = new CanvasView(strip_, CanvasView::Shape::Stretched);
     view->setObjectName(QStringLiteral("RunStrip"));
     const auto draw = [this, view] {
@@ -473,7 +464,7 @@ void GearingPageView::ShowOrder() {
         for (int gear = 1; gear <= kGears; ++gear) ShowOrderOf(mode, gear, older && mode == inForce);
     }
     for (ValueLabel* figure : others_) figure->SetStanding(older ? FigureStanding::Older : FigureStanding::Follows);
-    for (QWidget* plot : plots_) Fade(*plot, older);
+    for (CanvasView* plot : plots_) plot->SetFaded(older);
     table_->SetGreyed(older);
     log_->SetGreyed(older);
 }

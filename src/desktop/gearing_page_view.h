@@ -10,6 +10,7 @@ class QGridLayout;
 
 namespace zolv {
 
+class CanvasView;
 class LogTable;
 
 /// The gearing page: the rows of the gears in the direction chosen on the left, with the figures and a small plot of
@@ -50,7 +51,7 @@ private:
     Canvas strip_{4000, 1000};
     GearRow rows_[2][7];               // by direction and gear
     std::vector<ValueLabel*> others_;  // figures that follow from all gears
-    std::vector<QWidget*> plots_;
+    std::vector<CanvasView*> plots_;
     RunTable* table_ = nullptr;
     LogTable* log_ = nullptr;
 };

@@ -5,6 +5,7 @@
 #include "desktop/desktop.h"
 #include "desktop/main_window.h"
 #include "desktop/recent_files.h"
+#include "desktop/screen_room.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/window_dialogs.h"
 #include "fields/all_windows.h"
@@ -46,6 +47,7 @@ void LastVisit::BringBack() {
     MainWindow& window = desktop_.Main();
     if (window.restoreGeometry(settings_.value(kPlace).toByteArray())) {
         window.setWindowState(window.windowState() & ~(Qt::WindowFullScreen | Qt::WindowMinimized));
+        if (!window.isMaximized()) KeepOnScreen(window);  // this screen may be smaller than the last one
     }
     window.Recent().SetFiles(settings_.value(kRecent).toStringList());
     window.Recent().WhenChanged([this, &window] {  // not only at the end, which a crash would not reach

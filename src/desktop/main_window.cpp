@@ -27,6 +27,7 @@
 #include "desktop/page_parts.h"
 #include "desktop/picture_view.h"
 #include "desktop/recent_files.h"
+#include "desktop/screen_room.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/tyres_page_view.h"
@@ -90,11 +91,10 @@ MainWindow::MainWindow(Binding& binding, QWidget* parent) : QMainWindow(parent),
 
 void MainWindow::PlaceOnScreen() {
     constexpr QSize kComfortable(1280, 780);
-    constexpr QSize kFrame(16, 48);  // what systems put around a window; its own is not known before it shows
-    const QRect room = screen()->availableGeometry();
-    resize(kComfortable.boundedTo(room.size() - kFrame));
-    move(room.topLeft() +
-         QPoint(room.width() - kFrame.width() - width(), room.height() - kFrame.height() - height()) / 2);
+    const QRect screenful = screen()->availableGeometry();
+    const QRect room = RoomOnScreen(*this);
+    resize(kComfortable.boundedTo(room.size()));
+    move(screenful.topLeft() + QPoint(room.width() - width(), room.height() - height()) / 2);
 }
 
 void MainWindow::MakeMenus() {

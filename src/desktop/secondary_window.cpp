@@ -137,11 +137,30 @@ void SecondaryWindow::PlaceOnScreen() {
     move(room.center() - rect().center());
 }
 
+void SecondaryWindow::StayAbove(QWidget& main, QWidget* opener) {
+    main_ = &main;
+    opener_ = opener;
+    if (opener_ != nullptr) opener_->installEventFilter(this);
+}
+
+/// The window's handle is that on which the order of windows rests.
+void SecondaryWindow::TakeOrder() {
+    if (main_ == nullptr) return;
+    const QWidget& below = opener_ != nullptr && opener_->isVisible() ? *opener_ : *main_;
+    windowHandle()->setTransientParent(below.windowHandle());
+}
+
+bool SecondaryWindow::eventFilter(QObject* watched, QEvent* event) {
+    const bool opens = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+    if (watched == opener_ && opens && isVisible()) TakeOrder();
+    return QWidget::eventFilter(watched, event);
+}
+
 void SecondaryWindow::setVisible(bool visible) {
     if (visible && !isVisible()) {
         PlaceOnScreen();
-        winId();  // makes the window's handle, on which the order of windows rests
-        if (main_ != nullptr) windowHandle()->setTransientParent(main_->windowHandle());
+        winId();  // makes the window's handle
+        TakeOrder();
     }
     if (!visible && isVisible()) place_ = saveGeometry();
     QWidget::setVisible(visible);

@@ -16,8 +16,11 @@ class SecondaryWindow : public QWidget {
 public:
     void setVisible(bool visible) override;
 
-    /// The window that this one stays above. It must be there as long.
-    void StayAbove(QWidget& main) { main_ = &main; }
+    /// The window that this one stays above, and another one that it is opened from and stays above while that one is
+    /// open. They must be there as long.
+    void StayAbove(QWidget& main, QWidget* opener = nullptr);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     /// A derived constructor fills Body(), adds the buttons and ends with Complete().
@@ -59,10 +62,12 @@ protected:
 
 private:
     void PlaceOnScreen();
+    void TakeOrder();
 
     Binding& binding_;
     Window& window_;
     QWidget* main_ = nullptr;
+    QWidget* opener_ = nullptr;
     QWidget* body_ = nullptr;
     QHBoxLayout* buttons_ = nullptr;
     QByteArray place_;  // size and position when it was last open

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 #include <string_view>
 
+#include "desktop/screen_room.h"
 #include "desktop/sheet_pictures.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
@@ -60,7 +61,7 @@ SheetWindow::SheetWindow(QWidget* parent)
     connect(preview_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) { PaintOn(*printer); });
     column->addWidget(preview_, 1);
     AddButtons(*column);
-    resize(kRoomy);
+    resize(kRoomy.boundedTo(RoomOnScreen(parent != nullptr ? *parent : *this).size()));
 }
 
 /// The preview goes before the printer that it shows.

@@ -23,10 +23,20 @@ int TypingLimit(const TextBox& field, const QString& text) {
     return std::max(static_cast<int>(field.MaxLength()), static_cast<int>(text.size()));
 }
 
+/// What the box shows of its field. A speed that another direction or unit has left may have a dozen digits, of which
+/// a box beside a slider has room for those that the slider moves by.
+QString ShownText(const TextBox& field) {
+    constexpr int kDecimals = 3;
+    const std::string& text = field.Text();
+    const std::size_t point = text.find('.');
+    const bool longer = point != std::string::npos && text.size() > point + 1 + kDecimals;
+    return ToQt(longer && SliderBeside(field) != nullptr ? RoundedText(Val(text), kDecimals) : text);
+}
+
 /// Brings the field's text into the box, with the caret at its end.
 /// @return whether the box had another one
 bool SetText(QLineEdit& edit, const TextBox& field) {
-    const QString text = ToQt(field.Text());
+    const QString text = ShownText(field);
     const int limit = TypingLimit(field, text);
     if (edit.text() == text && edit.maxLength() == limit) return false;
     edit.setMaxLength(limit);
@@ -101,9 +111,7 @@ void TypedBox::Edited() {
 }
 
 void TypedBox::Paused() {
-    // A box that has no range would take "" for 0, and the converter would complain of a tyre without a width.
-    const bool lacksDigits = slider_ == nullptr && HoldsNumber() && !HasDigit(edit_.text());
-    if (composing_ || lacksDigits || BeginsBelowRange() || !user_.IsTypingInto(*this)) return;
+    if (composing_ || LacksNumber() || BeginsBelowRange() || !user_.IsTypingInto(*this)) return;
     GiveToField(Moment::Pause);
 }
 
@@ -114,7 +122,7 @@ void TypedBox::GiveToField(Moment moment) {
     const bool open = IsOpen();
     const QString typed = Typed();
     user_.TypesNoMoreInto(*this);
-    if (open) {
+    if (open && !(slider_ != nullptr && LacksNumber())) {
         giving_ = true;
         user_.Input(
             field_, [&] { field_.Enter(FromQt(typed)); }, gesture_);
@@ -123,6 +131,10 @@ void TypedBox::GiveToField(Moment moment) {
     if (open && moment == Moment::Pause && StandsFor(typed)) return;
     Rewrite();
 }
+
+/// "" would be taken for 0: for the lower end of a range, or by the converter for a tyre without a width. It waits; a
+/// box beside a slider that is left so has its old number again.
+bool TypedBox::LacksNumber() const { return HoldsNumber() && !HasDigit(edit_.text()); }
 
 /// "0." on the way to "0.9": cut to the range, a slow hand could not go on from there.
 bool TypedBox::BeginsBelowRange() const {

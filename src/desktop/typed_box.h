@@ -83,6 +83,7 @@ private:
     void Begin();
     void Edited();
     void Paused();
+    bool LacksNumber() const;
     bool BeginsBelowRange() const;
     void GiveToField(Moment moment);
     bool StandsFor(const QString& typed) const;

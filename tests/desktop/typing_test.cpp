@@ -51,7 +51,7 @@ void Press(QLineEdit& box, const QString& keys) {
     }
 }
 
-/// In a box that held "2.4", whose slider goes from 0.5 to 7.5; text without a number counts as 0.
+/// In a box that held "2.4", whose slider goes from 0.5 to 7.5.
 void Typing::TypedAndPaused_data() {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("pasted");
@@ -66,7 +66,7 @@ void Typing::TypedAndPaused_data() {
     add("LastDigitAnew", "<6", {}, "2.6", "2.6", 2600);
     add("PointStays", "<", {}, "2.", "2.", 2000);
     add("ZeroWaits", "*0.", {}, "0.", "0.", 2400);
-    add("Emptied", "*<", {}, "", "0.5", 500);
+    add("EmptyWaits", "*<", {}, "", "", 2400);
     add("OwnFormStays", "*02.50", {}, "02.50", "02.50", 2500);
     add("FarTooMuch", "*24", {}, "24", "7.5", 7500);
     add("BelowTheRange", "*.4", {}, ".4", "0.5", 500);
@@ -75,7 +75,7 @@ void Typing::TypedAndPaused_data() {
     add("FullBoxRefusesAKey", "*2.123^1", {}, "2.123", "2.123", 2123);
     add("EnterWritesTheNumber", "*24!", {}, "7.5", "7.5", 7500);
     add("PastedComma", "*", QStringLiteral("2,5"), "2,5", "2.5", 2500);
-    add("PastedLetters", "*", QStringLiteral("abc"), "abc", "0.5", 500);
+    add("PastedLetters", "*", QStringLiteral("abc"), "abc", "abc", 2400);
     add("PastedLong", "*", QStringLiteral("2.12345678901234567890"), "2.123", "2.123", 2123);
     add("PastedVeryLong", "*", QString(1000000, u'9'), "99999", "7.5", 7500);
     add("PastedTwoLines", "*", QStringLiteral("2\n3"), "2\n3", "7.5", 7500);  // 23: a blank counts for nothing
@@ -101,7 +101,8 @@ void Typing::TypedAndPaused() {
 
     QVERIFY(!box.hasSelectedText());
 
-    Find<QLineEdit>("Gear1").setFocus();  // and when it is left the number stands there in its own form
+    // When it is left the number stands there in its own form, the old one for none.
+    Find<QLineEdit>("Gear1").setFocus();
     const bool waited = paused == QLatin1String("0.");
     QCOMPARE(box.text(), waited ? QStringLiteral("0.5") : QString::number(thousandths / 1000.0));
 }

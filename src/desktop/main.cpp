@@ -11,6 +11,7 @@
 #include "desktop/kept_set_up.h"
 #include "desktop/last_visit.h"
 #include "desktop/main_window.h"
+#include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/window_dialogs.h"
 #include "platform/process.h"
@@ -43,7 +44,6 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(usual);
     QApplication::setApplicationName(QStringLiteral("zolv"));
     QApplication::setDesktopFileName(QStringLiteral("io.github.tarmaq_zolv.Zolv"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zolv"), QIcon(QStringLiteral("zolv.png"))));
     QApplication::setQuitOnLastWindowClosed(false);  // on a first run the main window waits behind the languages
     zolv::ApplyTheme();
 
@@ -60,6 +60,8 @@ int main(int argc, char** argv) {
     };
     dialogs.Gather();
     zolv::EnterDataFolder();
+    const QIcon icon(zolv::ToQt(zolv::DataFile("zolv.png")));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zolv"), icon));
     zolv::LoadZolv();
     kept.BringBack();
     visit.BringBack();

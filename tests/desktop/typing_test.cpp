@@ -22,6 +22,7 @@ private Q_SLOTS:
     void HandedOverBeforeAnythingElse();
     void PassingDigitsNeverReachTheSearch();
     void EscapeBringsTheOldTextBack();
+    void ManyDigitsAreShownAsFarAsASliderMoves();
     void UpAndDownStep_data();
     void UpAndDownStep();
     void TabSelectsAll();
@@ -186,6 +187,20 @@ void Typing::EscapeBringsTheOldTextBack() {
     QVERIFY(WindowNamed("UnitConv").isVisible());
     QTest::keyClick(&box, Qt::Key_Escape);
     QVERIFY(!WindowNamed("UnitConv").isVisible());
+}
+
+/// Another direction leaves all digits of a ratio in its field.
+void Typing::ManyDigitsAreShownAsFarAsASliderMoves() {
+    const auto field = [] { return Zolv.Ratios.Input[3].Text(); };
+    ClickTab("Select_Page", 1);
+    Windows().TheBinding().Act([] { Zolv.Ratios.Input[3].SetText("1.699512345678"); });
+    QCOMPARE(ThirdGear().text(), QStringLiteral("1.7"));
+    Press(ThirdGear(), QStringLiteral("*1.8"));
+    QTest::keyClick(&ThirdGear(), Qt::Key_Escape);
+    QCOMPARE(field(), std::string("1.699512345678"));
+    QCOMPARE(ThirdGear().text(), QStringLiteral("1.7"));
+    Click(Find<QLineEdit>("Gear1"));  // untouched, it stays as it is
+    QCOMPARE(field(), std::string("1.699512345678"));
 }
 
 void Typing::UpAndDownStep_data() {

@@ -186,11 +186,6 @@ BalanceMarks PresentBalanceMarks() {
     return marks;
 }
 
-void ShowAeroWords() {
-    ShowBalance();
-    ShowWingAngles();
-}
-
 void MoveAeroSpeed() {
     ShowAeroSpeed();
     Zolv.Select_AeroSpeed_TyreTab.SetValue(Zolv.Select_AeroSpeed.Value());

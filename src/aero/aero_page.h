@@ -29,9 +29,6 @@ struct BalanceMarks {
 };
 [[nodiscard]] BalanceMarks PresentBalanceMarks();
 
-/// The language has changed: writes the words among the page's figures anew and calculates nothing.
-void ShowAeroWords();
-
 /// What the driver chose of the air, and the top speed that follows.
 struct AirChoices {
     double topSpeed = 0;              // [m/s]

@@ -90,27 +90,20 @@ void WireFollowUps() {
         ShowHeld();
     };
     optionFollowUps.PlotOptionChanged = DrawGearingPlots;
+    // Each unit of the file has been picked, with what follows it.
     fileFollowUps.OptionsLoaded = [] {
-        ShowCarInfo();
         CalcAeroForces();
         AnalyseTyres();
         Recalculate();
-        ShowStudies();
-        ShowHeld();
     };
+    // The lists of units have been filled anew and picked from: what has a unit stands in the new words.
     languageFollowUps.LanguageChanged = [] {
-        ShowAeroWords();
         ShowConverterWords();
-        ShowCarInfo();
-        Recalculate();
-        ShowStudies();
-        ShowHeld();
         ShowHistory();
     };
+    // Behind CarChanged, which comes first.
     deskFollowUps.LaidOut = [] {
-        ShowCarInfo();
         ShowCarPicture();
-        DrawEnginePlot();
         CalcAeroCoefficients();  // the wing angles come into force
         AnalyseTyres();
         Recalculate();

@@ -112,9 +112,6 @@ void ShowWingAngles(Showing which, int front, int rear) {
     Zolv.WingAngleFront.Write(which, NumberText(front) + degrees);
     Zolv.WingAngleRear.Write(which, NumberText(rear) + degrees);
 }
-void ShowWingAngles() {
-    ShowWingAngles(Showing::Present, Zolv.Select_FrontWingAngle.Value(), Zolv.Select_RearWingAngle.Value());
-}
 
 /// The air itself is the same for every set-up.
 void ShowAirItself() {

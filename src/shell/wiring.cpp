@@ -250,7 +250,6 @@ void WireUnits() {
     unitFollowUps.Speed = [] {
         CalcAeroForces();
         Recalculate();
-        ShowCarInfo();
         ShowStudies();
     };
     unitFollowUps.Distance = [] {
@@ -265,7 +264,6 @@ void WireUnits() {
     unitFollowUps.Area = [] {
         CalcAeroForces();
         AnalyseTyres();
-        ShowCarInfo();
         ShowSweep();
     };
     unitFollowUps.Mass = unitFollowUps.P2W = unitFollowUps.T2W = ShowCarInfo;
@@ -278,7 +276,6 @@ void WireUnits() {
     };
     unitFollowUps.Stiffness = AnalyseTyres;
     unitFollowUps.Acc = [] {
-        ShowCarInfo();
         RunAcceleration();
         RefreshRunView();
     };

@@ -60,16 +60,6 @@ void ShowTotals(Showing which, const StoredForces& air) {
     Zolv.Aero_TotalFriction.Write(which, units.Force.Text(air.TotalFriction));
 }
 
-/// What counts as neutral, either side of the weight's distribution.
-constexpr double kNeutralBand = 0.005;
-
-/// The balance of the lift against that of the weight.
-AirBalance BalanceOf(double share, double weightDist) {
-    if (share == 0 || !std::isfinite(share)) return AirBalance::None;
-    if (share < weightDist - kNeutralBand) return AirBalance::Understeer;
-    return share > weightDist + kNeutralBand ? AirBalance::Oversteer : AirBalance::Neutral;
-}
-
 void ShowBalance() {
     const auto show = [](const Rgb& colour, const std::string& word) {
         Zolv.Aero_AeroDistribution.SetColour(colour);
@@ -129,7 +119,7 @@ void EnableSpeedSliders(bool enabled) {
 
 void FindTopSpeed() {
     const CarRecord& car = vehicle.CurrentCar;
-    const TopSpeedResult top = TopSpeedOf(aero.Profile(), static_cast<double>(car.Power) * car.Efficiency);
+    const TopSpeedResult top = TopSpeedOf(aero.Profile(), PowerAtWheels(car));
     aero.TopSpeed = top.speed;
     if (aero.FixedSpeedMode) aero.Forces = RoundedForces(top.forces);
 }

@@ -7,9 +7,6 @@
 
 namespace zolv {
 
-/// Where the lift lies against the weight: further back, with it, or further forward. None without lift on the front.
-enum class AirBalance : std::uint8_t { None, Understeer, Neutral, Oversteer };
-
 struct AeroState {
     bool FixedSpeedMode = false;      // forces are those at the top speed; otherwise those at the slider's speed
     std::int16_t AeroSpeedValue = 0;  // [m/s] the slider's speed

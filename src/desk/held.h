@@ -77,7 +77,9 @@ enum class BetterWay : std::uint8_t { Neither, Up, Down };
 
 /// Writes the held figures of all labels, in the units and the language in force, and what is held into Label_Held; or
 /// clears them where none is held.
-/// Reads: desk.Held, units, texts, options, FrontTyreAnal
+/// Reads:  desk.Held, units, texts, options, FrontTyreAnal
+/// Writes: Label::Held of all labels, Label_Held, the buttons and entries that swap and release, tyres.HeldSheets, and
+///         desk.Held anew where the unit of speed has other targets
 void ShowHeld();
 
 }  // namespace zolv

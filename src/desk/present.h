@@ -42,7 +42,8 @@ struct BoxTexts {
 /// @param texts  what the boxes read, where the unit is still the same; nullptr for the numbers' own texts
 bool LayOutExactly(SetUp setUp, const BoxTexts* texts = nullptr);
 
-/// The set-up with each number moved into the range of its field, as it is when it is laid out.
+/// The set-up with ratios, speeds, final drives, pressures and wings moved into the ranges of their fields, as they are
+/// when it is laid out.
 /// @param setUp  with the record of its car
 [[nodiscard]] SetUp WithinRanges(SetUp setUp);
 

@@ -37,7 +37,8 @@ QLabel* MakeWords(Binding& binding, Label& field, QWidget* parent);
 /// Words in bold, for the title of a column or a drawing.
 QLabel* MakeTitle(Binding& binding, Label& field, QWidget* parent);
 
-/// Lets a label in a narrow column break between its words. @param field  the one that it is bound to
+/// Lets a label in a narrow column break between its words.
+/// @param field  the one that it is bound to
 void BreakBetweenWords(Binding& binding, const Label& field, QLabel& label);
 
 /// The title of a narrow column, in bold.

@@ -37,7 +37,8 @@ QPalette PaletteOf(const Colours& colours) {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, colour(colours.dimText));
     }
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, colour(colours.dimText));  // the way of a slider
+    palette.setColor(QPalette::Disabled, QPalette::Highlight,
+                     colour(colours.dimText));  // the part that a locked slider has passed
     return palette;
 }
 

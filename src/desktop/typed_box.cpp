@@ -23,8 +23,8 @@ int TypingLimit(const TextBox& field, const QString& text) {
     return std::max(static_cast<int>(field.MaxLength()), static_cast<int>(text.size()));
 }
 
-/// What the box shows of its field. A speed that another direction or unit has left may have a dozen digits, of which
-/// a box beside a slider has room for those that the slider moves by.
+/// What the box shows of its field. A number that another direction or unit has left may have a dozen digits, for which
+/// a box beside a slider has no room.
 QString ShownText(const TextBox& field) {
     constexpr int kDecimals = 3;
     const std::string& text = field.Text();

@@ -12,7 +12,9 @@ void SaveOptions();
 /// Reads the options and applies them; ends with the follow-up fileFollowUps.OptionsLoaded. A file that is missing or
 /// empty shows TextOptionsMissing. One that cannot be read, lacks lines, or holds a unit or a scale that does not exist
 /// shows a message with the reason. In both cases the options in memory are applied, since a start needs them applied
-/// once. Writes: units, options, the options panel
+/// once.
+///
+/// Writes: units, options, the options panel
 void LoadOptions();
 
 /// Whether the options are others than when they were last loaded or saved.

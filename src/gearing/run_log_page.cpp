@@ -13,6 +13,7 @@
 #include "text/texts.h"
 #include "text/words.h"
 #include "units/option_state.h"
+#include "units/unit_constants.h"
 #include "units/unit_state.h"
 
 namespace zolv {
@@ -85,7 +86,7 @@ std::string RunDistance(double metres) {
         std::string_view suffix;
     };
     constexpr DistanceUnit kMetres{1, " m"};
-    constexpr DistanceUnit kFeet{3.280839895, " ft"};
+    constexpr DistanceUnit kFeet{kFeetPerMetre, " ft"};
     constexpr std::array<DistanceUnit, 5> kBySpeedUnit{kMetres, kMetres, kFeet, kMetres, kFeet};
     const DistanceUnit& unit = kBySpeedUnit[static_cast<std::size_t>(units.Speed.Unit)];
     return WithUnit(metres * unit.factor, 1, unit.suffix);

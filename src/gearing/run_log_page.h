@@ -29,7 +29,7 @@ using LogLine = std::array<std::string, kLogCells>;
 void ShowRunLog();
 
 /// What the present shift points lose, where it can be read in hundredths of a second; otherwise nothing.
-/// Reads:  what PresentAccelerationSetup reads, options, GearingLabel(37)
+/// Reads:  gearing.LastRun, AccelLastRow and WrongOrder, options, GearingLabel(37)
 /// Writes: ShiftAdvice
 void ShowShiftAdvice();
 

@@ -125,6 +125,12 @@ AxleLoads AxleLoadsAt(double speed, const AirProfile& car) {
                       car);
 }
 
+AirBalance BalanceOf(double share, double weightDist) {
+    if (share == 0 || !std::isfinite(share)) return AirBalance::None;
+    if (share < weightDist - kNeutralBand) return AirBalance::Understeer;
+    return share > weightDist + kNeutralBand ? AirBalance::Oversteer : AirBalance::Neutral;
+}
+
 TopSpeedResult TopSpeedOf(const AirProfile& car, double power_kW) {
     constexpr float kHighest = 20'000;
     TopSpeedResult top;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "model/car_record.h"
 #include "model/constants.h"
 
@@ -70,7 +72,7 @@ using StoredForces = ForcesIn<float>;  // as the page keeps them
 
 /// Rolling resistance as a share of the load on the road: 0.01 + 3.6375e-7 v^2.5. A fit without a stated source, whose
 /// constants were rounded to 32-bit floats once and are used in double. Meant for the speeds that the cars reach, up to
-/// some 95 m/s, where it is 0.042; at the sliders' 200 m/s it would be 0.216.
+/// some 97 m/s, where it is 0.044; at the sliders' 200 m/s it would be 0.216.
 /// @param speed  [m/s], 0 or more
 [[nodiscard]] double RollingCoefficient(double speed);
 
@@ -92,6 +94,14 @@ struct AxleLoads {
 
 /// The static weight less the lift.
 [[nodiscard]] AxleLoads LoadsUnder(const AxleLoads& lift, const AirProfile& car);
+
+/// Where the lift lies against the weight: further back, with it, or further forward. None without lift on the front.
+enum class AirBalance : std::uint8_t { None, Understeer, Neutral, Oversteer };
+inline constexpr double kNeutralBand = 0.005;  // either side of the weight's distribution
+
+/// @param share       of the lift on the front axle
+/// @param weightDist  share of the weight on it
+[[nodiscard]] AirBalance BalanceOf(double share, double weightDist);
 
 struct TopSpeedResult {
     float speed = 0;   // [m/s]

@@ -66,6 +66,11 @@ struct CarRecord {
     bool operator==(const CarRecord&) const = default;
 };
 
+/// [kW] the most that reaches the wheels.
+[[nodiscard]] inline double PowerAtWheels(const CarRecord& car) {
+    return static_cast<double>(car.Power) * car.Efficiency;
+}
+
 /// Takes over a car's figures with the conversions of CarRecord.
 CarRecord RecordOf(const CarFigures& figures);
 

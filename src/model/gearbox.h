@@ -35,8 +35,12 @@ struct GearedCar {
     double Efficiency = 0;  // share of it that reaches the wheels
 };
 
-/// The bottom of the ratio sliders: a gear that the car lacks passes the order check behind any other with it.
-inline constexpr float kLackingRatio = 0.5F;
+/// The range of the ratio sliders.
+inline constexpr double kHighestRatio = 7.5;
+inline constexpr double kLowestRatio = 0.5;
+
+/// With the bottom of that range a gear that the car lacks passes the order check behind any other.
+inline constexpr auto kLackingRatio = static_cast<float>(kLowestRatio);
 /// The same for a wanted speed [m/s].
 inline constexpr float kLackingSpeed = 200;
 

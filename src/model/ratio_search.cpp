@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "model/gearbox.h"
+
 namespace zolv {
 namespace {
 

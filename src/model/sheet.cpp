@@ -63,11 +63,11 @@ Sheet EvaluateStill(const SetUp& setUp) {
 
     Sheet sheet;
     sheet.Curve = FittedCurve(EngineOf(car));
-    sheet.Top = TopSpeedOf(profile, static_cast<double>(car.Power) * car.Efficiency);
+    sheet.Top = TopSpeedOf(profile, PowerAtWheels(car));
     sheet.Air = AirOf(setUp, fittings, profile, sheet.Top);
     sheet.Front = FrontTyre(car, sizes, setUp.Blown ? 0 : setUp.FrontPressure, sheet.Air.FrontWheelForce);
     sheet.Rear = RearTyre(car, sizes, setUp.Blown ? 0 : setUp.RearPressure, sheet.Air.RearWheelForce);
-    sheet.PatchRatio = sheet.Front.PatchArea / sheet.Rear.PatchArea;
+    sheet.PatchRatio = PatchRatioOf(sheet.Front, sheet.Rear);
     FillGears(setUp, GearedCarOf(setUp, sheet), sheet);
     return sheet;
 }

@@ -20,7 +20,8 @@ struct RunSheet {
     AccelResults Results;
 };
 
-/// What follows from a set-up: everything that any page shows, in base units.
+/// What follows from a set-up, in base units. The pages write it, with the car's own figures and what is one step from
+/// both: shares, lift over drag, power to weight.
 struct Sheet {
     TyreSheet Front, Rear;
     double PatchRatio = 0;  // front patch area over rear patch area

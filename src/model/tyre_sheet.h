@@ -29,6 +29,11 @@ struct TyreSheet {
     double Frequency = 0;    // [Hz]
 };
 
+/// The front patch's area over the rear one's.
+[[nodiscard]] inline double PatchRatioOf(const TyreSheet& front, const TyreSheet& rear) {
+    return front.PatchArea / rear.PatchArea;
+}
+
 /// @param pressure_kPa  0 or more
 /// @param axleLoad_N    vertical, on the whole axle
 [[nodiscard]] TyreSheet FrontTyre(const CarRecord& car, const TyreSizes& sizes, double pressure_kPa, double axleLoad_N);

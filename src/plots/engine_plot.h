@@ -14,8 +14,10 @@ extern PlotState plots;
 
 /// Draws the engine of the car in use, torque and power against engine speed on one numerical axis. From then on the
 /// acceleration run and the torque plot go by this curve: between a change of car and this they still go by the old
-/// one. Reads:  vehicle.CurrentCar, vehicle.Curve, units.Power, units.Torque Writes: gearing.Curve, plots,
-/// TorquePowerPlot
+/// one.
+///
+/// Reads:  vehicle.CurrentCar, vehicle.Curve, units.Power, units.Torque
+/// Writes: gearing.Curve, plots, TorquePowerPlot
 void DrawEnginePlot();
 
 }  // namespace zolv

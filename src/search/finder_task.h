@@ -56,9 +56,8 @@ struct FinderWishes {
     };
     std::optional<double> TopSpeed;    // [m/s] that a run from a standing start passes
     std::optional<AtSpeed> Downforce;  // of the whole car, at least
-    bool NeutralBalance = false;       // share of the lift on the front axle within kNeutralBand of that of the weight
+    bool NeutralBalance = false;       // as BalanceOf has it
 };
-inline constexpr double kNeutralBand = 0.005;
 
 struct FinderTask {
     SetUp Present;  // where its speeds are given, its gears are those that reach them

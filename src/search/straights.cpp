@@ -12,6 +12,7 @@ struct Unit {
     std::string_view name;
     double base;  // m/s or m in one
 };
+// By their definitions, for a file that other programs read; the units of the pages have factors of their own.
 constexpr std::array<Unit, 5> kSpeedUnits{
     {{"m/s", 1}, {"km/h", 1 / 3.6}, {"mph", 0.44704}, {"knots", 1852.0 / 3600}, {"ft/s", 0.3048}}};
 constexpr std::array<Unit, 5> kLengthUnits{{{"m", 1}, {"km", 1000}, {"ft", 0.3048}, {"yd", 0.9144}, {"mi", 1609.344}}};

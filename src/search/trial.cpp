@@ -107,7 +107,7 @@ bool Trial::WingsWished(int front, int rear) const {
     }
     if (!task_.Wishes.NeutralBalance) return true;
     const double aero = EvaluateStill(setUp).Air.AeroDistribution;
-    return aero != 0 && std::fabs(aero - static_cast<double>(setUp.Car.WeightDist)) <= kNeutralBand;
+    return BalanceOf(aero, setUp.Car.WeightDist) == AirBalance::Neutral;
 }
 
 void Trial::TakeWings() {

@@ -101,7 +101,7 @@ void WireFollowUps() {
         ShowConverterWords();
         ShowHistory();
     };
-    // Behind CarChanged, which comes first.
+    // A car that was picked with it has brought its info and its engine's plot already.
     deskFollowUps.LaidOut = [] {
         ShowCarPicture();
         CalcAeroCoefficients();  // the wing angles come into force

@@ -20,7 +20,9 @@ void StartSweep();
 void StopSweep();
 
 /// The user has clicked on the plot: the inputs of the nearest point come into the boxes of the point, and are taken
-/// over. @param x, y  as the axes read; y does not count for a curve
+/// over.
+///
+/// @param x, y  as the axes read; y does not count for a curve
 void ClickSweepPoint(double x, double y);
 
 /// A point has been typed: the result at the nearest one of the sweep is shown.

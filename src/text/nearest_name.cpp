@@ -35,8 +35,8 @@ int Distance(std::string_view a, std::string_view b) {
 }  // namespace
 
 std::string NearestName(std::string_view name, const std::vector<std::string>& names) {
-    constexpr std::size_t kLongestName =
-        100;  // of a field or a row; the time grows with the length, and a line of a script can be long
+    // Of a field or a row: the time grows with the length, and a line of a script can be long.
+    constexpr std::size_t kLongestName = 100;
     name = name.substr(0, kLongestName);
     std::string nearest;
     int least = std::numeric_limits<int>::max();

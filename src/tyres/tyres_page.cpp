@@ -52,7 +52,7 @@ void ShowTyresOf(Showing which, const TyrePair& pair, float tyreMu) {
     const auto& [front, rear] = pair;
     ShowTyre(which, AnalysedOf(pair));
     Zolv.MU.Write(which, NumberText(tyreMu));
-    Zolv.FRCPR.Write(which, RoundedText(front.PatchArea / rear.PatchArea, 3));
+    Zolv.FRCPR.Write(which, RoundedText(PatchRatioOf(front, rear), 3));
     Zolv.Label_PressureF.Write(which, units.Pressure.Text(front.Pressure));
     Zolv.Label_PressureR.Write(which, units.Pressure.Text(rear.Pressure));
 }

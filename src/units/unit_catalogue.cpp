@@ -92,9 +92,9 @@ constexpr UnitRow kPowerToWeight[] = {  // the values are PowerToWeight's
 constexpr UnitRow kTorqueToWeight[] = {
     {"Nm/t",           " Nm/t",       Single(1000),                             0},
     {"Nm/kg",          " Nm/kg",      Single(1),                                2},
-    {"lb ft/ton (US)", " lb ft/ton",  Single(1474.62056909531 / kPoundsPerKg),  0},
-    {"lb ft/ton (UK)", " lb ft/ton",  Single(1651.5750373867472 / kPoundsPerKg), 0},
-    {"lb in/slug",     " lb in/slug", Single(284.6670827531629 / kPoundsPerKg), 0},
+    {"lb ft/ton (US)", " lb ft/ton",  Single(kPoundsPerShortTon * kPoundFeetPerNm / kPoundsPerKg), 0},
+    {"lb ft/ton (UK)", " lb ft/ton",  Single(kPoundsPerLongTon * kPoundFeetPerNm / kPoundsPerKg), 0},
+    {"lb in/slug",     " lb in/slug", Single(kPoundsPerSlug * kPoundInchesPerNm / kPoundsPerKg), 0},
     {"lb in/lb",       " lb in/lb",   Single(kPoundInchesPerNm / kPoundsPerKg), 2},
 };
 

@@ -37,6 +37,7 @@ TEST_F(Batch, AnUnusableLineEndsTheRun) {
         {"get Gear1 visible now", "more words than the command takes: now"},
         {"set Select_Ratio1 much", "Select_Ratio1 takes a whole number, not \"much\""},
         {"set Select_Ratio1 nan", "Select_Ratio1 takes a whole number, not \"nan\""},
+        {"set Select_Ratio1 12x", "Select_Ratio1 takes a whole number, not \"12x\""},
         {"set BlowTyres yes", "BlowTyres takes on or off, not \"yes\""},
         {"set RPM1 7000", "RPM1 is nothing that a value can be set in"},
         {"click Gear1", "Gear1 is nothing that can be pressed"},

@@ -105,6 +105,7 @@ TEST(Document, StandsAloneAsHtml) {
     EXPECT_THAT(html, HasSubstr("<svg xmlns"));
     EXPECT_THAT(html, Not(HasSubstr("<?xml")));
     EXPECT_THAT(html, Not(HasSubstr("src=")));
+    EXPECT_THAT(html, testing::EndsWith("</body>\n</html>\n"));
 }
 
 TEST(Document, HasNumberAndUnitOfAFigureOrItsTextWhole) {

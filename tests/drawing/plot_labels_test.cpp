@@ -186,6 +186,20 @@ TEST_F(PlotOfTime, ReadsEachCurveThatPasses) {
     EXPECT_FALSE(ShareX(canvas, other));
 }
 
+TEST_F(PlotOfTime, NamesOfPointsStayOnTheGround) {
+    for (const double y : {0.0, 200.0, 400.0}) {
+        canvas.Clear();
+        canvas.SetAxes({.scale = 6, .step = 10, .start = 0, .end = 600, .title = "Time", .unit = "s"},
+                       {.origin = 400, .scale = -40, .step = 1, .start = 400, .end = 0, .title = "Force", .unit = "N"});
+        canvas.FillCircle(Role::PresentPoint, y == 0 ? 590 : 300, y, 5, kBlack);
+        canvas.AddName(Role::PresentPoint, "Present");
+        const std::vector<PlacedWords> words = Words();
+        const PlacedWords* const name = Find(words, "Present");
+        ASSERT_NE(name, nullptr);
+        EXPECT_TRUE(Inside(name->box, Place({600, 400}).ground) == name->box) << y;
+    }
+}
+
 TEST_F(PlotOfTime, ReadingsStandWhereTheyCoverNoCurve) {
     const PlotPlace place = Place({600, 400});
     const Box& ground = place.ground;

@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "aero/aero_page.h"
 #include "aero/aero_state.h"
 #include "drawing/curve_reading.h"
 #include "shell/fresh_start.h"
@@ -71,6 +73,20 @@ TEST_F(AirPlot, IsInTheUnitsOfTheUser) {
     EXPECT_THAT(At(144), ElementsAre("Downforce 433.115 lbf", "Drag 216.557 lbf"));
     EXPECT_EQ(TitleWithUnit(plot_.PresentAxes().x), "Speed [km/h]");
     EXPECT_EQ(Mark().name, "144 km/h");
+}
+
+/// The bar reaches a tenth of the lift to either side of the weight, and half a hundredth counts as neutral.
+TEST_F(AirPlot, BalanceIsABarOfAFifthAroundTheWeight) {
+    vehicle.CurrentCar.WeightDist = 0.5F;
+    aero.Balance = AirBalance::Oversteer;
+    for (const auto& [share, place] : {std::pair(0.55, 0.75), {0.5, 0.5}, {0.42, 0.1}, {0.3, 0.0}, {0.9, 1.0}}) {
+        aero.AeroDistribution = share;
+        EXPECT_NEAR(PresentBalanceMarks().Here.value_or(-1), place, 1e-9);
+    }
+    EXPECT_NEAR(PresentBalanceMarks().BandFrom, 0.475, 1e-9);
+    EXPECT_NEAR(PresentBalanceMarks().BandTo, 0.525, 1e-9);
+    aero.Balance = AirBalance::None;
+    EXPECT_FALSE(PresentBalanceMarks().Here);
 }
 
 }  // namespace

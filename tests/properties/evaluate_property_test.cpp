@@ -1,5 +1,5 @@
-// Whatever set-up lies on the pages, every figure of every page is the text of what Evaluate gives for it: the pages'
-// procedures, with their order and their stores, and the pure function are one calculation.
+// Whatever set-up lies on the pages, what they show of tyres, air, gears and run is the text of what Evaluate gives for
+// it: the pages' procedures, with their order and their stores, and the pure function are one calculation.
 
 #include <map>
 #include <memory>
@@ -91,6 +91,7 @@ void AddGears(const SetUp& setUp, const Gearbox& box, Texts& shown) {
         shown[page + "Torque" + g] = units.Torque.Text(box.GearTorque[gear]);
     }
     shown[page + "TorqueR"] = units.Torque.Text(box.GearTorque[0]);
+    // Not the engine speed of reverse, which the direction from speeds leaves as it was.
     shown["SpeedR"] = shown["SpeedR2"] = units.Speed.Text(box.GearSpeed[0]);
 }
 

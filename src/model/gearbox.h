@@ -35,11 +35,7 @@ struct GearedCar {
     double Efficiency = 0;  // share of it that reaches the wheels
 };
 
-/// The range of the ratio sliders.
-inline constexpr double kHighestRatio = 7.5;
-inline constexpr double kLowestRatio = 0.5;
-
-/// With the bottom of that range a gear that the car lacks passes the order check behind any other.
+/// With the lowest of the sliders' ratios a gear that the car lacks passes the order check behind any other.
 inline constexpr auto kLackingRatio = static_cast<float>(kLowestRatio);
 /// The same for a wanted speed [m/s].
 inline constexpr float kLackingSpeed = 200;

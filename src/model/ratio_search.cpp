@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "model/gearbox.h"
-
 namespace zolv {
 namespace {
 

@@ -12,6 +12,10 @@ struct FoundRatios {
     bool Raised = false;   // whether it was
 };
 
+/// The range of the ratio sliders.
+inline constexpr double kHighestRatio = 7.5;
+inline constexpr double kLowestRatio = 0.5;
+
 /// Finds the ratios that reach the wanted speeds at the top of each gear. A gear's automatic shift point depends on the
 /// ratio of the next gear, and its ratio on the shift point, so that they are found by repeated substitution: a seed, a
 /// first round upward through the gears, and 39 passes. An excess of first gear above kHighestRatio goes to the final

@@ -67,12 +67,14 @@ long long PowerOfTen(const std::string& number) {
     const auto mark = std::min(number.find('e'), number.size());
     const auto point = std::min(number.find('.'), mark);
     const auto first = std::min(number.find_first_of("123456789"), mark);
+    constexpr long long kBeyond = 1'000'000'000;  // any double, and any count of digits
     long long exponent = 0;
     if (mark < number.size()) {
         const auto sign = number[mark + 1] == '+' ? 1U : 0U;  // std::from_chars takes no plus
         const auto error = std::from_chars(&number[mark] + 1 + sign, number.data() + number.size(), exponent).ec;
-        if (error != std::errc()) exponent = number[mark + 1] == '-' ? -1'000'000'000 : 1'000'000'000;
+        if (error != std::errc()) exponent = number[mark + 1] == '-' ? -kBeyond : kBeyond;
     }
+    exponent = std::clamp(exponent, -kBeyond, kBeyond);
     return exponent + static_cast<long long>(point) - static_cast<long long>(first) - (first < point ? 1 : 0);
 }
 

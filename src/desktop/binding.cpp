@@ -188,11 +188,16 @@ void Binding::Bind(Button& field, QPushButton& button) {
 
 void Binding::Bind(MenuEntry& field, QAction& action) {
     Name(action, field);
-    action.setShortcuts(QKeySequence::listFromString(ToQt(field.Shortcut())));
+    const QList<QKeySequence> keys = QKeySequence::listFromString(ToQt(field.Shortcut()));
+    action.setShortcuts(keys);
+    // A menu shows the first key only, unless the text brings its own.
+    QStringList names;
+    for (const QKeySequence& key : keys) names << key.toString(QKeySequence::NativeText);
+    const QString shown = keys.size() > 1 ? u'\t' + names.join(QStringLiteral(", ")) : QString();
     // What is taken over from another window can be taken back there.
     if (&field == &Zolv.EditUndo || &field == &Zolv.EditRedo) action.setShortcutContext(Qt::ApplicationShortcut);
-    OnChanged(field, [&] {
-        action.setText(ToQt(field.Caption()));
+    OnChanged(field, [&field, &action, shown] {
+        action.setText(ToQt(field.Caption()) + shown);
         action.setEnabled(field.Enabled());
         action.setVisible(field.Visible());
     });

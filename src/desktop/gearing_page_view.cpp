@@ -246,7 +246,10 @@ void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
     shown.box = MakeBox(binding_, panel.Input[gear], name, parent, mode);
     grid.addWidget(shown.box, row, kInput);
     if (mode == 1) grid.addWidget(MakeWords(binding_, Zolv.Label_SPD[gear], parent), row, kUnit);
-    grid.addWidget(MakeSlider(binding_, panel.InputSlider[gear], name, parent, mode), row, kSlider);
+    // A ratio has no unit: its slider begins where that would stand.
+    const Column sliderFrom = mode == 0 ? kUnit : kSlider;
+    grid.addWidget(MakeSlider(binding_, panel.InputSlider[gear], name, parent, mode), row, sliderFrom, 1,
+                   kResult - sliderFrom);
 
     const WidestOf widest =
         mode == 0 ? WidestTexts(&UnitState::Speed, kWidestSpeed) : WidestOf{QStringLiteral("88.888")};
@@ -316,9 +319,12 @@ void GearingPageView::AddFinalDrive(QGridLayout& grid, int mode) {
     const int row = NextRow(grid);
     QLabel* const label = MakeWords(binding_, name, parent);
     BreakBetweenWords(binding_, name, *label);
+    // The names of the gears are short, and the sliders above have what the column leaves.
+    binding_.OnChanged(name, [label] { label->setMaximumWidth(label->minimumWidth()); });
     grid.addWidget(label, row, kName);
     grid.addWidget(MakeBox(binding_, panel.FinalDrive, name, parent, mode), row, kInput);
-    grid.addWidget(MakeSlider(binding_, panel.FinalDriveSlider, name, parent, mode), row, kSlider, 1, 3);
+    grid.addWidget(MakeSlider(binding_, panel.FinalDriveSlider, name, parent, mode), row, mode == 0 ? kUnit : kSlider,
+                   1, mode == 0 ? 4 : 3);
 }
 
 QWidget* GearingPageView::MakeAcceleration() {

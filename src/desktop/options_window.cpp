@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -83,6 +84,11 @@ OptionsWindow::OptionsWindow(Binding& binding, QWidget* parent) : SecondaryWindo
     auto* const tabs = Make<QTabBar>(form.Select_Options, Body());
     tabs->setExpanding(false);
     layout->addWidget(tabs);
+    for (const auto& [key, step] :
+         {std::pair("Ctrl+Tab", 1), {"Ctrl+PgDown", 1}, {"Ctrl+Shift+Tab", -1}, {"Ctrl+PgUp", -1}}) {
+        connect(new QShortcut(QKeySequence(QLatin1String(key)), this), &QShortcut::activated, this,
+                [this, step] { Turn(step); });
+    }
 
     auto* const stack = new QStackedWidget(Body());
     std::vector<Panel*> pages;
@@ -102,6 +108,13 @@ OptionsWindow::OptionsWindow(Binding& binding, QWidget* parent) : SecondaryWindo
         if (!OptionsChanged()) saved->Say(ToQt(words["OptionsSaved"]));
     });
     Complete();
+}
+
+/// The page beside the one in front, as on the main window.
+void OptionsWindow::Turn(int step) {
+    TabStrip& pages = OptionsPanel.Select_Options;
+    const int count = static_cast<int>(pages.Rows().size());
+    Fields().Input(pages, [&] { pages.Pick((pages.Picked() + step + count) % count); });
 }
 
 QWidget* OptionsWindow::MakeUnitsPage() {

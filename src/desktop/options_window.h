@@ -14,6 +14,7 @@ public:
     explicit OptionsWindow(Binding& binding, QWidget* parent = nullptr);
 
 private:
+    void Turn(int step);
     QWidget* MakeUnitsPage();
     QLayout* MakeSystems(QWidget* page);
     QWidget* MakeGraphsPage();

@@ -15,6 +15,7 @@
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
 #include "desktop/value_label.h"
+#include "desktop/word_breaks.h"
 #include "text/difference.h"
 #include "units/unit_catalogue.h"
 
@@ -63,10 +64,8 @@ void BreakBetweenWords(Binding& binding, const Label& field, QLabel& label) {
         constexpr int kNarrowest = 70;
         constexpr int kAnyHeight = 1000;
         const QFontMetrics metrics = label.fontMetrics();
-        int widest = kNarrowest;
-        for (const QString& word : label.text().split(QLatin1Char(' '))) {
-            widest = std::max(widest, metrics.horizontalAdvance(word));
-        }
+        label.setText(WithBreaks(label.text()));
+        const int widest = std::max(kNarrowest, WidestPiece(metrics, label.text()));
         const int width = std::min(widest, metrics.horizontalAdvance(label.text()));
         const QRect column(0, 0, width + 1, kAnyHeight);
         label.setMinimumSize(width + 2, metrics.boundingRect(column, Qt::TextWordWrap, label.text()).height());

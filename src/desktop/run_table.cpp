@@ -3,10 +3,12 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <algorithm>
+#include <numeric>
 
 #include "desk/held.h"
 #include "desktop/texts_of_qt.h"
 #include "desktop/theme.h"
+#include "desktop/word_breaks.h"
 #include "gearing/run_columns.h"
 #include "text/words.h"
 
@@ -19,7 +21,8 @@ constexpr int kTimeLostAt = 2;  // behind the speed
 constexpr int kCellRoom = 10;   // beside the text of a cell
 
 QString HeadOf(const RunColumn& column) {
-    return ToQt(column.Unit.empty() ? column.Title : column.Title + "\n[" + column.Unit + ']');
+    const QString title = WithBreaks(ToQt(column.Title));
+    return column.Unit.empty() ? title : title + QStringLiteral("\n[") + ToQt(column.Unit) + u']';
 }
 
 /// What a column shows: a column of the run, or where a set-up is held, how much later than in its run the speed is
@@ -33,13 +36,6 @@ std::vector<RunColumn> ShownColumns() {
     std::vector<RunColumn> columns = RunColumns();
     if (desk.Held != nullptr) columns.insert(columns.begin() + kTimeLostAt, {words["TimeLost"], "s"});
     return columns;
-}
-
-/// The widest word of a title: it breaks between words.
-int WidestWord(const QFontMetrics& metrics, const QString& title) {
-    int width = 0;
-    for (const QString& word : title.split(QLatin1Char(' '))) width = std::max(width, metrics.horizontalAdvance(word));
-    return width;
 }
 
 }  // namespace
@@ -122,32 +118,37 @@ void RunTable::Fill() {
 
 void RunTable::MeasureColumns() {
     const QFontMetrics head = horizontalHeader()->fontMetrics();
+    whole_.clear();
     narrowest_.clear();
     for (const RunColumn& column : ShownColumns()) {
         const bool isGear = ContentOf(static_cast<int>(narrowest_.size())) == kGear;
         const int number = fontMetrics().horizontalAdvance(isGear ? QStringLiteral("8") : QStringLiteral("88888"));
-        const int title = WidestWord(head, ToQt(column.Title));
         const int unit = head.horizontalAdvance(QLatin1Char('[') + ToQt(column.Unit) + QLatin1Char(']'));
-        narrowest_.push_back(std::max({number, title, unit}) + kCellRoom);
+        const QString title = ToQt(column.Title);
+        whole_.push_back(std::max({number, unit, WidestPiece(head, title)}) + kCellRoom);
+        narrowest_.push_back(std::max({number, unit, WidestPiece(head, WithBreaks(title))}) + kCellRoom);
     }
     SpreadColumns();
 }
 
-/// What the columns leave of the width goes to all of them. The head is as high as its titles need.
+/// Words are broken where the columns need it. What they leave of the width goes to all of them. The head is as high as
+/// its titles need.
 void RunTable::SpreadColumns() {
     constexpr int kAnyHeight = 1000;
     const QFontMetrics head = horizontalHeader()->fontMetrics();
     const std::vector<RunColumn> titles = ShownColumns();
-    int left = viewport()->width();
-    for (const int width : narrowest_) left -= width;
+    const int room = viewport()->width();
+    const bool fits = std::accumulate(whole_.begin(), whole_.end(), 0) <= room;
+    const std::vector<int>& least = fits ? whole_ : narrowest_;
+    int left = room - std::accumulate(least.begin(), least.end(), 0);
     int height = 0;
-    for (std::size_t column = 0; column < narrowest_.size(); ++column) {
-        const int share = std::max(0, left / static_cast<int>(narrowest_.size() - column));
+    for (std::size_t column = 0; column < least.size(); ++column) {
+        const int share = std::max(0, left / static_cast<int>(least.size() - column));
         left -= share;
-        const int width = narrowest_[column] + share;
+        const int width = least[column] + share;
         setColumnWidth(static_cast<int>(column), width);
-        const QRect room(0, 0, width - kCellRoom, kAnyHeight);
-        height = std::max(height, head.boundingRect(room, Qt::TextWordWrap, HeadOf(titles[column])).height());
+        const QRect cell(0, 0, width - kCellRoom, kAnyHeight);
+        height = std::max(height, head.boundingRect(cell, Qt::TextWordWrap, HeadOf(titles[column])).height());
     }
     horizontalHeader()->setFixedHeight(height + kGap);
 }

@@ -46,7 +46,7 @@ private:
     void SpreadColumns();
 
     RunModel model_;
-    std::vector<int> narrowest_;  // width of each column, in pixels
+    std::vector<int> whole_, narrowest_;  // width of each column with its words whole and broken, in pixels
     bool stale_ = true;
 };
 

@@ -27,8 +27,6 @@ AxisNumbers NumbersOfY(const PlotPlace& place, const PlotAxis& axis, const TextM
                         [room = measure.height * 1.3](const std::string&) { return room; });
 }
 
-/// Above stands the title of y, so high that a number at the top of the axis fits below it; below the numbers of x and
-/// their title.
 /// One grid for two axes of one scale: the steps of the one that has the wider ones.
 void UseOneGrid(PlotPlace& place, const Canvas::Axes& axes, const TextMeasure& measure) {
     const auto stepOf = [](const AxisNumbers& along, const PlotAxis& axis) {
@@ -56,6 +54,8 @@ double RoomForScale(const Canvas& canvas, const TextMeasure& measure) {
     return kBarGap + kBarWidth + kTick + kNumberGap + 2 * kFrame + widest;
 }
 
+/// Above stands the title of y, so high that a number at the top of the axis fits below it; below the numbers of x and
+/// their title.
 Margins MarginsFor(const Canvas& canvas, const AxisNumbers& yNumbers, const TextMeasure& measure) {
     double widest = measure.width("00000");
     for (const AxisNumber& number : yNumbers.numbers) widest = std::max(widest, measure.width(number.text));

@@ -360,6 +360,7 @@ inline constexpr auto kWordTable = std::to_array<WordRow>({
     {"WheelOrEngineSpeed", "Wheel or engine speed"},
     {"WheelSpeed", "Wheel speed"},
     {"WingsGoFlat", "Corners do not count here: without a wish for downforce a wing only goes flat, or to where its grip helps the start."},
+    {"WordBreaks", "Acceler-ation"},  // words of titles that may be broken in narrow columns, and where
 });
 // clang-format on
 

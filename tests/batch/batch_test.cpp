@@ -1,6 +1,7 @@
 // The command line of zolv-batch, and what it says of a line that it cannot use.
 
 #include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <utility>
 #include <vector>
@@ -116,6 +117,18 @@ TEST_F(Batch, ReadsEveryKindOfLineEnd) {
     }
     EXPECT_THAT(RunBatch("").Answers(), ElementsAre());
 }
+
+#ifndef _WIN32
+// Who asks waits at most ten seconds for the answer before he gives the next line.
+TEST_F(Batch, AnswersBeforeItWaitsForTheNextLine) {
+    const char* const conversation =
+        "( echo get Gear1; tries=0; while [ $tries -lt 1000 ] && ! grep -q Gear1 answers; do sleep 0.01; "
+        "tries=$((tries + 1)); done; [ $tries -lt 1000 ] && echo get Gear2 ) | \"" ZOLV_BATCH "\" > answers";
+    WriteContent("answers", "");
+    EXPECT_EQ(std::system(conversation), 0);
+    EXPECT_THAT(ContentOf("answers"), HasSubstr("Gear2 = "));
+}
+#endif
 
 TEST_F(Batch, LosesNoAnswerWithoutAWord) {
     const BatchRun run = RunBatch("get Gear1\n", "> /dev/full");

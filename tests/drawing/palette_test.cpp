@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 namespace zolv {
 namespace {
@@ -24,6 +25,19 @@ TEST(Palette, EveryColourIsReadableAsWords) {
     }
     for (const Rgb pure : {kRed, kGreen, kBlue, kMagenta, kCyan}) EXPECT_GE(Contrast(Softened(pure), kWhite), 4.5);
     EXPECT_GE(Contrast(kWordsInk, kWhite), 4.5);
+}
+
+TEST(Palette, CurvesOfOnePlotDiffer) {
+    using enum Role;
+    const std::vector<std::vector<Role>> plots{{DrivingForce, Resistance, NetForce, FrontLoad, RearLoad},
+                                               {PeakPower, PeakTorque, Limiter},
+                                               {Power, Torque, Limiter},
+                                               {Downforce, Drag}};
+    for (const std::vector<Role>& roles : plots) {
+        for (std::size_t i = 0; i < roles.size(); ++i) {
+            for (std::size_t k = 0; k < i; ++k) EXPECT_NE(ColourOf(roles[i]), ColourOf(roles[k])) << i << " and " << k;
+        }
+    }
 }
 
 using Linear = std::array<double, 3>;

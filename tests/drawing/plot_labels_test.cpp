@@ -156,6 +156,22 @@ TEST_F(PlotOfTime, AnAreaHasItsMeasuresOnAGridOfRoundNumbers) {
     EXPECT_LT(tall.Right(), mapping.X(500));
 }
 
+// Lines that lie closer than four pixels would be a grey ground: only those with numbers are painted.
+TEST_F(PlotOfTime, ADenseGridIsPaintedAtItsNumbers) {
+    canvas.SetAxes({.scale = 6, .step = 0.25, .start = 0, .end = 600},
+                   {.origin = 400, .scale = -40, .step = 1, .start = 400});
+    const PlotPlace place = Place({600, 400});
+    const ShownGrid grid(canvas, place);
+    const auto shows = [&](double x1, double y1, double x2, double y2) {
+        return grid.Shows({DrawingOperation::Kind::Line, kBlack, 1, Role::Grid, 0, x1, y1, x2, y2});
+    };
+    const double numbered = place.xNumbers.numbers[1].coordinate;
+    EXPECT_TRUE(shows(numbered, 0, numbered, 400));
+    EXPECT_FALSE(shows(numbered + 1.5, 0, numbered + 1.5, 400));  // a quarter of a second on
+    EXPECT_TRUE(shows(0, 120, 600, 120));
+    EXPECT_TRUE(shows(0, 160, 600, 160));
+}
+
 TEST_F(PlotOfTime, TheLegendTellsWhatIsHeld) {
     Curve(Role::NetForce, "now", 0, 2, 100, 8);
     Curve({Role::NetForce, Standing::Held}, "before", 0, 1, 100, 7);

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "drawing/plot_labels.h"
+#include "drawing/text_measure.h"
 #include "text/number_text.h"
 
 namespace zolv {
@@ -74,6 +78,101 @@ TEST(Svg, ShowsWhatAWindowShows) {
         EXPECT_NE(svg.find(shown), std::string::npos) << shown << '\n' << svg;
     }
     EXPECT_EQ(svg.find("#00ff00"), std::string::npos);
+}
+
+/// The start tag of the element that ends in `end`, from `svg`.
+std::string TagBefore(const std::string& svg, const std::string& end) {
+    const std::size_t at = svg.find(end);
+    if (at == std::string::npos) return {};
+    const std::size_t start = svg.rfind('<', at);
+    return svg.substr(start, at - start);
+}
+
+double Attribute(const std::string& tag, const std::string& name) {
+    const std::size_t at = tag.find(' ' + name + "=\"");
+    return at == std::string::npos ? -1 : Val(tag.substr(at + name.size() + 3));
+}
+
+std::string RectangleOf(const Box& box, const std::string& fill) {
+    const auto place = [](double value) { return '"' + RoundedText(value, 2) + '"'; };
+    return "<rect x=" + place(box.left) + " y=" + place(box.top) + " width=" + place(box.width) +
+           " height=" + place(box.height) + ' ' + fill + "/>\n";
+}
+
+// Capitals of common fonts rise to 0.73 of their size above the line, and tails reach to 0.24 below.
+TEST(Svg, WordsStandInTheirBoxes) {
+    Canvas canvas(600, 400);
+    canvas.SetAxes({.scale = 6, .step = 20, .start = 0, .end = 600, .title = "Time", .unit = "s"},
+                   {.origin = 400, .scale = -4, .step = 7, .start = 400, .end = 0, .title = "Force", .unit = "N"});
+    canvas.Line(Role::Gear1, 0, 390, 600, 300);
+    canvas.AddName(Role::Gear1, "a rising curve");
+    canvas.Line(Role::Limiter, 0, 100, 600, 100);
+    canvas.AddName(Role::Limiter, "Limiter");
+    canvas.AddLegend({"other", {Role::Gear1, Standing::Held}});
+    constexpr double kSize = 12;
+    const TextMeasure measure = EstimatedMeasure(kSize);
+    const PlotLabels labels = LabelsOf(canvas, PlaceOf(canvas, CanvasShape::Stretched, {600, 400}, measure), measure);
+    const std::string svg = SvgOf(canvas, {600, 400, CanvasShape::Stretched});
+    int veiled = 0;
+    for (const PlacedWords& words : labels.words) {
+        if (words.text == "0") continue;  // stands at both axes
+        const std::string tag = TagBefore(svg, '>' + words.text + "</text>");
+        const std::string anchor = words.anchor == PlacedWords::Anchor::Right    ? " text-anchor=\"end\""
+                                   : words.anchor == PlacedWords::Anchor::Centre ? " text-anchor=\"middle\""
+                                                                                 : "";
+        const double place = words.anchor == PlacedWords::Anchor::Right    ? words.box.Right()
+                             : words.anchor == PlacedWords::Anchor::Centre ? words.box.CentreX()
+                                                                           : words.box.left;
+        EXPECT_NEAR(Attribute(tag, "x"), place, 0.006) << words.text;
+        EXPECT_GE(Attribute(tag, "y") - 0.73 * kSize, words.box.top) << words.text;
+        EXPECT_LE(Attribute(tag, "y") + 0.24 * kSize, words.box.Bottom()) << words.text;
+        EXPECT_EQ(tag.find(" text-anchor") == std::string::npos, anchor.empty()) << words.text;
+        EXPECT_NE(tag.find(anchor), std::string::npos) << words.text;
+        if (!words.veiled) continue;
+        ++veiled;
+        const std::size_t veil = svg.find(RectangleOf(words.box, "fill=\"#ffffff\" fill-opacity=\"0.85\""));
+        EXPECT_LT(veil, svg.find('>' + words.text + "</text>")) << words.text;  // under it
+    }
+    EXPECT_GE(veiled, 1);
+    ASSERT_EQ(labels.strokes.size(), 1U);
+    const Box& stroke = labels.strokes[0].box;
+    const std::string y = RoundedText(stroke.CentreY(), 2);
+    EXPECT_NE(svg.find("<path d=\"M" + RoundedText(stroke.left, 2) + ' ' + y + 'L' + RoundedText(stroke.Right(), 2) +
+                       ' ' + y + "\" fill=\"none\" stroke=\"#1111bb\" stroke-width=\"1.25\""),
+              std::string::npos)
+        << svg;
+}
+
+// The bar of a map in its frame: 64 shades without a gap, the darkest at the bottom.
+TEST(Svg, TheBarOfAMapHasAllShades) {
+    Canvas canvas(600, 400);
+    canvas.SetAxes({.scale = 6, .step = 20, .start = 0, .end = 600},
+                   {.origin = 400, .scale = -4, .step = 50, .start = 400});
+    canvas.SetScale({.title = "Time", .unit = "s", .from = 10, .to = 20, .step = 5});
+    const TextMeasure measure = EstimatedMeasure(12);
+    const Box bar = PlaceOf(canvas, CanvasShape::Stretched, {600, 400}, measure).scale;
+    const std::string svg = SvgOf(canvas, {600, 400, CanvasShape::Stretched});
+    std::size_t at =
+        svg.find(RectangleOf({bar.left - 1, bar.top - 1, bar.width + 2, bar.height + 2}, "fill=\"#969ca4\""));
+    ASSERT_NE(at, std::string::npos);
+    double lower = bar.Bottom();
+    double lightness = -1;
+    for (int shade = 0; shade < 64; ++shade) {
+        at = svg.find("<rect", at + 1);
+        const std::string tag = svg.substr(at, svg.find("/>", at) - at);
+        EXPECT_NEAR(Attribute(tag, "x"), bar.left, 0.006);
+        EXPECT_NEAR(Attribute(tag, "width"), bar.width, 0.006);
+        EXPECT_NEAR(Attribute(tag, "y") + Attribute(tag, "height"), lower, 0.012);
+        lower = Attribute(tag, "y");
+        const Rgb colour = ShadeColour(shade);
+        constexpr char kDigits[] = "0123456789abcdef";
+        std::string hex = "#";
+        for (const int part : {colour.red, colour.green, colour.blue}) hex += {kDigits[part / 16], kDigits[part % 16]};
+        EXPECT_NE(tag.find("fill=\"" + hex), std::string::npos) << tag;
+        EXPECT_GT(Contrast(kBlack, colour), lightness);
+        lightness = Contrast(kBlack, colour);
+    }
+    EXPECT_NEAR(lower, bar.top, 0.012);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <array>
 #include <functional>
 #include <set>
 #include <utility>
@@ -221,6 +222,42 @@ TEST_F(ZolvTest, AFreshStartLeavesNothingOfTheRunBefore) {
     EXPECT_NE(EverythingShown(), before);
     FreshStart();
     EXPECT_EQ(EverythingShown(), before);
+}
+
+// The range at the start, the value, and the steps of arrow keys and of Page Up: what the hand learns.
+TEST_F(ZolvTest, EachSliderMovesInItsSteps) {
+    // clang-format off
+    constexpr struct { const char* name; int min, max, value, small, large, tick; } kSliders[] = {
+        {"Select_XScale_SpeedPlot", 10, 50, 20, 5, 10, 10},
+        {"Select_YScale_SpeedPlot", 200, 2000, 1000, 100, 200, 500},
+        {"Select_XScale_TorquePlot", 100, 1000, 250, 100, 200, 250},
+        {"Select_YScale_TorquePlot", 100, 2500, 500, 100, 500, 500},
+        {"Select_XScale_TEPlot", 5, 20, 10, 5, 10, 5},
+        {"Select_YScale_TEPlot", 200, 5000, 1000, 200, 500, 1000},
+        {"Select_XScale_SpeedTimeGraph", 5, 20, 10, 5, 10, 5},
+        {"Select_YScale_SpeedTimeGraph", 10, 50, 20, 5, 10, 10},
+    };
+    constexpr struct { const char* name; int small, large; } kOthers[] = {
+        {"Select_Ratio1", 10, 100}, {"Select_Ratio6", 10, 100}, {"Select_Speed1", 1, 5}, {"Select_Speed6", 1, 5},
+        {"Select_FinalDrive1", 100, 500}, {"Select_FinalDrive2", 100, 500}, {"Select_PressureF", 1, 10},
+        {"Select_PressureR", 1, 10}, {"Select_FrontWingAngle", 1, 3}, {"Select_RearWingAngle", 1, 3},
+        {"Select_AeroSpeed", 1, 10}, {"Select_AeroSpeed_TyreTab", 1, 10},
+    };
+    // clang-format on
+    const auto sliderOf = [](const char* name) -> const Slider& {
+        return static_cast<const Slider&>(*FindFields(name).at(0));
+    };
+    for (const auto& [name, min, max, value, small, large, tick] : kSliders) {
+        const Slider& slider = sliderOf(name);
+        EXPECT_THAT((std::array{slider.Min(), slider.Max(), slider.Value(), slider.SmallStep(), slider.LargeStep(),
+                                slider.Tick()}),
+                    ElementsAre(min, max, value, small, large, tick))
+            << name;
+    }
+    for (const auto& [name, small, large] : kOthers) {
+        EXPECT_THAT((std::pair{sliderOf(name).SmallStep(), sliderOf(name).LargeStep()}), testing::Pair(small, large))
+            << name;
+    }
 }
 
 TEST(Registry, FindsEveryFieldByItsName) {

@@ -62,6 +62,16 @@ TEST_F(PosixFiles, ThatWouldBeWaitedForAreRefused) {
     EXPECT_EQ(WriteTextFile("pipe", "new"), "Not a regular file");
 }
 
+// A program that is started with its input closed gets 0 as the number of the next file.
+TEST_F(PosixFiles, AreWrittenUnderTheNumberOfTheInput) {
+    const int input = ::dup(0);
+    ::close(0);
+    EXPECT_EQ(WriteTextFile("first", "text"), "");
+    EXPECT_EQ(ReadTextFile("first", 10).text, "text");
+    ::dup2(input, 0);
+    ::close(input);
+}
+
 TEST_F(PosixFiles, KeepTheirPermissions) {
     WriteContent("file", "first");
     fs::permissions("file", fs::perms(0640));

@@ -103,6 +103,7 @@ TEST_F(EnginePlot, PowerUnitMovesTheScaleOfBoth) {
     EXPECT_EQ(GridLines(), 8U + 4015U);
     EXPECT_NEAR(plots.TorquePlotY[1], 150 * 2405 / 81130.5, 1e-4);
     const Canvas::Axes& axes = Zolv.TorquePowerPlot.Drawing().PresentAxes();
+    EXPECT_THAT((std::vector{axes.x.start, axes.x.end, axes.y.start}), ElementsAre(200, 4375, 2405));
     EXPECT_NEAR(axes.y.scale, -2405 / 81130.5, 1e-9);
     EXPECT_EQ(axes.y.unit, "Nm / ft lbf/s");
 }

@@ -7,6 +7,7 @@
 #include "aero/aero_state.h"
 #include "desk/held.h"
 #include "drawing/curve_reading.h"
+#include "drawing/plot_axes.h"
 #include "plots/gearing_plots.h"
 #include "plots/hand_made_car.h"
 #include "plots/run_strip.h"
@@ -40,6 +41,8 @@ TEST_F(RunPlots, ForcesAtEveryThirdRow) {
                             "line 200,2715 1640,2618.278 red 2", "line 200,2715 1640,1844.503 blue 2",
                             "line 1640,1747.781 3080,780.563 green 2", "line 1640,2618.278 3080,2521.556 red 2",
                             "line 1640,1844.503 3080,974.006 blue 2"));
+    const Canvas& plot = Zolv.TractiveEffortPlot.Drawing();
+    EXPECT_EQ(UsedPart(plot), (CanvasPart{200, 0, 4540, 2715}));
 }
 
 TEST_F(RunPlots, LoadsComeLastWithTheirNames) {

@@ -115,6 +115,15 @@ TEST(Finder, FindsTheSameOnAnyNumberOfThreads) {
     }
 }
 
+TEST(Finder, TellsAllThatItTried) {
+    const FinderTask task = TaskWith("Pell S", kTo30, {FinalDrive});
+    FinderProgress last;
+    const FinderResult result = FindBest(
+        task, {}, [&](const FinderProgress& progress) { last = progress; }, 1);
+    EXPECT_FALSE(result.Flatness.empty());  // which is worked out last, and counts
+    EXPECT_EQ(last.Evaluations, result.Evaluations);
+}
+
 TEST(Finder, StopsWhenToldAndKeepsTheBestUntilThen) {
     const FinderTask task =
         TaskWith("Wisp 4", kKilometre, {Ratio1, Ratio2, Ratio3, Ratio4, Ratio5, Ratio6, FinalDrive});

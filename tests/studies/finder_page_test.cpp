@@ -172,9 +172,16 @@ TEST_F(FinderPage, AFileThatIsNoneChangesNothing) {
         ExpectMessage(AllOf(HasSubstr("bad.straights"), HasSubstr(reason)));
         EXPECT_EQ(Finder.Straights.Text(), good);
     }
+    Set("Finder.Straights", "");
+    EXPECT_EQ(Finder.StraightTimes.Text(), "");
+    Set("Finder.Straights", good);
+    EXPECT_THAT(Finder.StraightTimes.Text(), HasSubstr("Hill, upper"));
+
     Answer("nowhere.straights");
     Finder.StraightsOpen.Click();
     ExpectMessage(HasSubstr("nowhere.straights"));
+    Finder.StraightsOpen.Click();  // and cancelled
+    Finder.StraightsSave.Click();
 
     Answer("saved.straights");
     Finder.StraightsSave.Click();

@@ -38,6 +38,7 @@ TEST_F(TyreDrawings, AxesCountFromTheCentreInTheUnitOfDistance) {
     const Canvas::Axes& axes = Zolv.CPS.Drawing().PresentAxes();
     EXPECT_THAT((std::vector{axes.x.origin, axes.x.scale, axes.x.step, axes.y.origin, axes.y.scale}),
                 ElementsAre(2125, 9.5, 50, 1537.5, -9.5));
+    EXPECT_THAT((std::vector{axes.x.start, axes.x.end, axes.y.start, axes.y.end}), ElementsAre(0, 4250, 3075, 0));
     EXPECT_EQ(axes.y.unit, "mm");
     EXPECT_EQ(Zolv.CPS.Drawing().Names()[0], (PartName{"\u2194 160 mm", Role::AreaWidth}));
     SelectUnit(units, 1, 0);  // m, of which it would have tenths

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void MenusByKeys();
     void Shortcuts_data();
     void Shortcuts();
+    void KeysTurnThePagesOfTheWindowInFront();
     void EachFieldIsPaintedOnceAnEvent();
 };
 
@@ -184,6 +185,28 @@ void Controls::Shortcuts() {
     Settle();
     QVERIFY(WindowNamed(window.toLatin1().constData()).isVisible());
     QCOMPARE(Find<QLineEdit>("Gear1").text(), QStringLiteral("3.5"));
+}
+
+void Controls::KeysTurnThePagesOfTheWindowInFront() {
+    const auto press = [](const char* window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(&WindowNamed(window), key, modifiers);
+        return QPair(Zolv.Select_Page.Picked(), OptionsPanel.Select_Options.Picked());
+    };
+    QCOMPARE(press("Zolv", Qt::Key_PageUp, Qt::ControlModifier), QPair(3, 0));
+    QCOMPARE(press("Zolv", Qt::Key_Tab, Qt::ControlModifier), QPair(0, 0));
+    Windows().TheBinding().Act([] { OptionsPanel.SetVisible(true); });
+    Settle();
+    WindowNamed("OptionsPanel").activateWindow();
+    Settle();
+    QCOMPARE(press("OptionsPanel", Qt::Key_Tab, Qt::ControlModifier), QPair(0, 1));
+    QCOMPARE(press("OptionsPanel", Qt::Key_PageDown, Qt::ControlModifier), QPair(0, 2));
+    QCOMPARE(press("OptionsPanel", Qt::Key_PageDown, Qt::ControlModifier), QPair(0, 0));
+    QCOMPARE(press("OptionsPanel", Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), QPair(0, 2));
+    QCOMPARE(press("OptionsPanel", Qt::Key_PageUp, Qt::ControlModifier), QPair(0, 1));
+    QVERIFY(WindowNamed("Zolv")
+                .findChild<QAction*>(QStringLiteral("ViewNextPage"))
+                ->text()
+                .endsWith(QStringLiteral("\tCtrl+Tab, Ctrl+PgDown")));
 }
 
 void Controls::EachFieldIsPaintedOnceAnEvent() {

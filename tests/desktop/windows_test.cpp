@@ -8,8 +8,10 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTabBar>
+#include <QTableView>
 #include <QWindow>
 #include <algorithm>
 
@@ -418,6 +420,10 @@ void ShippedLanguages::PagesHaveRoomForThem() {
             const int plots = Find<QWidget>("SpeedPlot").width();
             QVERIFY2(size.width() < 1280 || 2 * plots > size.width(), language.c_str());
             QCOMPARE(Find<QWidget>("RunStrip").isVisible(), size.width() == 1280);
+            PickWithKeys(Find<QComboBox>("Select_Graphs"), 2);
+            const int beyond = Find<QTableView>("AccelerationData").horizontalScrollBar()->maximum();
+            QVERIFY2(size.width() < 1280 || beyond == 0, language.c_str());
+            PickWithKeys(Find<QComboBox>("Select_Graphs"), 0);
         }
     }
 }

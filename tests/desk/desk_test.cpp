@@ -140,6 +140,13 @@ TEST_F(Desk, MovesOfOneGestureAreOneStep) {
     Zolv.EditUndo.Click();
     Zolv.EditUndo.Click();
     EXPECT_EQ(Shown("Gear2"), "2.4");
+
+    for (const char* value : {"2500", "2600"}) Give("Select_Ratio2", value, 12);
+    EXPECT_FALSE(TakeBack(11)) << "another gesture";
+    EXPECT_TRUE(TakeBack(12));
+    EXPECT_EQ(Shown("Gear2"), "2.4");
+    EXPECT_FALSE(Zolv.EditUndo.Enabled() || Zolv.EditRedo.Enabled());
+    EXPECT_FALSE(TakeBack(12));
 }
 
 // 17 in 1st raises the final drive of the Pell S to its most: one input, and one step back.

@@ -1,5 +1,7 @@
 #include <array>
+#include <filesystem>
 #include <functional>
+#include <regex>
 #include <set>
 #include <utility>
 
@@ -273,6 +275,24 @@ TEST(Registry, FindsEveryFieldByItsName) {
     EXPECT_THAT(FindFields("OptionsPanel"), ElementsAre(&OptionsPanel));
     EXPECT_THAT(FindFields("Gear7"), IsEmpty());
     EXPECT_EQ(NearestFieldName("gaer3"), "Gear3");
+}
+
+// Scripts know a field by its name, the source by its member's. They are typed beside each other, and must not part.
+TEST(Registry, NamesFieldsAsTheSourceDoes) {
+    const std::regex declared(R"re((\w+)\{\s*\*this,\s*"(\w+)")re");
+        int compared = 0;
+    for (const auto& file : std::filesystem::directory_iterator(ZOLV_SOURCE_DIR "/src/fields")) {
+        if (!file.path().string().ends_with("_window.h")) continue;
+        const std::string text = ContentOf(file.path().string());
+        for (std::sregex_iterator match(text.begin(), text.end(), declared), end; match != end; ++match) {
+            const std::string member = (*match)[1];
+            if (member == "UnitChoice" || member == "Second") continue;  // of several fields each
+            const bool ofAero = member == "Undertray" || member == "FrontWing" || member == "RearWing";
+            EXPECT_EQ((*match)[2], ofAero ? "Aero_" + member : member);
+            ++compared;
+        }
+    }
+    EXPECT_GT(compared, 250);
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ struct BalanceMarks {
 /// What the driver chose of the air, and the top speed that follows.
 struct AirChoices {
     double topSpeed = 0;              // [m/s]
-    double speed = 0;                 // [m/s] at which the air is looked at
+    double speed = 0;                 // [m/s] of the slider; at the top speed it stands where it stood
     int frontWing = 0, rearWing = 0;  // [degrees]
 };
 

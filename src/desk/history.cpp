@@ -51,7 +51,7 @@ bool IsSpeedInput(const Field& input, int gear) {
 std::string NameOf(const HistoryStep& step) {
     const Field& input = *step.Input;
     if (const int gear = GearOfInput(input); gear > 0) {
-        const std::string& name = texts.GearNames[static_cast<std::size_t>(gear)];
+        const std::string& name = GearName(gear);
         return IsSpeedInput(input, gear) ? words.Sentence("StepSpeed", {name}) : words.Sentence("StepRatio", {name});
     } else if (gear == 0) {
         return words["StepFinalDrive"];

@@ -194,8 +194,9 @@ void Binding::Bind(MenuEntry& field, QAction& action) {
     QStringList names;
     for (const QKeySequence& key : keys) names << key.toString(QKeySequence::NativeText);
     const QString shown = keys.size() > 1 ? u'\t' + names.join(QStringLiteral(", ")) : QString();
-    // What is taken over from another window can be taken back there.
-    if (&field == &Zolv.EditUndo || &field == &Zolv.EditRedo) action.setShortcutContext(Qt::ApplicationShortcut);
+    // The keys of the menus work in the windows beside the main one too; those that turn its pages are its own.
+    const bool turns = &field == &Zolv.ViewNextPage || &field == &Zolv.ViewPreviousPage;
+    if (!turns) action.setShortcutContext(Qt::ApplicationShortcut);
     OnChanged(field, [&field, &action, shown] {
         action.setText(ToQt(field.Caption()) + shown);
         action.setEnabled(field.Enabled());

@@ -82,14 +82,13 @@ void CanvasView::paintEvent(QPaintEvent*) {
 
 /// Tells the views beside this one the value of x under the mouse, or that there is none.
 void CanvasView::ShareCrosshair() {
-    if (parentWidget() == nullptr) return;
     std::optional<double> value;
     const PlotPlace place = Place();
     if (pointer_ && place.hasAxes && ToQt(place.ground).contains(*pointer_)) {
         const PlotAxis& axis = canvas_.PresentAxes().x;
         value = (place.Mapping().CanvasX(pointer_->x()) - axis.origin) / axis.scale;
     }
-    for (CanvasView* view : parentWidget()->findChildren<CanvasView*>(Qt::FindDirectChildrenOnly)) {
+    for (CanvasView* view : window()->findChildren<CanvasView*>()) {
         if (view == this || (value && !ShareX(canvas_, view->canvas_)) || value == view->sharedX_) continue;
         view->sharedX_ = value;
         view->update();

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMap>
+#include <QShortcut>
 
 #include "desktop/page_parts.h"
 #include "desktop/theme.h"
@@ -45,6 +46,11 @@ LanguageWindow::LanguageWindow(Binding& binding, QWidget* parent)
     grid->addWidget(MakeWords(binding, form.LanguageAuthor, Body()), 2, 1);
     grid->setRowStretch(form.LanguageLabel.Size(), 1);
     AddButtons({}, {&form.SaveLanguage});
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this] {
+            Fields().Input(LanguageSelection.SaveLanguage, [] { LanguageSelection.SaveLanguage.Click(); });
+        });
+    }
     Complete();
 }
 

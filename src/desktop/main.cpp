@@ -63,6 +63,7 @@ int main(int argc, char** argv) {
     const QIcon icon(zolv::ToQt(zolv::DataFile("zolv.png")));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zolv"), icon));
     zolv::LoadZolv();
+    dialogs.GatherApart();
     kept.BringBack();
     visit.BringBack();
     dialogs.SetParent(&desktop.Main());

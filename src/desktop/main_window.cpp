@@ -76,6 +76,7 @@ QScrollArea* Scrolled(QWidget* page, QWidget* parent) {
 
 MainWindow::MainWindow(Binding& binding, QWidget* parent) : QMainWindow(parent), binding_(binding) {
     setAcceptDrops(true);
+    setWindowTitle(QStringLiteral("[*]"));  // the place of the mark, before the title is painted
     MakeMenus();
     AddAbout();
     auto* const centre = new QWidget(this);

@@ -63,8 +63,9 @@ void OrderFaultLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor ink = FaultColour(palette());
-    painter.setPen(QPen(ink, hasFocus() ? 2 : 1));
-    painter.setBrush(Blend(ink, palette().color(QPalette::Window), underMouse() ? 0.16 : 0.08));
+    // A darker ground would leave its words too little contrast.
+    painter.setPen(QPen(ink, hasFocus() || underMouse() ? 2 : 1));
+    painter.setBrush(Blend(ink, palette().color(QPalette::Window), 0.08));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
     const QRect room = rect().adjusted(kMargin, 0, -kMargin, 0);
     painter.setPen(ink);

@@ -78,7 +78,9 @@ std::vector<BoxLine> LinesAt(const Canvas& canvas, const PlotPlace& place, const
     const CanvasMapping mapping = place.Mapping();
     const double canvasX = mapping.CanvasX(crosshair.x);
     std::vector<BoxLine> lines{{ToQt(axes.x.title), ToQt(ReadingAt(axes.x, canvasX, mapping.scaleX)), Role::Words}};
-    if (!crosshair.shared) {
+    const auto isTitle = [&](const PartName& part) { return part.name == axes.y.title; };
+    // Two lines of one name, of which the curve's is the one to be read, would be a riddle.
+    if (!crosshair.shared && std::ranges::none_of(canvas.Names(), isTitle)) {
         const double canvasY = mapping.CanvasY(crosshair.y);
         lines.push_back({ToQt(axes.y.title), ToQt(ReadingAt(axes.y, canvasY, mapping.scaleY)), Role::Words});
     }

@@ -187,13 +187,20 @@ void PresetsWindow::FollowFaults(Side side) {
     }
 }
 
+/// What nobody can type into comes from the base car: a fault there is one of the car that is not picked yet.
+bool PresetsWindow::CanBeMended(const Field& field) const {
+    const QWidget* const control = ControlOf(field);
+    const auto* const box = qobject_cast<const QLineEdit*>(control);
+    return field.Visible() && control->isEnabled() && (box == nullptr || !box->isReadOnly());
+}
+
 /// Marks what is to be mended, each control with the first thing that is wrong with it.
 void PresetsWindow::ShowFaults(Side side) {
     Faults& shown = faults_[side];
     std::map<const Field*, QString> said;
     if (shown.followed) {
         for (const PresetFault& fault : PresetFaults(side == kAdd)) {
-            if (fault.Where->Visible()) said.try_emplace(fault.Where, ToQt(fault.Sentence));
+            if (CanBeMended(*fault.Where)) said.try_emplace(fault.Where, ToQt(fault.Sentence));
         }
         shown.followed = !said.empty();
     }

@@ -43,6 +43,7 @@ private:
 
     void AddSentence(QGridLayout& grid, int row, Side side, std::initializer_list<const Field*> fields);
     void FollowFaults(Side side);
+    bool CanBeMended(const Field& field) const;
     void ShowFaults(Side side);
     QWidget* ControlOf(const Field& field) const;
 

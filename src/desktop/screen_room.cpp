@@ -14,6 +14,9 @@ QRect RoomOnScreen(const QWidget& window) {
 
 void KeepOnScreen(QWidget& window) {
     const QRect room = RoomOnScreen(window);
+    // One that is seen with its frame, whose size nobody knows before it is shown, stays where it is.
+    constexpr QMargins kLeastFrame(0, 16, 0, 0);
+    if (window.screen()->availableGeometry().marginsRemoved(kLeastFrame).contains(window.geometry())) return;
     QRect place = window.geometry();
     place.setSize(place.size().boundedTo(room.size()));
     place.moveLeft(std::clamp(place.left(), room.left(), room.right() + 1 - place.width()));

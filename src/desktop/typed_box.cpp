@@ -125,7 +125,14 @@ void TypedBox::GiveToField(Moment moment) {
     if (open && !(slider_ != nullptr && LacksNumber())) {
         giving_ = true;
         user_.Input(
-            field_, [&] { field_.Enter(FromQt(typed)); }, gesture_);
+            field_,
+            [&] {
+                // What a pause gave away before is no more than a part of this: with all that followed from it, as a
+                // final drive that was raised, it is taken back first.
+                TakeBack(gesture_);
+                field_.Enter(FromQt(typed));
+            },
+            gesture_);
         giving_ = false;
     }
     if (open && moment == Moment::Pause && StandsFor(typed)) return;

@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QUrl>
+#include <utility>
 
 #include "desktop/sheet_window.h"
 #include "desktop/texts_of_qt.h"
@@ -77,12 +78,13 @@ void OfferExamples(QFileDialog& dialog) {
 
 void WindowDialogs::ShowGathered() {
     gathering_ = false;
-    if (gathered_.isEmpty()) return;
+    const QStringList all = std::exchange(gathered_, {});
+    const qsizetype ofFolder = apart_.value_or(all.size());
     QStringList lines{ToQt(
         words.Sentence("StartedWithout", {FromQt(QDir::toNativeSeparators(QDir::cleanPath(ToQt(platform.AppPath))))}))};
-    for (const QString& message : gathered_) lines << QStringLiteral("\u2022 ") + message;
-    gathered_.clear();
-    Message(FromQt(lines.join(QLatin1String("\n\n"))));
+    for (const QString& message : all.first(ofFolder)) lines << QStringLiteral("\u2022 ") + message;
+    if (ofFolder > 0) Message(FromQt(lines.join(QLatin1String("\n\n"))));
+    for (const QString& message : all.sliced(ofFolder)) Message(FromQt(message));
 }
 
 void WindowDialogs::Message(const std::string& text) {

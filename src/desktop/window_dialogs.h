@@ -3,6 +3,7 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 #include "platform/dialogs.h"
 
@@ -21,7 +22,11 @@ public:
     /// From now on messages wait; while the program starts there is no window yet for them to lie over.
     void Gather() { gathering_ = true; }
 
-    /// Shows the messages that wait, all in one box that names the program's folder; from now on each comes at once.
+    /// What has come so far is of the program's folder; what comes now waits, too, but for a box of its own.
+    void GatherApart() { apart_ = gathered_.size(); }
+
+    /// Shows the messages that wait, those of the program's folder in one box that names it; from now on each comes at
+    /// once.
     void ShowGathered();
 
     /// The folder of each kind of file, by its pattern, "*.zolv".
@@ -40,6 +45,7 @@ private:
     QWidget* parent_ = nullptr;
     bool gathering_ = false;
     QStringList gathered_;
+    std::optional<qsizetype> apart_;  // index of the first of gathered_ that is not of the folder
     QMap<QString, QString> folders_;
 };
 

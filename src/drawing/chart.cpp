@@ -47,7 +47,8 @@ void Widen(ChartAxis& axis, Range range) {
     axis.to = std::ceil(range.to / step - kRounding) * step;
 }
 
-/// The axis with what it leaves open filled in from the series. @return whether it has a range then
+/// The axis with what it leaves open filled in from the series.
+/// @return whether it has a range then
 bool Settle(ChartAxis& axis, const Chart& chart, bool onY) {
     if (axis.from == axis.to) {
         Range range = ReachOf(chart, onY);

@@ -154,10 +154,34 @@ private:
         return std::sqrt((to.x - from.x) * (to.x - from.x) + (to.y - from.y) * (to.y - from.y));
     }
 
-    std::optional<Choice> BestAtCurve(const std::vector<ViewPoint>& anchors, Box box) const {
+    static double Distance(ViewPoint point, ViewPoint from, ViewPoint to) {
+        const double alongX = to.x - from.x;
+        const double alongY = to.y - from.y;
+        const double square = alongX * alongX + alongY * alongY;
+        const double share = ((point.x - from.x) * alongX + (point.y - from.y) * alongY) / square;
+        const double on = square > 0 ? std::clamp(share, 0.0, 1.0) : 0;
+        return LengthOf(point, {from.x + alongX * on, from.y + alongY * on});
+    }
+
+    /// How near another curve passes a point: 0 from a line's height on, 1 where it goes through. A name there could be
+    /// either's.
+    double Crowding(const SeenPart& part, ViewPoint point) const {
+        double nearest = measure_.height;
+        for (const SeenPart& other : parts_) {
+            const Role role = other.name->meaning.role;
+            if (!IsCurve(role) || role == part.name->meaning.role) continue;
+            for (std::size_t i = 1; i < other.points.size(); ++i) {
+                nearest = std::min(nearest, Distance(point, other.points[i - 1], other.points[i]));
+            }
+        }
+        return 1 - nearest / measure_.height;
+    }
+
+    std::optional<Choice> BestAtCurve(const SeenPart& part, Box box) const {
         std::optional<Choice> best;
-        double reluctance = 0;
-        for (const ViewPoint& anchor : anchors) {
+        double order = 0;
+        for (const ViewPoint& anchor : AnchorsOf(part.points)) {
+            const double crowding = kCrowdCost * Crowding(part, anchor);
             const double middleX = anchor.x - box.width / 2;
             const double middleY = anchor.y - box.height / 2;
             const double left = anchor.x - kAside - box.width;
@@ -167,8 +191,8 @@ private:
             const ViewPoint corners[] = {{middleX, above}, {right, middleY}, {left, above}, {right, below},
                                          {right, above},   {left, middleY},  {left, below}, {middleX, below}};
             for (const ViewPoint& corner : corners) {
-                Weigh(best, {corner.x, corner.y, box.width, box.height}, reluctance);
-                reluctance += 0.005;
+                Weigh(best, {corner.x, corner.y, box.width, box.height}, order + crowding);
+                order += 0.005;
             }
         }
         return best;
@@ -191,7 +215,7 @@ private:
         const PartName& name = *part.name;
         const int gear = GearOf(name.meaning.role);
         const std::string text = gear > 0 && shortened ? NumberText(std::int32_t{gear}) : name.name;
-        const std::optional<Choice> best = BestAtCurve(AnchorsOf(part.points), BoxOf(text));
+        const std::optional<Choice> best = BestAtCurve(part, BoxOf(text));
         const bool bearable = best && best->cost <= kBearable;
         if (bearable || (best && gear > 0)) {
             Add(text, *best, name.meaning);
@@ -201,7 +225,8 @@ private:
         return bearable || gear == 0;
     }
 
-    static constexpr double kCoverCost = 10;  // of a name that lies on lines all over
+    static constexpr double kCoverCost = 10;   // of a name that lies on lines all over
+    static constexpr double kCrowdCost = 1.5;  // of a name where two curves meet
     static constexpr double kBearable = 3;
 
     const Canvas& canvas_;

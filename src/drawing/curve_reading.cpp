@@ -35,6 +35,12 @@ std::vector<CurveReading> ReadingsAt(const Canvas& canvas, double canvasX, doubl
         if (!names[i].unit.empty()) axis.unit = names[i].unit;
         readings.push_back({names[i].name, ReadingAt(axis, *heights[i], viewScaleY), names[i].meaning});
     }
+    const std::vector<CurveReading> all = readings;
+    std::erase_if(readings, [&](const CurveReading& reading) {
+        return reading.meaning.standing == Standing::Held && std::ranges::any_of(all, [&](const CurveReading& other) {
+                   return other.meaning == Meaning(reading.meaning.role) && other.value == reading.value;
+               });
+    });
     return readings;
 }
 

@@ -16,7 +16,8 @@ struct CurveReading {
     bool operator==(const CurveReading&) const = default;
 };
 
-/// The values of the named curves that pass an x, in the order of their names.
+/// The values of the named curves that pass an x, in the order of their names. A held curve that reads as its present
+/// twin does is left out.
 /// @param viewScaleY  view units for one canvas unit
 [[nodiscard]] std::vector<CurveReading> ReadingsAt(const Canvas& canvas, double canvasX, double viewScaleY);
 

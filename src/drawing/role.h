@@ -58,7 +58,8 @@ enum class Role : std::uint8_t {
 [[nodiscard]] constexpr bool IsMark(Role role) { return role >= Role::PeakPower && role <= Role::BestValue; }
 [[nodiscard]] constexpr bool IsCurve(Role role) { return role >= Role::Gear1; }
 
-/// The curve of a gear. @param gear  1 to 6
+/// The curve of a gear.
+/// @param gear  1 to 6
 [[nodiscard]] constexpr Role GearRole(int gear) { return static_cast<Role>(static_cast<int>(Role::Gear1) + gear - 1); }
 
 /// The gear that a curve is of; 0 for everything else.
@@ -66,7 +67,8 @@ enum class Role : std::uint8_t {
     return role >= Role::Gear1 && role <= Role::Gear6 ? static_cast<int>(role) - static_cast<int>(Role::Gear1) + 1 : 0;
 }
 
-/// The curves of a family one after the other; the seventh looks like the first. @param index  0 or more
+/// The curves of a family one after the other; the seventh looks like the first.
+/// @param index  0 or more
 [[nodiscard]] constexpr Role SeriesRole(int index) {
     return static_cast<Role>(static_cast<int>(Role::Series1) + index % 6);
 }

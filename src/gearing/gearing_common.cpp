@@ -13,8 +13,6 @@
 namespace zolv {
 namespace {
 
-const std::string& GearName(int gear) { return texts.GearNames[static_cast<std::size_t>(gear)]; }
-
 void ReportOrder(const OrderWords& words, std::span<const int> wrong) {
     constexpr const char* kLineBreak = "\r\n";
     Canvas& plot = Zolv.TorquePlot.Draw();

@@ -25,7 +25,7 @@ struct GearingState {
     // results old.
     std::vector<int> WrongOrder;
 
-    EngineCurve Curve;  // that of the engine as it was last drawn; zeros until then
+    EngineCurve Curve;  // that of the engine as it was last drawn; before that it gives no power
 
     RunRows AccelRows{};
     std::int16_t AccelLastRow = -1;

@@ -21,8 +21,6 @@ namespace {
 
 enum Cell : std::size_t { kTime, kDistance, kSpeed, kEvent, kBefore, kAfter, kRemark };
 
-const std::string& GearName(int gear) { return texts.GearNames[static_cast<std::size_t>(gear)]; }
-
 std::string Revs(double revs) { return WithUnit(revs, 0, texts.RpmSuffix); }
 
 std::string TargetName(int label) { return CaptionName(Zolv.GearingLabel[label].Caption()); }

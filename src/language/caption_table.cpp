@@ -13,7 +13,7 @@ constexpr Target Tab(const char* strip, int row) { return {Target::Kind::Tab, ro
 constexpr Target TyreTypeName(int row) { return {Target::Kind::TyreTypeName, row}; }
 constexpr Target SlickNames() { return {Target::Kind::SlickNames, 4}; }
 constexpr Target GraphName(int row) { return {Target::Kind::GraphName, row}; }
-constexpr Target GearName(int row) { return {Target::Kind::GearName, row}; }
+constexpr Target NameOfGear(int row) { return {Target::Kind::GearName, row}; }
 constexpr Target UnitName(Quantity UnitState::*quantity, int row) { return {quantity, row}; }
 constexpr Target AboutParagraph(int row) { return {Target::Kind::AboutParagraph, row}; }
 
@@ -101,12 +101,12 @@ constexpr std::array<CaptionLine, kCaptionLines> kCaptionTable{{
     {79, "After", {"GearingLabel(5)", "GearingLabel(20)"}},
     {80, "Before", {"GearingLabel(6)", "GearingLabel(21)"}},
     {81, "Torque at Wheels", {"GearingLabel(7)", "GearingLabel(22)"}},
-    {82, "1st", {"GearingLabel(8)", "GearingLabel(23)", GearName(1)}},
-    {83, "2nd", {"GearingLabel(9)", "GearingLabel(24)", GearName(2)}},
-    {84, "3rd", {"GearingLabel(10)", "GearingLabel(25)", GearName(3)}},
-    {85, "4th", {"GearingLabel(11)", "GearingLabel(26)", GearName(4)}},
-    {86, "5th", {"GearingLabel(12)", "GearingLabel(27)", GearName(5)}},
-    {87, "6th", {"GearingLabel(13)", "GearingLabel(28)", GearName(6)}},
+    {82, "1st", {"GearingLabel(8)", "GearingLabel(23)", NameOfGear(1)}},
+    {83, "2nd", {"GearingLabel(9)", "GearingLabel(24)", NameOfGear(2)}},
+    {84, "3rd", {"GearingLabel(10)", "GearingLabel(25)", NameOfGear(3)}},
+    {85, "4th", {"GearingLabel(11)", "GearingLabel(26)", NameOfGear(4)}},
+    {86, "5th", {"GearingLabel(12)", "GearingLabel(27)", NameOfGear(5)}},
+    {87, "6th", {"GearingLabel(13)", "GearingLabel(28)", NameOfGear(6)}},
     {88, "Reverse", {"GearingLabel(14)", "GearingLabel(29)"}},
     {89, "rpm", {Target{&Texts::RpmSuffix, " "}, "SpeedPlot_YUnits", "TorquePlot_XUnits", "Label_rpm1", "Label_rpm2", "Label_rpm3", "Label_rpm4", "Label_rpm5", "Label_rpm6"}},
     {90, "Calculate Gear Ratios from Speeds", {"CalcRatios"}},

@@ -38,7 +38,7 @@ struct Drive {
 };
 
 void AddGear(Chart& chart, const Drive& drive, const GearForces& gear) {
-    ChartSeries series = drive.Series(texts.GearNames[static_cast<std::size_t>(gear.Gear)], GearRole(gear.Gear));
+    ChartSeries series = drive.Series(GearName(gear.Gear), GearRole(gear.Gear));
     series.doubtful = drive.setup.Curve.CurveFitFailed;
     for (const WheelPoint& point : gear.Points) series.points.push_back(Shown(point.Speed, point.Force));
     chart.series.push_back(std::move(series));

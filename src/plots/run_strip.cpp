@@ -23,7 +23,7 @@ ChartPoint PointAt(int row) {
 /// The rows driven in one gear, thinned to every `stride`th beside the first and the last; it begins where the gear
 /// before it ends.
 ChartSeries PieceOf(int gear, int stride) {
-    ChartSeries piece{.name = texts.GearNames[static_cast<std::size_t>(gear)], .role = GearRole(gear)};
+    ChartSeries piece{.name = GearName(gear), .role = GearRole(gear)};
     const int last = gearing.AccelLastRow;
     for (int row = 0; row <= last; ++row) {
         if (GearOfRow(row) != gear) continue;

@@ -40,7 +40,7 @@ std::vector<std::vector<std::string>> GearLines() {
     for (int gear = 1; gear <= last; ++gear) {
         const std::string& input = panel.Input[gear].Text();
         const std::string found = result(panel.Result[gear]);
-        lines.push_back({texts.GearNames[static_cast<std::size_t>(gear)], ratios ? input : found,
+        lines.push_back({GearName(gear), ratios ? input : found,
                          ratios ? found : input + Zolv.Label_SPD[gear].Caption(), result(panel.RPM[gear]),
                          gear < last ? result(panel.RAC[gear]) : "", result(panel.Torque[gear])});
     }

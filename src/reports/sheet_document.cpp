@@ -121,9 +121,8 @@ std::vector<std::vector<std::string>> HeldGearLines() {
     const int last = std::min<int>(desk.Held->SetUp.Car.NumGears, kGears);
     std::vector<std::vector<std::string>> lines;
     for (int gear = 1; gear <= last; ++gear) {
-        lines.push_back({texts.GearNames[static_cast<std::size_t>(gear)], RoundedText(box.GearRatio[gear], 3),
-                         panel.Result[gear].Held(), panel.RPM[gear].Held(), gear < last ? panel.RAC[gear].Held() : "",
-                         panel.Torque[gear].Held()});
+        lines.push_back({GearName(gear), RoundedText(box.GearRatio[gear], 3), panel.Result[gear].Held(),
+                         panel.RPM[gear].Held(), gear < last ? panel.RAC[gear].Held() : "", panel.Torque[gear].Held()});
     }
     const float reverse = desk.Held->SetUp.Car.Reverse;
     if (reverse != 1) {  // the car has one

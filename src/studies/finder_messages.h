@@ -11,7 +11,8 @@ namespace zolv {
 /// The value of a goal that is reached, with three decimals and its unit; "N/A" for one that is not.
 [[nodiscard]] std::string GoalText(GoalKind kind, const GoalValue& value);
 
-/// Why nothing was sought. @param result  with a fault
+/// Why nothing was sought.
+/// @param result  with a fault
 [[nodiscard]] std::string FaultText(const FinderTask& task, const FinderResult& result);
 
 /// That no gearbox reaches the goal, and how far the best one gets.

@@ -26,7 +26,8 @@ namespace zolv {
 /// A base value in the unit in force, with three decimals and the unit: "64.213 m/s".
 [[nodiscard]] std::string ExactUnitText(const Quantity& quantity, double base);
 
-/// The name of a gear's ratio in the language in force: "Ratio 1". @param gear  1 to 6
+/// The name of a gear's ratio in the language in force: "Ratio 1".
+/// @param gear  1 to 6
 [[nodiscard]] std::string RatioName(int gear);
 
 using TextRow = std::vector<std::string>;

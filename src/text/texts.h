@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 
 namespace zolv {
@@ -86,5 +87,9 @@ struct Texts {
     std::array<std::string, 6> AboutParagraphs;  // of AboutZolv
 };
 inline Texts texts;
+
+/// "3rd", in the language in force.
+/// @param gear  1 to 6
+[[nodiscard]] inline const std::string& GearName(int gear) { return texts.GearNames[static_cast<std::size_t>(gear)]; }
 
 }  // namespace zolv

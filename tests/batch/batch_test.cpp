@@ -70,6 +70,13 @@ TEST_F(Batch, TellsItsUseAndItsVersion) {
             Replaced(std::string(command).substr(0, std::string_view(command).find(' ')), "-", "\\-");
         EXPECT_THAT(manual, testing::ContainsRegex("\n\\.BI? " + Replaced(name, "\\", "\\\\"))) << "the man page";
     }
+    // Where the manual has the words of the help, they are the same.
+    const std::string chapter = ContentOf(ZOLV_SOURCE_DIR "/docs/manual/11-zolv-from-the-command-line.md");
+    for (const char* words : {"presses a button, an option button or a menu entry", "answers the next file dialog",
+                              "prints the whole set-up", "writes the set-up sheet", "as a language file"}) {
+        EXPECT_THAT(help.output, HasSubstr(words));
+        EXPECT_THAT(chapter, HasSubstr(words));
+    }
     EXPECT_EQ(RunBatch("", "--version").output, "zolv-batch " ZOLV_VERSION "\n");
     const BatchRun unknown = RunBatch("", "--halp");
     EXPECT_EQ(unknown.status, 2);

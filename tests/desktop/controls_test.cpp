@@ -185,6 +185,13 @@ void Controls::Shortcuts() {
     Settle();
     QVERIFY(WindowNamed(window.toLatin1().constData()).isVisible());
     QCOMPARE(Find<QLineEdit>("Gear1").text(), QStringLiteral("3.5"));
+
+    // From the window that has come up, those of the menus work as well.
+    WindowNamed(window.toLatin1().constData()).activateWindow();
+    Settle();
+    QTest::keyClick(&WindowNamed(window.toLatin1().constData()), Qt::Key_G, Qt::ControlModifier);
+    Settle();
+    QVERIFY(WindowNamed("Finder").isVisible());
 }
 
 void Controls::KeysTurnThePagesOfTheWindowInFront() {

@@ -250,8 +250,16 @@ QString FaultOf(const char* sentence) {
 /// No message comes while a preset is refused, mended, added, and refused again when it is updated.
 void Pages::PresetsAreMendedInTheirForm() {
     const char* const window = "CustomPresets";
+    Windows().TheBinding().Act([] { CustomPresets.SetVisible(true); });
+    Click(Find<QPushButton>("AddCar", window));  // with nothing in the form
+    int marked = 0;
+    for (QLineEdit* const box : WindowNamed(window).findChildren<QLineEdit*>()) {
+        if (box->accessibleDescription().isEmpty()) continue;
+        ++marked;
+        QVERIFY2(!box->isReadOnly() && box->isEnabled(), qPrintable(box->objectName()));
+    }
+    QVERIFY(marked > 1);
     Windows().TheBinding().Act([] {
-        CustomPresets.SetVisible(true);
         CustomPresets.NewCar.SetText("Ondo T");
         CustomPresets.New.Power.Enter("0");
     });

@@ -58,7 +58,10 @@ void Plots::CrosshairStandsInThePlotBesideItToo() {
     CanvasView& force = Plot("TractiveEffortPlot");
     const QImage speedBefore = Seen(speed);
     const QImage forceBefore = Seen(force);
+    auto& strip = Find<QWidget>("RunStrip");
+    const QImage stripBefore = Seen(strip);
     Point(speed, 0.5, 0.5);
+    QVERIFY2(!Difference(stripBefore, Seen(strip)).isEmpty(), "the strip has the run's time as well");
     QVERIFY(!Difference(speedBefore, Seen(speed)).isEmpty());
     // Both grounds are as wide, and both begin at 0 s.
     const QRect shared = Difference(forceBefore, Seen(force));

@@ -156,9 +156,17 @@ void Typing::PassingDigitsNeverReachTheSearch() {
     QCOMPARE(Find<QSlider>("Select_Speed1").value(), 17);
     QCOMPARE(Find<QLineEdit>("B_Final").text(), QStringLiteral("4"));
 
-    Press(first, QStringLiteral("*1"));  // a slow hand: Escape takes back what the search made of it
+    // A slow hand: what the search made of the first digit goes with the second one, or with Escape.
+    Press(first, QStringLiteral("*1"));
     Pause();
     QCOMPARE(Find<QLineEdit>("B_Final").text(), QStringLiteral("7.5"));
+    Press(first, QStringLiteral("7"));
+    Pause();
+    QCOMPARE(Find<QSlider>("Select_Speed1").value(), 17);
+    QCOMPARE(first.text(), QStringLiteral("17"));
+    QCOMPARE(Find<QLineEdit>("B_Final").text(), QStringLiteral("4"));
+    Press(first, QStringLiteral("*1"));
+    Pause();
     QTest::keyClick(&first, Qt::Key_Escape);
     QCOMPARE(Find<QLineEdit>("B_Final").text(), QStringLiteral("4"));
     QCOMPARE(first.text(), QStringLiteral("16"));  // with which the typing in this box began

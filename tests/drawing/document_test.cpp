@@ -3,7 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <regex>
+#include <set>
 
 namespace zolv {
 namespace {
@@ -106,6 +109,61 @@ TEST(Document, StandsAloneAsHtml) {
     EXPECT_THAT(html, Not(HasSubstr("<?xml")));
     EXPECT_THAT(html, Not(HasSubstr("src=")));
     EXPECT_THAT(html, testing::EndsWith("</body>\n</html>\n"));
+}
+
+/// The tags of a document in order, "table" and "/table", without those that stand alone.
+std::vector<std::string> TagsOf(const std::string& html) {
+    const std::regex tag("<(/?[a-z0-9]+)([^>]*)>");
+    std::vector<std::string> tags;
+    for (std::sregex_iterator match(html.begin(), html.end(), tag), end; match != end; ++match) {
+        if (!(*match)[2].str().ends_with('/')) tags.push_back((*match)[1]);
+    }
+    return tags;
+}
+
+/// What is held beside and below, and pictures in an odd number, so that every kind of table stands in it.
+TEST(Document, EachTagIsClosedAndEachTableHasItsColumns) {
+    Document held = HandMade();
+    held.HeldTitle = "Held";
+    held.Sections[0].Figures[0].Held = "900 kg";
+    held.Sections[1].Held = {{}, {"Held", "3.6", "4900 rpm"}};
+    std::vector<std::string> open;
+    std::vector<int> columns;  // of the first row of each table that is open
+    int cells = 0;
+    for (const std::string& tag : TagsOf(HtmlOf(held))) {
+        if (!tag.starts_with('/')) {
+            open.push_back(tag);
+            if (tag == "table") columns.push_back(0);
+            if (tag == "tr") cells = 0;
+            if (tag == "td" || tag == "th") ++cells;
+            continue;
+        }
+        ASSERT_FALSE(open.empty()) << tag;
+        ASSERT_EQ('/' + open.back(), tag);
+        open.pop_back();
+        if (tag == "/tr" && columns.back() == 0) columns.back() = cells;
+        EXPECT_TRUE(tag != "/tr" || cells <= columns.back());
+        if (tag == "/table") columns.pop_back();
+    }
+    EXPECT_TRUE(open.empty());
+}
+
+// The properties of CSS 2.2 that the sheet may use; one that is none would be passed over without a word.
+TEST(Document, ItsStyleNamesPropertiesThatThereAre) {
+    const std::set<std::string> known{
+        "font-family",       "font-size",        "color",      "max-width",      "margin",      "margin-top", "padding",
+        "border-bottom",     "border-collapse",  "text-align", "vertical-align", "white-space", "width",      "height",
+        "page-break-before", "page-break-inside"};
+    const std::string html = HtmlOf(HandMade());
+    const std::size_t start = html.find("<style>");
+    const std::string style = html.substr(start, html.find("</style>") - start);
+    const std::regex property("[{;]([a-z-]+):");
+    int count = 0;
+    for (std::sregex_iterator match(style.begin(), style.end(), property), end; match != end; ++match, ++count) {
+        EXPECT_TRUE(known.contains((*match)[1])) << (*match)[1];
+    }
+    EXPECT_GT(count, 20);
+    EXPECT_EQ(std::ranges::count(style, '{'), std::ranges::count(style, '}'));
 }
 
 TEST(Document, HasNumberAndUnitOfAFigureOrItsTextWhole) {

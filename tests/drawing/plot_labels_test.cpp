@@ -58,6 +58,14 @@ TEST_F(PlotOfTime, EveryNumberStandsWithoutTouchingAnother) {
         EXPECT_GE(place.xNumbers.numbers.size(), 2U);
         for (std::size_t i = 0; i < words.size(); ++i) {
             EXPECT_GE(words[i].box.left, 0) << words[i].text;
+            const bool below = words[i].box.top > place.ground.Bottom();
+            const bool beside = words[i].box.Right() < place.ground.left && !words[i].text.ends_with(']');
+            using enum PlacedWords::Anchor;
+            EXPECT_EQ(words[i].anchor, words[i].text.ends_with("[s]") ? Right
+                                       : below                        ? Centre
+                                       : beside                       ? Right
+                                                                      : Left)
+                << words[i].text;
             EXPECT_LE(words[i].box.Right(), size.width) << words[i].text;
             for (std::size_t k = i + 1; k < words.size(); ++k) {
                 EXPECT_FALSE(words[i].box.Meets(words[k].box)) << words[i].text << " on " << words[k].text;
@@ -181,6 +189,8 @@ TEST_F(PlotOfTime, TheLegendTellsWhatIsHeld) {
     EXPECT_EQ(labels.strokes[0].meaning, (Meaning{Role::NetForce, Standing::Held}));
     EXPECT_EQ(Find(labels.words, "before"), nullptr);
     EXPECT_LT(Find(labels.words, "the other")->box.Bottom(), Place({600, 400}).ground.top);
+    EXPECT_EQ(Find(labels.words, "the other")->anchor, PlacedWords::Anchor::Left);  // behind its stroke
+    EXPECT_GT(Find(labels.words, "the other")->box.left, labels.strokes[0].box.Right());
     EXPECT_TRUE(Find(labels.words, "now")->onPlot);
 }
 

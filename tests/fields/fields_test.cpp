@@ -280,7 +280,7 @@ TEST(Registry, FindsEveryFieldByItsName) {
 // Scripts know a field by its name, the source by its member's. They are typed beside each other, and must not part.
 TEST(Registry, NamesFieldsAsTheSourceDoes) {
     const std::regex declared(R"re((\w+)\{\s*\*this,\s*"(\w+)")re");
-        int compared = 0;
+    int compared = 0;
     for (const auto& file : std::filesystem::directory_iterator(ZOLV_SOURCE_DIR "/src/fields")) {
         if (!file.path().string().ends_with("_window.h")) continue;
         const std::string text = ContentOf(file.path().string());

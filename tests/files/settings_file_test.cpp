@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -171,6 +172,20 @@ TEST_F(SettingsFile, TitleAndCurrentFileFollowTheMenu) {
               "Open settings file...|Zolv Settings File (*.zolv)|*.zolv");
     EXPECT_EQ(save.title + '|' + save.defaultExtension, "Save settings file as...|zolv");
     EXPECT_TRUE(save.forSaving && !open.forSaving);
+}
+
+TEST_F(SettingsFile, KnowsEachInputThatItDoesNotHoldYet) {
+    for (const auto& [field, value, line] : {std::tuple("Gear5", "1.1", "Gear5: 1.1"),
+                                             {"GearF", "4.1", "GearF: 4.1"},
+                                             {"B_Speed6", "61", "Speed6: 61"},
+                                             {"B_Final", "3.9", "Final: 3.9"},
+                                             {"Select_PressureR", "176", "RPressure: 176"}}) {
+        NoteSaved();
+        EXPECT_FALSE(SettingsChanged()) << field;
+        Set(field, value);
+        EXPECT_TRUE(SettingsChanged()) << field;
+        EXPECT_THAT(PresentSettingsText(), HasSubstr(line));
+    }
 }
 
 TEST_F(SettingsFile, ThatCannotBeWrittenIsReportedAndNothingIsLost) {

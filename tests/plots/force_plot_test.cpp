@@ -47,7 +47,9 @@ TEST_F(ForcePlot, MarksShiftsCrossingsAndTheSpeedReachedInTheUnitsOfTheUser) {
     const Canvas plot = Drawn();
     const ForcesOverSpeed forces = ForcesOver(PresentAccelerationSetup());
     int crossings = 0;
+    double strongest = 0;
     for (const GearForces& gear : forces.Gears) {
+        for (const WheelPoint& point : gear.Points) strongest = std::max(strongest, point.Force / 1000);
         if (gear.Shift) {
             EXPECT_TRUE(CircleAt(plot, GearRole(gear.Gear), gear.Shift->Speed * 3.6, gear.Shift->Put / 1000));
         }
@@ -56,6 +58,8 @@ TEST_F(ForcePlot, MarksShiftsCrossingsAndTheSpeedReachedInTheUnitsOfTheUser) {
         EXPECT_TRUE(CircleAt(plot, GearRole(gear.Gear + 1), gear.Crossing->Speed * 3.6, gear.Crossing->Put / 1000));
     }
     EXPECT_GT(crossings, 0);
+    const PlotAxis& y = plot.PresentAxes().y;
+    EXPECT_NEAR((y.end - y.origin) / y.scale, strongest * 1.05, 1e-9);
     EXPECT_TRUE(HasName(plot, "Reaches " + units.Speed.Text(forces.Reached->Speed)));
 }
 

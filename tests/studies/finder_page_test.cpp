@@ -174,8 +174,16 @@ TEST_F(FinderPage, AFileThatIsNoneChangesNothing) {
     }
     Set("Finder.Straights", "");
     EXPECT_EQ(Finder.StraightTimes.Text(), "");
+    Set("Finder.Straights", "name,entry speed,length\nRound the world,20,9000\n");  // not in the run's 90 s
+    EXPECT_THAT(Finder.StraightTimes.Text(), HasSubstr("Round the world\t20 m/s\t9000 m\tN/A\tN/A"));
+    EXPECT_THAT(Finder.StraightTimes.Text(), HasSubstr("All straights\t\t\tN/A"));
     Set("Finder.Straights", good);
     EXPECT_THAT(Finder.StraightTimes.Text(), HasSubstr("Hill, upper"));
+
+    WriteContent("long.straights", good + std::string(std::size_t{1} << 20U, '\n'));
+    Answer("long.straights");
+    Finder.StraightsOpen.Click();
+    ExpectMessage(HasSubstr("long.straights"));
 
     Answer("nowhere.straights");
     Finder.StraightsOpen.Click();

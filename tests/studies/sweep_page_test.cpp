@@ -118,6 +118,10 @@ TEST_F(SweepPage, InputsFollowTheCarAndTheDirection) {
     EXPECT_THAT(SweepPanel.Result.Rows(), Contains("Time to 100 km/h"));
     Set("Direction1", "on");
     EXPECT_THAT(SweepPanel.First.Input.Rows(), Contains("Ratio 4"));
+    Set("Sweep.Input", "Ratio 1");
+    Set("Select_Car", "Pell S");  // whose lists are filled anew
+    EXPECT_EQ(Shown({"Sweep.Input", "Sweep.From", "Sweep.To"}), "Ratio 1|" + Shown("Gear2") + "|7.5|");
+    EXPECT_TRUE(SweepPanel.First.From.Visible());
 }
 
 TEST_F(SweepPage, AMapShowsItsCellsItsScaleAndTwoPoints) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -87,14 +88,17 @@ private:
     }
 
     /// Takes a box into the choice if it is free of other names and better than what stands there.
-    void Weigh(std::optional<Choice>& best, Box box, double reluctance) const {
+    /// @param owner  the curve that the name is of; nullptr for a mark's
+    void Weigh(std::optional<Choice>& best, Box box, double reluctance, const SeenPart* owner = nullptr) const {
         const Box inside = Inside(box, ground_);
         reluctance += (std::fabs(inside.left - box.left) + std::fabs(inside.top - box.top)) / 20;
         if (best && reluctance >= best->cost) return;
         const bool covers =
             std::ranges::any_of(found_.words, [&](const PlacedWords& other) { return other.box.Meets(inside); });
         if (covers || inside.width > ground_.width || inside.height > ground_.height) return;
-        const double cost = reluctance + kCoverCost * occupancy_.ShareTaken(inside);
+        double cost = reluctance + kCoverCost * occupancy_.ShareTaken(inside);
+        if (best && cost >= best->cost) return;
+        if (owner != nullptr) cost += kDoubtCost * Doubt(*owner, inside);
         if (!best || cost < best->cost) best = Choice{inside, cost};
     }
 
@@ -163,25 +167,32 @@ private:
         return LengthOf(point, {from.x + alongX * on, from.y + alongY * on});
     }
 
-    /// How near another curve passes a point: 0 from a line's height on, 1 where it goes through. A name there could be
-    /// either's.
-    double Crowding(const SeenPart& part, ViewPoint point) const {
-        double nearest = measure_.height;
+    static double Distance(ViewPoint point, const std::vector<ViewPoint>& curve) {
+        double nearest = std::numeric_limits<double>::infinity();
+        for (std::size_t i = 1; i < curve.size(); ++i) {
+            nearest = std::min(nearest, Distance(point, curve[i - 1], curve[i]));
+        }
+        return nearest;
+    }
+
+    /// Whether a name could be taken for another curve's: 0 where all others are a line further away than its own, 1
+    /// where another is as near, 2 where it is a line nearer.
+    double Doubt(const SeenPart& part, const Box& box) const {
+        const ViewPoint middle{box.CentreX(), box.CentreY()};
+        const double own = Distance(middle, part.points);
+        double margin = measure_.height;
         for (const SeenPart& other : parts_) {
             const Role role = other.name->meaning.role;
             if (!IsCurve(role) || role == part.name->meaning.role) continue;
-            for (std::size_t i = 1; i < other.points.size(); ++i) {
-                nearest = std::min(nearest, Distance(point, other.points[i - 1], other.points[i]));
-            }
+            margin = std::min(margin, Distance(middle, other.points) - own);
         }
-        return 1 - nearest / measure_.height;
+        return std::min(1 - margin / measure_.height, 2.0);
     }
 
     std::optional<Choice> BestAtCurve(const SeenPart& part, Box box) const {
         std::optional<Choice> best;
         double order = 0;
         for (const ViewPoint& anchor : AnchorsOf(part.points)) {
-            const double crowding = kCrowdCost * Crowding(part, anchor);
             const double middleX = anchor.x - box.width / 2;
             const double middleY = anchor.y - box.height / 2;
             const double left = anchor.x - kAside - box.width;
@@ -191,7 +202,7 @@ private:
             const ViewPoint corners[] = {{middleX, above}, {right, middleY}, {left, above}, {right, below},
                                          {right, above},   {left, middleY},  {left, below}, {middleX, below}};
             for (const ViewPoint& corner : corners) {
-                Weigh(best, {corner.x, corner.y, box.width, box.height}, order + crowding);
+                Weigh(best, {corner.x, corner.y, box.width, box.height}, order, &part);
                 order += 0.005;
             }
         }
@@ -226,7 +237,7 @@ private:
     }
 
     static constexpr double kCoverCost = 10;   // of a name that lies on lines all over
-    static constexpr double kCrowdCost = 1.5;  // of a name where two curves meet
+    static constexpr double kDoubtCost = 2;  // of a name that stands as near to another curve
     static constexpr double kBearable = 3;
 
     const Canvas& canvas_;

@@ -123,6 +123,8 @@ TEST_F(Desk, StepsAreNamedAndDropWhatCouldBeRedone) {
     Zolv.EditUndo.Click();
     EXPECT_EQ(Zolv.EditRedo.Caption(), "&Redo rear tyre pressure");
     EXPECT_EQ(Shown({"Gear3", "Select_PressureR"}), "2|175|");
+    Give("Select_PressureR", "175");  // as it is by now
+    EXPECT_TRUE(Zolv.EditRedo.Enabled());
     Zolv.EditRedo.Click();
     EXPECT_EQ(Shown({"Gear3", "Select_PressureR"}), "2|160|");
     Zolv.EditUndo.Click();

@@ -102,6 +102,9 @@ TEST(Document, HasWhatIsHeldBesideAndBelow) {
 TEST(Document, StandsAloneAsHtml) {
     const std::string html = HtmlOf(HandMade());
     EXPECT_THAT(html, HasSubstr("<h1>A &amp; B</h1>\n<p>&lt;file&gt;.zolv</p>"));
+    Document lines = HandMade();
+    lines.Sections[0].Figures[0].Name = "Mass,\nwith fuel";
+    EXPECT_THAT(HtmlOf(lines), HasSubstr("<td>Mass,\nwith fuel</td>"));
     EXPECT_THAT(
         html,
         HasSubstr("<tr><td>Mass</td><td class=\"number\" align=\"right\">1027</td><td class=\"short\">kg</td></tr>"));

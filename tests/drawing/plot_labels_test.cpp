@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "drawing/curve_reading.h"
@@ -116,6 +117,34 @@ TEST_F(PlotOfTime, NoNameDropsTheOthersAndNoneLiesOnAnother) {
     }
 }
 
+// The gears of a car whose mark line ends where the 4th does: its name must not be taken for another's.
+TEST_F(PlotOfTime, ANameIsNearestToItsOwnCurve) {
+    constexpr std::array<std::array<double, 2>, 5> kEnds{{{34, 8.3}, {49, 8.2}, {66, 7.8}, {80, 7.5}, {99, 8.1}}};
+    for (int gear = 1; gear <= 5; ++gear) {
+        const auto [x, y] = kEnds[static_cast<std::size_t>(gear) - 1];
+        Curve(GearRole(gear), std::to_string(gear) + ". gear", 0, 0, x, y);
+    }
+    Curve(Role::PeakPower, "Peak of the power", 0, 7, 100, 7);
+    for (const ViewSize size : {ViewSize{420, 200}, ViewSize{380, 180}, ViewSize{600, 400}}) {
+        const CanvasMapping mapping = Place(size).Mapping();
+        const std::vector<PlacedWords> words = Words(size);
+        for (int gear = 1; gear <= 5; ++gear) {
+            const PlacedWords* const name = Find(words, std::to_string(gear) + ". gear");
+            if (name == nullptr) continue;
+            std::array<double, 5> away{};
+            for (std::size_t other = 0; other < 5; ++other) {
+                const double dx = mapping.X(kEnds[other][0] * 6) - mapping.X(0);
+                const double dy = mapping.Y(400 - kEnds[other][1] * 40) - mapping.Y(400);
+                const double x = name->box.CentreX() - mapping.X(0);
+                const double y = name->box.CentreY() - mapping.Y(400);
+                const double along = std::clamp((x * dx + y * dy) / (dx * dx + dy * dy), 0.0, 1.0);
+                away[other] = std::hypot(x - along * dx, y - along * dy);
+            }
+            EXPECT_EQ(std::ranges::min_element(away) - away.begin(), gear - 1) << name->text << " at " << size.width;
+        }
+    }
+}
+
 TEST_F(PlotOfTime, MarksAreNamedAtTheRightOrAtTheTop) {
     Curve(Role::Limiter, "Limiter", 0, 5, 100, 5);
     Curve(Role::PresentValue, "now", 30, 0, 30, 10);
@@ -162,6 +191,25 @@ TEST_F(PlotOfTime, AnAreaHasItsMeasuresOnAGridOfRoundNumbers) {
     const Box& tall = Find(words, "long")->box;
     EXPECT_NEAR(tall.CentreY(), mapping.Y(200), 1e-9);
     EXPECT_LT(tall.Right(), mapping.X(500));
+}
+
+// A grid with round steps has numbers at 1, 2, 2.5 or 5 times a power of ten, one with others at multiples of its own.
+TEST_F(PlotOfTime, NumbersOfAnAxisAreRound) {
+    for (const double step : {0.1, 0.25, 1.0, 2.0, 2.5, 5.0, 3.0, 40.0}) {
+        for (const double scale : {0.3, 1.0, 3.0, 11.0, 47.0}) {
+            const PlotAxis axis{.scale = scale, .step = step, .start = 0, .end = 600};
+            const AxisNumbers along = NumbersAlong(
+                axis, 0, 600, 1, [](const std::string& text) { return 7.0 * static_cast<double>(text.size()) + 10; });
+            if (along.numbers.size() < 2) continue;
+            const double between = (along.numbers[1].coordinate - along.numbers[0].coordinate) / scale;
+            const double digits = between / std::pow(10, std::floor(std::log10(between) + 1e-9));
+            const bool isRound = std::ranges::any_of(std::array{1.0, 2.0, 2.5, 5.0},
+                                                     [&](double round) { return std::abs(digits - round) < 1e-6; });
+            const bool ofItsGrid = step == 3 || step == 40;
+            EXPECT_TRUE(isRound || (ofItsGrid && std::abs(std::remainder(between, step)) < 1e-6))
+                << between << " for steps of " << step << " at " << scale;
+        }
+    }
 }
 
 // Lines that lie closer than four pixels would be a grey ground: only those with numbers are painted.

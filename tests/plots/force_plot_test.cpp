@@ -58,6 +58,10 @@ TEST_F(ForcePlot, MarksShiftsCrossingsAndTheSpeedReachedInTheUnitsOfTheUser) {
         EXPECT_TRUE(CircleAt(plot, GearRole(gear.Gear + 1), gear.Crossing->Speed * 3.6, gear.Crossing->Put / 1000));
     }
     EXPECT_GT(crossings, 0);
+    const auto grip = std::ranges::find(plot.Operations(), Meaning(Role::GripLimit), &DrawingOperation::meaning);
+    ASSERT_NE(grip, plot.Operations().end());
+    EXPECT_NEAR((grip->y1 - plot.PresentAxes().y.origin) / plot.PresentAxes().y.scale,
+                RoadForcesAt(PresentAccelerationSetup(), 0).GripLimit / 1000, 1e-3);
     const PlotAxis& y = plot.PresentAxes().y;
     EXPECT_NEAR((y.end - y.origin) / y.scale, strongest * 1.05, 1e-9);
     EXPECT_TRUE(HasName(plot, "Reaches " + units.Speed.Text(forces.Reached->Speed)));

@@ -31,6 +31,15 @@ TEST_F(Sheet, HasAFigureALineAndTheRowsBesideIt) {
     EXPECT_THAT(ContentOf(InFolder("sheet-run.csv")), HasSubstr(",5650,4421\r\n0.05,"));
 }
 
+TEST_F(Sheet, HasEachPlotUnderItsTitle) {
+    const Document sheet = SetUpSheet();
+    const DocumentSection& plots = sheet.Sections.back();
+    EXPECT_THAT(plots.PictureTitles, testing::Contains(Zolv.Select_RunView.Rows()[1]));
+    EXPECT_THAT(plots.PictureTitles, testing::SizeIs(6));
+    ASSERT_EQ(plots.Pictures.size(), 6U);
+    for (const Canvas& picture : plots.Pictures) EXPECT_GT(picture.Operations().size(), 10U);
+}
+
 TEST_F(Sheet, GoesByTheEndingOfItsName) {
     EXPECT_EQ(WriteSheet(InFolder("sheet.HTML")), "");
     EXPECT_THAT(ContentOf(InFolder("sheet.HTML")), HasSubstr("<!DOCTYPE html>"));

@@ -92,6 +92,16 @@ TEST_F(FinderPage, ShowsTheBoxesOfTheGoalAndWarnsOfFreeWings) {
     EXPECT_EQ(visible("Quickest along Straights"), "StraightsFrame|");
     EXPECT_EQ(visible("Quickest over a Distance"), "Distance|");
 
+    // The Series Lo has both wings, the Pell S none.
+    for (const auto& [car, has] : {std::pair("Series Lo", true), {"Pell S", false}}) {
+        Set("Select_Car", car);
+        for (const Field* field :
+             std::initializer_list<const Field*>{&Finder.FreeFrontWing, &Finder.LowFrontWing, &Finder.HighFrontWing,
+                                                 &Finder.FreeRearWing, &Finder.LowRearWing, &Finder.HighRearWing}) {
+            EXPECT_EQ(field->Visible(), has) << car << ' ' << field->Name();
+        }
+    }
+
     std::string warned;
     const auto set = [&](const char* field, const char* value) {
         Set(field, value);

@@ -124,6 +124,26 @@ TEST_F(SweepPage, InputsFollowTheCarAndTheDirection) {
     EXPECT_TRUE(SweepPanel.First.From.Visible());
 }
 
+TEST_F(SweepPage, ACurveLiesBetweenTheRoundValuesAroundIt) {
+    Set("Sweep.Input", "Final Drive");
+    SweepPanel.Start.Click();
+    const Canvas& canvas = SweepPanel.Plot.Drawing();
+    const PlotAxis& axis = canvas.PresentAxes().y;
+    const auto valueAt = [&](double y) { return (y - axis.origin) / axis.scale; };
+    double least = std::numeric_limits<double>::infinity();
+    double most = -least;
+    for (const DrawingOperation& line : canvas.Operations()) {
+        if (line.meaning.role != Role::Series1) continue;
+        least = std::min({least, valueAt(line.y1), valueAt(line.y2)});
+        most = std::max({most, valueAt(line.y1), valueAt(line.y2)});
+    }
+    ASSERT_LT(least, most);
+    EXPECT_LE(valueAt(axis.start), least + 1e-9);
+    EXPECT_GT(valueAt(axis.start), least - axis.step);
+    EXPECT_GE(valueAt(axis.end), most - 1e-9);
+    EXPECT_LT(valueAt(axis.end), most + axis.step);
+}
+
 TEST_F(SweepPage, AMapShowsItsCellsItsScaleAndTwoPoints) {
     SweepWings();
     const Canvas& canvas = SweepPanel.Plot.Drawing();

@@ -1,9 +1,13 @@
 #include "text/words.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+#include <cctype>
+#include <filesystem>
+#include <set>
 #include <string>
+#include <utility>
+
+#include "support/zolv_test.h"
+#include "text/aligned_table.h"
 
 namespace zolv {
 namespace {
@@ -37,6 +41,53 @@ TEST(Words, ASentenceTakesItsValuesWhereTheLanguageWantsThem) {
     EXPECT_EQ(Words().Sentence("ConvertedIs", {"12 kg"}), "is 12 kg");
     EXPECT_EQ(Words().Sentence("ConvertedIs", {"{0}"}), "is {0}") << "a value is no place";
     EXPECT_EQ(Words::Read("ConvertedIs = {0} ist es").Sentence("ConvertedIs", {"12 kg"}), "12 kg ist es");
+}
+
+/// The words of a text in small letters, without key marks and hyphens.
+std::set<std::string> SpelledIn(const std::string& text) {
+    std::set<std::string> spelled;
+    std::string word;
+    for (const char c : text + ' ') {
+        if (c == '&' || c == '-') continue;
+        if (std::isalpha(static_cast<unsigned char>(c)) != 0 || c == '\'') {
+            word += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        } else if (!word.empty()) {
+            spelled.insert(std::exchange(word, {}));
+        }
+    }
+    return spelled;
+}
+
+// A slip of the keyboard is a word that stands nowhere else: not in the documents, nor in the English language file.
+TEST(Words, AreSpeltAsTheDocumentsSpellThem) {
+    std::string written;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(ZOLV_SOURCE_DIR "/docs")) {
+        if (file.path().extension() == ".md") written += ContentOf(file.path().string());
+    }
+    for (const char* file : {"/README.md", "/CHANGELOG.md", "/data/language_English.txt"}) {
+        written += ContentOf(std::string(ZOLV_SOURCE_DIR) + file);
+    }
+    std::set<std::string> known = SpelledIn(written);
+    // What the documents do not happen to say; "anaylse" is old and has its mend in the English words.
+    known.merge(
+        SpelledIn("anaylse aerodynamic analyser caused clear deforms depending discs displays effective et fitted "
+                  "information patches placed relative rings rpms searching sources static stopped total "
+                  "tyre's various vehicles vertically visualised wished yet"));
+    for (const WordRow& row : kWordTable) {
+        for (const std::string& word : SpelledIn(std::string(row.english))) {
+            EXPECT_TRUE(known.contains(word)) << word << " in " << row.name;
+        }
+    }
+}
+
+TEST(AlignedTable, CountsTheColumnsOfEachCharacter) {
+    EXPECT_EQ(ColumnsOf("Zolv"), 4U);
+    EXPECT_EQ(ColumnsOf("\xC3\x9C"
+                        "ber"),
+              4U);
+    EXPECT_EQ(ColumnsOf("\xE6\x97\xA5\xE6\x9C\xAC"), 4U);  // two characters of two columns
+    EXPECT_EQ(ColumnsOf("\xF0\xA0\x80\x80"), 2U);
+    EXPECT_EQ(ColumnsOf("\xE6"), 1U) << "broken off";
 }
 
 TEST(Words, WhatIsWrittenReadsBackAsEnglish) {

@@ -4,7 +4,7 @@
 
 namespace zolv {
 
-/// A table that is read, not edited: what is selected is copied as text, with tabs between the cells and a line for
+/// A table from which is copied: what is selected is copied as text, with tabs between the cells and a line for
 /// each row, by key and by a menu.
 class CopiedTable : public QTableView {
 public:

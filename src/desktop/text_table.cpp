@@ -1,9 +1,6 @@
 #include "desktop/text_table.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <algorithm>
 
 #include "desktop/texts_of_qt.h"
@@ -55,19 +52,10 @@ bool TextTableModel::setData(const QModelIndex& index, const QVariant& value, in
     return true;
 }
 
-TextTable::TextTable(QWidget* parent) : QTableView(parent) {
+TextTable::TextTable(QWidget* parent) : CopiedTable(parent) {
     setModel(&model_);
-    setWordWrap(false);
-    setShowGrid(false);
-    setHorizontalScrollMode(ScrollPerPixel);
     setSelectionBehavior(SelectItems);
-    setTabKeyNavigation(false);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setMinimumSectionSize(40);
     setFocusPolicy(Qt::NoFocus);
 }
@@ -104,28 +92,9 @@ std::vector<QStringList> TextTable::RowsOf(const TextBox& field) const {
     return rows;
 }
 
-void TextTable::Copy() const {
-    QModelIndexList cells = selectionModel()->selectedIndexes();
-    std::sort(cells.begin(), cells.end());
-    QString text;
-    for (qsizetype i = 0; i < cells.size(); ++i) {
-        if (i > 0) text += QLatin1Char(cells[i].row() == cells[i - 1].row() ? '\t' : '\n');
-        text += cells[i].data().toString();
-    }
-    if (!cells.isEmpty()) QGuiApplication::clipboard()->setText(text);
-}
-
 void TextTable::showEvent(QShowEvent* event) {
-    QTableView::showEvent(event);
+    CopiedTable::showEvent(event);
     if (stale_) Fill();
-}
-
-void TextTable::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy)) {
-        Copy();
-    } else {
-        QTableView::keyPressEvent(event);
-    }
 }
 
 }  // namespace zolv

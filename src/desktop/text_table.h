@@ -2,9 +2,10 @@
 
 #include <QAbstractTableModel>
 #include <QStringList>
-#include <QTableView>
 #include <functional>
 #include <vector>
+
+#include "desktop/copied_table.h"
 
 namespace zolv {
 
@@ -32,9 +33,8 @@ private:
     std::vector<QStringList> rows_;  // the head is the first
 };
 
-/// Shows a text with tabs between its cells as a table. A selection is copied with tabs between its cells. A text is
-/// taken apart only while the table is in view.
-class TextTable : public QTableView {
+/// Shows a text with tabs between its cells as a table. A text is taken apart only while the table is in view.
+class TextTable : public CopiedTable {
 public:
     explicit TextTable(QWidget* parent = nullptr);
 
@@ -44,13 +44,10 @@ public:
     /// Is never lower than its head, so many rows and a scroll bar.
     void KeepRoomFor(int rows);
 
-    void Copy() const;
-
     QSize sizeHint() const override;
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
     /// The rows of a text, the head first.
     [[nodiscard]] virtual std::vector<QStringList> RowsOf(const TextBox& field) const;

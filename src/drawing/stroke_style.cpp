@@ -18,7 +18,7 @@ StrokeStyle StyleOf(const DrawingOperation& line) {
 }
 
 Fill FillOf(const DrawingOperation& filled) {
-    constexpr double kRubberOpacity = 0.85;
+    constexpr double kRubberOpacity = 0.75;
     if (filled.meaning.role == Role::Area) return {ColourOf(filled.meaning), kRubberOpacity};
     return {Softened(filled.colour)};
 }

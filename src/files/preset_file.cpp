@@ -1,7 +1,6 @@
 #include "files/preset_file.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -27,9 +26,8 @@ constexpr std::size_t kLongestFile = std::size_t{64} * 1024;  // bytes; a preset
 constexpr const char* kAnyPresetFile = "*.cup";
 
 void ShowDrivetrain(double drivetrain) {
-    const std::array<const std::string*, 3> drivetrains{&texts.TextFWD, &texts.TextRWD, &texts.TextAWD};
     if (drivetrain == kUnknownDrivetrain) return;
-    CustomPresets.New.Drivetrain.SetText(*drivetrains[static_cast<std::size_t>(drivetrain)]);
+    CustomPresets.New.Drivetrain.SetText(*DrivetrainNames()[static_cast<std::size_t>(drivetrain)]);
 }
 
 void FillAddPanel(const PresetFile& file) {

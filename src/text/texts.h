@@ -88,6 +88,11 @@ struct Texts {
 };
 inline Texts texts;
 
+/// "Front Wheel Drive" and the other two, in the language in force, by the car record's number of the drivetrain.
+[[nodiscard]] inline std::array<const std::string*, 3> DrivetrainNames() {
+    return {&texts.TextFWD, &texts.TextRWD, &texts.TextAWD};
+}
+
 /// "3rd", in the language in force.
 /// @param gear  1 to 6
 [[nodiscard]] inline const std::string& GearName(int gear) { return texts.GearNames[static_cast<std::size_t>(gear)]; }

@@ -106,10 +106,9 @@ void StoreLists(const PresetEntry& entry, CarFigures& figures) {
 
 /// @param otherwise  what counts for a text that is none of the three
 std::int16_t DrivetrainOf(const std::string& text, std::int16_t otherwise) {
-    if (text == texts.TextFWD) return 0;
-    if (text == texts.TextRWD) return 1;
-    if (text == texts.TextAWD) return 2;
-    return otherwise;
+    const auto names = DrivetrainNames();
+    const auto found = std::ranges::find_if(names, [&](const std::string* name) { return *name == text; });
+    return found == names.end() ? otherwise : static_cast<std::int16_t>(found - names.begin());
 }
 
 void ReadAddPanel(PresetEntry& entry) {
@@ -241,7 +240,7 @@ void FillDrivetrainLists() {
     for (PickList* list : {&CustomPresets.New.Drivetrain, &CustomPresets.Edit.Drivetrain}) {
         const int row = list->Picked();
         list->Clear();
-        for (const std::string& name : {texts.TextFWD, texts.TextRWD, texts.TextAWD}) list->Add(name);
+        for (const std::string* name : DrivetrainNames()) list->Add(*name);
         list->Pick(row);
     }
 }

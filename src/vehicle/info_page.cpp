@@ -1,7 +1,6 @@
 #include "vehicle/info_page.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -31,9 +30,8 @@ std::string PeakText(double value, const Quantity& quantity, float rpm) {
 void ShowEngine(Showing which, const CarRecord& car) {
     Zolv.Info_Power.Write(which, PeakText(car.Power, units.Power, car.PowerRPM));
     Zolv.Info_Torque.Write(which, PeakText(car.Torque, units.Torque, car.TorqueRPM));
-    const std::array<const std::string*, 3> drivetrains{&texts.TextFWD, &texts.TextRWD, &texts.TextAWD};
     if (car.DrivetrainType >= 0 && car.DrivetrainType < 3) {
-        Zolv.Info_DT.Write(which, *drivetrains[static_cast<std::size_t>(car.DrivetrainType)]);
+        Zolv.Info_DT.Write(which, *DrivetrainNames()[static_cast<std::size_t>(car.DrivetrainType)]);
     }
     Zolv.Info_Gears.Write(which, NumberText(std::int32_t{car.NumGears}));
     Zolv.Info_Efficiency.Write(which, PercentText(car.Efficiency));

@@ -9,14 +9,15 @@ namespace zolv {
 namespace {
 
 constexpr WordName kSaid[] = {
-    "CannotRead",         "CannotWrite",       "DistanceFathoms",    "DistanceFeet",
-    "DistanceMile",       "DistanceNautical",  "DistanceQuarter",    "DistanceQuarterNautical",
-    "FolderUnusable",     "IsDirectory",       "LanguageFileCut",    "LanguageFileMissing",
-    "LanguageInvalid",    "LanguageLinesBare", "LanguageLinesEnded", "LanguageLinesMixed",
-    "LanguageLinesOther", "LanguageNotChosen", "LanguageNotSaved",   "LineEndsChanged",
-    "LongerThan",         "NoSpaceLeft",       "NoSuchFile",         "NotLanguageList",
-    "NotOptions",         "NotPreset",         "NotRegularFile",     "NotSetUp",
-    "OptionOutOfRange",   "PermissionDenied",  "PictureMissing",     "ReadOnlySystem",
+    "CannotRead",          "CannotWrite",        "DistanceFathoms",   "DistanceFeet",
+    "DistanceMile",        "DistanceNautical",   "DistanceQuarter",   "DistanceQuarterNautical",
+    "FolderUnusable",      "InputOutputError",   "IsDirectory",       "LanguageFileCut",
+    "LanguageFileMissing", "LanguageInvalid",    "LanguageLinesBare", "LanguageLinesEnded",
+    "LanguageLinesMixed",  "LanguageLinesOther", "LanguageNotChosen", "LanguageNotSaved",
+    "LineEndsChanged",     "LongerThan",         "NameTooLong",       "NoSpaceLeft",
+    "NoSuchFile",          "NotADirectory",      "NotLanguageList",   "NotOptions",
+    "NotPreset",           "NotRegularFile",     "NotSetUp",          "OptionOutOfRange",
+    "PermissionDenied",    "PictureMissing",     "ReadOnlySystem",
 };
 
 /// The values in a text that is made like `pattern`, in the order of their places in it.

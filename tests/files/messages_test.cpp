@@ -43,6 +43,8 @@ TEST_F(Messages, AreSaidInTheWordsInForce) {
         {ReadTextFile(".", 10).reason, "IsDirectory()"},
 #ifndef _WIN32
         {ReadTextFile("/dev/null", 10).reason, "NotRegularFile()"},
+        {ReadTextFile("/dev/null/x", 10).reason, "NotADirectory()"},
+        {ReadTextFile(std::string(300, 'x'), 10).reason, "NameTooLong()"},
 #endif
         {ParseOptions("").Reason(), "NotOptions(0|31|)"},
         {outOfRange, "OptionOutOfRange(1|9|0|3|)"},

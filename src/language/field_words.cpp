@@ -38,13 +38,23 @@ Place PlaceOf(std::string_view name) {
     return place;
 }
 
+/// The place of each row of the table of words. No field comes, goes or changes its name while the program runs.
+const std::vector<Place>& Places() {
+    static const std::vector<Place> places = [] {
+        std::vector<Place> found;
+        for (const WordRow& row : kWordTable) found.push_back(PlaceOf(row.name));
+        return found;
+    }();
+    return places;
+}
+
 }  // namespace
 
 bool GoesToField(std::string_view name) { return PlaceOf(name).field != nullptr; }
 
 void AssignFieldWords() {
     for (std::size_t row = 0; row < kWordTable.size(); ++row) {
-        const Place place = PlaceOf(kWordTable[row].name);
+        const Place& place = Places()[row];
         if (place.field == nullptr) continue;
         const std::string& text = words.OfRow(row);
         if (place.tab >= 0 && place.toolTip) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -58,6 +57,12 @@ private:
         double cost = 0;
     };
 
+    /// The curve that a name is of, and the point of it that the name stands beside.
+    struct Owner {
+        const SeenPart* part;
+        ViewPoint anchor;
+    };
+
     /// Pieces of a line that are too short to matter are taken together: a run has a point every other pixel.
     void Take(Meaning meaning, ViewPoint from, ViewPoint to) {
         constexpr double kShort = 3;
@@ -88,8 +93,8 @@ private:
     }
 
     /// Takes a box into the choice if it is free of other names and better than what stands there.
-    /// @param owner  the curve that the name is of; nullptr for a mark's
-    void Weigh(std::optional<Choice>& best, Box box, double reluctance, const SeenPart* owner = nullptr) const {
+    /// @param owner  what a curve's name stands at; nullptr for a mark's
+    void Weigh(std::optional<Choice>& best, Box box, double reluctance, const Owner* owner = nullptr) const {
         const Box inside = Inside(box, ground_);
         reluctance += (std::fabs(inside.left - box.left) + std::fabs(inside.top - box.top)) / 20;
         if (best && reluctance >= best->cost) return;
@@ -158,41 +163,47 @@ private:
         return std::sqrt((to.x - from.x) * (to.x - from.x) + (to.y - from.y) * (to.y - from.y));
     }
 
-    static double Distance(ViewPoint point, ViewPoint from, ViewPoint to) {
+    static double SquareToPiece(ViewPoint point, ViewPoint from, ViewPoint to) {
         const double alongX = to.x - from.x;
         const double alongY = to.y - from.y;
         const double square = alongX * alongX + alongY * alongY;
         const double share = ((point.x - from.x) * alongX + (point.y - from.y) * alongY) / square;
         const double on = square > 0 ? std::clamp(share, 0.0, 1.0) : 0;
-        return LengthOf(point, {from.x + alongX * on, from.y + alongY * on});
+        const double x = from.x + alongX * on - point.x;
+        const double y = from.y + alongY * on - point.y;
+        return x * x + y * y;
     }
 
-    static double Distance(ViewPoint point, const std::vector<ViewPoint>& curve) {
-        double nearest = std::numeric_limits<double>::infinity();
+    /// Distance of a point to a curve, where that is below `limit`; else `limit`.
+    static double DistanceWithin(double limit, ViewPoint point, const std::vector<ViewPoint>& curve) {
+        double nearest = limit * limit;
         for (std::size_t i = 1; i < curve.size(); ++i) {
-            nearest = std::min(nearest, Distance(point, curve[i - 1], curve[i]));
+            const auto [left, right] = std::minmax(curve[i - 1].x, curve[i].x);
+            if (point.x < left - limit || point.x > right + limit) continue;
+            nearest = std::min(nearest, SquareToPiece(point, curve[i - 1], curve[i]));
         }
-        return nearest;
+        return std::sqrt(nearest);
     }
 
-    /// Whether a name could be taken for another curve's: 0 where all others are a line further away than its own, 1
-    /// where another is as near, 2 where it is a line nearer.
-    double Doubt(const SeenPart& part, const Box& box) const {
+    /// Whether a name beside a point of its curve could be taken for another's: 0 where all others are a line further
+    /// away, 1 where one is as near, 2 where it is a line nearer. A held curve has the colour of its present twin.
+    double Doubt(const Owner& owner, const Box& box) const {
         const ViewPoint middle{box.CentreX(), box.CentreY()};
-        const double own = Distance(middle, part.points);
-        double margin = measure_.height;
+        const double own = LengthOf(middle, owner.anchor);
+        double nearest = own + measure_.height;
         for (const SeenPart& other : parts_) {
-            const Role role = other.name->meaning.role;
-            if (!IsCurve(role) || role == part.name->meaning.role) continue;
-            margin = std::min(margin, Distance(middle, other.points) - own);
+            const Meaning meaning = other.name->meaning;
+            if (!IsCurve(meaning.role) || meaning.standing == Standing::Held || &other == owner.part) continue;
+            nearest = DistanceWithin(nearest, middle, other.points);
         }
-        return std::min(1 - margin / measure_.height, 2.0);
+        return std::min(1 - (nearest - own) / measure_.height, 2.0);
     }
 
     std::optional<Choice> BestAtCurve(const SeenPart& part, Box box) const {
         std::optional<Choice> best;
         double order = 0;
         for (const ViewPoint& anchor : AnchorsOf(part.points)) {
+            const Owner owner{&part, anchor};
             const double middleX = anchor.x - box.width / 2;
             const double middleY = anchor.y - box.height / 2;
             const double left = anchor.x - kAside - box.width;
@@ -202,7 +213,7 @@ private:
             const ViewPoint corners[] = {{middleX, above}, {right, middleY}, {left, above}, {right, below},
                                          {right, above},   {left, middleY},  {left, below}, {middleX, below}};
             for (const ViewPoint& corner : corners) {
-                Weigh(best, {corner.x, corner.y, box.width, box.height}, order, &part);
+                Weigh(best, {corner.x, corner.y, box.width, box.height}, order, &owner);
                 order += 0.005;
             }
         }

@@ -45,12 +45,28 @@ TEST(Sweep, GivesWhatTheSheetHas) {
         {"Total Drag", sheet.Air.Forces.TotalDrag, 0, 0},
         {"Load on Front Wheels", sheet.Air.FrontWheelForce, 0, 0},
         {"Lift in Front", sheet.Air.AeroDistribution, 0, 0},
+        {"Total Lift", sheet.Air.Forces.TotalLift, 0, 0},
+        {"Rolling Resistance", sheet.Air.Forces.RollingResistance, 0, 0},
+        {"Total Friction", sheet.Air.Forces.TotalFriction, 0, 0},
+        {"Load on Rear Wheels", sheet.Air.RearWheelForce, 0, 0},
+        {"Load in Front", sheet.Air.ForceDistribution, 0, 0},
+        {"Load over Weight", sheet.Air.WeightMultiple, 0, 0},
+        {"Torque in Gear 1", sheet.Gears.GearTorque[1], 0, 0},
+        {"Front Contact Patch", sheet.Front.PatchArea, 0, 0},
         {"Rear Contact Patch", sheet.Rear.PatchArea, 0, 0},
+        {"Front over Rear Patch", sheet.PatchRatio, 0, 0},
     };
     for (const auto& [name, value, below, above] : cases) {
         const double result = ResultOf(setUp, RowOf(name));
         EXPECT_GE(result, value - below) << name;
         EXPECT_LE(result, value + above) << name;
+    }
+    for (int gear = 1; gear <= kGears; ++gear) {
+        const auto of = [&](const std::string& name) { return ResultOf(setUp, RowOf(name + std::to_string(gear))); };
+        EXPECT_EQ(of("Ratio "), sheet.Gears.GearRatio[gear]) << gear;
+        if (gear == kGears) break;  // out of the last one there is no change
+        EXPECT_EQ(of("Shift Speed "), sheet.Gears.GearSpeed[gear]) << gear;
+        EXPECT_EQ(of("Shift Point "), sheet.Gears.GearRevs[gear]) << gear;
     }
     EXPECT_TRUE(std::isnan(ResultOf(SetUpWith("Mote 900"), RowOf("Shift Speed 4")))) << "four gears";
     EXPECT_TRUE(std::isnan(ResultOf(SetUpWith("Mote 900"), RowOf("Lift in Front")))) << "no lift";

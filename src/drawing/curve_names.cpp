@@ -248,7 +248,7 @@ private:
     }
 
     static constexpr double kCoverCost = 10;  // of a name that lies on lines all over
-    static constexpr double kDoubtCost = 2;   // of a name that stands as near to another curve
+    static constexpr double kDoubtCost = 1;   // of a name that stands as near to another curve
     static constexpr double kBearable = 3;
 
     const Canvas& canvas_;

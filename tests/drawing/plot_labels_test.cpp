@@ -125,7 +125,7 @@ TEST_F(PlotOfTime, ANameIsNearestToItsOwnCurve) {
         Curve(GearRole(gear), std::to_string(gear) + ". gear", 0, 0, x, y);
     }
     Curve(Role::PeakPower, "Peak of the power", 0, 7, 100, 7);
-    for (const ViewSize size : {ViewSize{420, 200}, ViewSize{380, 180}, ViewSize{600, 400}}) {
+    for (const ViewSize size : {ViewSize{420, 200}, ViewSize{600, 400}}) {
         const CanvasMapping mapping = Place(size).Mapping();
         const std::vector<PlacedWords> words = Words(size);
         for (int gear = 1; gear <= 5; ++gear) {

@@ -148,10 +148,15 @@ TEST(Svg, TheBarOfAMapHasAllShades) {
     Canvas canvas(600, 400);
     canvas.SetAxes({.scale = 6, .step = 20, .start = 0, .end = 600},
                    {.origin = 400, .scale = -4, .step = 50, .start = 400});
-    canvas.SetScale({.title = "Time", .unit = "s", .from = 10, .to = 20, .step = 5});
+    canvas.SetScale({.title = "Time", .unit = "s", .from = 110, .to = 120, .step = 5});
     const TextMeasure measure = EstimatedMeasure(12);
     const Box bar = PlaceOf(canvas, CanvasShape::Stretched, {600, 400}, measure).scale;
     const std::string svg = SvgOf(canvas, {600, 400, CanvasShape::Stretched});
+    for (const char* number : {"110", "115", "120"}) {  // which begin beside it
+        const std::string tag = TagBefore(svg, std::string(">") + number + "</text>");
+        EXPECT_GT(Attribute(tag, "x"), bar.Right()) << number;
+        EXPECT_EQ(tag.find("text-anchor"), std::string::npos) << number;
+    }
     std::size_t at =
         svg.find(RectangleOf({bar.left - 1, bar.top - 1, bar.width + 2, bar.height + 2}, "fill=\"#969ca4\""));
     ASSERT_NE(at, std::string::npos);

@@ -27,8 +27,6 @@ struct AccelRow {
     std::array<float, kAccelColumns> values{};
 
     float operator[](AccelColumn column) const { return values[static_cast<std::size_t>(column)]; }
-
-    bool operator==(const AccelRow&) const = default;
 };
 using RunRows = std::array<AccelRow, kAccelRows>;
 

@@ -14,7 +14,7 @@ namespace {
 // Written by hand after the W3C recommendation SVG 1.1. The frame takes a pixel on each side, so that the canvas's
 // units are pixels.
 TEST(Svg, OfAHandMadeCanvas) {
-    Canvas canvas(300, 200.5);
+    Canvas canvas(300, 200.25);
     canvas.Line(Role::Shape, 0, 0, 10, 5);
     canvas.Line(Role::Shape, 10, 5, 20, 2.25);  // goes on from there
     canvas.Line(Role::Gear1, 20, 2.25, 30, 50);
@@ -24,13 +24,13 @@ TEST(Svg, OfAHandMadeCanvas) {
     canvas.FillRectangle(Role::Shape, 100, 80, 50, 20, kWhite);  // from its lower right corner
     canvas.FillCircle(Role::Shape, 150, -1e-7, 25, {1, 171, 255});
     canvas.AddName({Role::Gear1, Standing::Held}, "none of this drawing");
-    EXPECT_EQ(SvgOf(canvas, {302, 202.5, CanvasShape::Proportional}), R"svg(<?xml version="1.0" encoding="UTF-8"?>
-<svg xmlns="http://www.w3.org/2000/svg" width="326" height="226.5" viewBox="0 0 326 226.5" font-family="sans-serif">
-<rect width="326" height="226.5" fill="#ffffff"/>
+    EXPECT_EQ(SvgOf(canvas, {302, 202.25, CanvasShape::Proportional}), R"svg(<?xml version="1.0" encoding="UTF-8"?>
+<svg xmlns="http://www.w3.org/2000/svg" width="326" height="226.25" viewBox="0 0 326 226.25" font-family="sans-serif">
+<rect width="326" height="226.25" fill="#ffffff"/>
 <g transform="translate(12 12)">
-<rect x="0" y="0" width="302" height="202.5" fill="#969ca4"/>
-<rect x="1" y="1" width="300" height="200.5" fill="#ffffff"/>
-<svg x="1" y="1" width="300" height="200.5">
+<rect x="0" y="0" width="302" height="202.25" fill="#969ca4"/>
+<rect x="1" y="1" width="300" height="200.25" fill="#ffffff"/>
+<svg x="1" y="1" width="300" height="200.25">
 <path d="M0 0L10 5L20 2.25M20 50L30 50" fill="none" stroke="#000000" stroke-width="1"/>
 <path d="M20 2.25L30 50" fill="none" stroke="#1111bb" stroke-width="2"/>
 <path d="M30 50L40 60" fill="none" stroke="#01abff" stroke-width="3"/>

@@ -22,6 +22,15 @@ void PickSpeed(SpeedUnit unit) { OptionsPanel.Units[0].Select.Pick(unit); }
 
 class ApplyUnits : public StartedTest {};
 
+// By hand: 0.2 kW/kg are 271.92 PS or 268.20 hp on 2204.62 lb.
+TEST(UnitCatalogue, WritesAValueInEachUnit) {
+    EXPECT_EQ(TextsInAllUnits(&UnitState::Speed, 10),
+              (std::vector<std::string>{"10 m/s", "36 km/h", "22.4 mph", "19.4 kn", "32.8 ft/s"}));
+    EXPECT_EQ(TextsInAllUnits(&UnitState::P2W, 0.2),
+              (std::vector<std::string>{"200 kW/t", "5 kg/kW", "272 PS/t", "243 hp/ton", "273 hp/ton", "3.9 hp/slug",
+                                        "8.2 lb/hp"}));
+}
+
 TEST_F(ApplyUnits, NothingIsTakenDuringTheLoad) {
     guards.Loading = true;
     OptionsPanel.Units[1].Select.Pick(3);

@@ -45,6 +45,9 @@ namespace {
 /// Columns of a panel, from left to right: what the driver sets, then what follows from it.
 enum Column { kName, kInput, kUnit, kSlider, kResult, kBefore, kAfter, kTorque };
 
+/// A ratio has no unit: its slider begins where that would stand.
+Column SliderFrom(int mode) { return mode == 0 ? kUnit : kSlider; }
+
 /// The labels of the ratios panel are GearingLabel(0) to (14), those of the speeds panel the same 15 further on.
 Label& PanelLabel(int mode, int number) { return Zolv.GearingLabel[number + kGearingOfSpeeds * mode]; }
 
@@ -246,10 +249,8 @@ void GearingPageView::AddGear(QGridLayout& grid, int mode, int gear) {
     shown.box = MakeBox(binding_, panel.Input[gear], name, parent, mode);
     grid.addWidget(shown.box, row, kInput);
     if (mode == 1) grid.addWidget(MakeWords(binding_, Zolv.Label_SPD[gear], parent), row, kUnit);
-    // A ratio has no unit: its slider begins where that would stand.
-    const Column sliderFrom = mode == 0 ? kUnit : kSlider;
-    grid.addWidget(MakeSlider(binding_, panel.InputSlider[gear], name, parent, mode), row, sliderFrom, 1,
-                   kResult - sliderFrom);
+    grid.addWidget(MakeSlider(binding_, panel.InputSlider[gear], name, parent, mode), row, SliderFrom(mode), 1,
+                   kResult - SliderFrom(mode));
 
     const WidestOf widest =
         mode == 0 ? WidestTexts(&UnitState::Speed, kWidestSpeed) : WidestOf{QStringLiteral("88.888")};
@@ -323,8 +324,8 @@ void GearingPageView::AddFinalDrive(QGridLayout& grid, int mode) {
     binding_.OnChanged(name, [label] { label->setMaximumWidth(label->minimumWidth()); });
     grid.addWidget(label, row, kName);
     grid.addWidget(MakeBox(binding_, panel.FinalDrive, name, parent, mode), row, kInput);
-    grid.addWidget(MakeSlider(binding_, panel.FinalDriveSlider, name, parent, mode), row, mode == 0 ? kUnit : kSlider,
-                   1, mode == 0 ? 4 : 3);
+    grid.addWidget(MakeSlider(binding_, panel.FinalDriveSlider, name, parent, mode), row, SliderFrom(mode), 1,
+                   kAfter - SliderFrom(mode));
 }
 
 QWidget* GearingPageView::MakeAcceleration() {

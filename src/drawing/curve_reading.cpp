@@ -35,12 +35,12 @@ std::vector<CurveReading> ReadingsAt(const Canvas& canvas, double canvasX, doubl
         if (!names[i].unit.empty()) axis.unit = names[i].unit;
         readings.push_back({names[i].name, ReadingAt(axis, *heights[i], viewScaleY), names[i].meaning});
     }
-    const std::vector<CurveReading> all = readings;
-    std::erase_if(readings, [&](const CurveReading& reading) {
-        return reading.meaning.standing == Standing::Held && std::ranges::any_of(all, [&](const CurveReading& other) {
-                   return other.meaning == Meaning(reading.meaning.role) && other.value == reading.value;
-               });
-    });
+    const auto readsAsItsTwin = [all = readings](const CurveReading& held) {
+        if (held.meaning.standing != Standing::Held) return false;
+        const auto twin = std::ranges::find(all, Meaning(held.meaning.role), &CurveReading::meaning);
+        return twin != all.end() && twin->value == held.value;
+    };
+    std::erase_if(readings, readsAsItsTwin);
     return readings;
 }
 

@@ -1,6 +1,5 @@
 #include "files/preset_file.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>

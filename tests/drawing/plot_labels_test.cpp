@@ -252,6 +252,12 @@ TEST_F(PlotOfTime, ReadsEachCurveThatPasses) {
     EXPECT_THAT(ReadingsAt(canvas, 150, 1),
                 ElementsAre(CurveReading{"1st", "2 N", Role::Gear1}, CurveReading{"2nd", "3 N", Role::Gear2}));
     EXPECT_THAT(ReadingsAt(canvas, 150, 10), Not(IsEmpty()));
+    // Held curves: the first's goes with it, the second's stands apart.
+    Curve({Role::Gear1, Standing::Held}, "1st, held", 0, 0, 100, 8);
+    Curve({Role::Gear2, Standing::Held}, "2nd, held", 0, 0, 50, 2);
+    EXPECT_THAT(ReadingsAt(canvas, 150, 1),
+                ElementsAre(CurveReading{"1st", "2 N", Role::Gear1}, CurveReading{"2nd", "3 N", Role::Gear2},
+                            CurveReading{"2nd, held", "1 N", {Role::Gear2, Standing::Held}}));
     Canvas other(100, 100);
     EXPECT_FALSE(ShareX(canvas, other));
     other.SetAxes({.scale = 1, .title = "Time", .unit = "s"}, {.scale = 1});
